@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/base/Export.h"
+#include "platform/base/WinTypes.h"
+
+#include <atomic>
+#include <mutex>
+#include <thread>
+
+// A mutex of this process that its owner may lock again; every lock needs its unlock.
+class CMutex
+{
+  public:
+    WQSPCFG_API explicit CMutex(BOOL initiallyOwn = FALSE);
+    CMutex(const CMutex&) = delete;
+    CMutex& operator=(const CMutex&) = delete;
+    ~CMutex() = default;
+
+    // FALSE when the mutex could not be had within `timeout` milliseconds.
+    WQSPCFG_API BOOL Lock(DWORD timeout = INFINITE);
+    // FALSE when the calling thread does not own the mutex.
+    WQSPCFG_API BOOL Unlock();
+
+  private:
+    std::recursive_timed_mutex m_mutex;
+    std::atomic<std::thread::id> m_owner;
+    unsigned m_depth = 0; // the owner's
+};
+
+// Unlocks at the end of its scope what it has locked.
+class CSingleLock
+{
+  public:
+    explicit CSingleLock(CMutex* mutex, BOOL initialLock = FALSE) : m_mutex(mutex)
+    {
+        if (initialLock) {
+            Lock();
+        }
+    }
+    CSingleLock(const CSingleLock&) = delete;
+    CSingleLock& operator=(const CSingleLock&) = delete;
+    ~CSingleLock() { Unlock(); }
+
+    // Locking what this object has locked already changes nothing.
+    BOOL Lock(DWORD timeout = INFINITE)
+    {
+        m_locked = m_locked || m_mutex->Lock(timeout);
+        return m_locked;
+    }
+    BOOL Unlock()
+    {
+        const bool unlocked = m_locked && m_mutex->Unlock();
+        m_locked = false;
+        return unlocked;
+    }
+    BOOL IsLocked() const noexcept { return m_locked; }
+
+  private:
+    CMutex* m_mutex;
+    bool m_locked = false;
+};
