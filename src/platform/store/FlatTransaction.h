@@ -55,6 +55,12 @@ class FlatTransaction final : public Transaction
         return Outcome::Found;
     }
 
+    void CloseKey(KeyId key) noexcept override
+    {
+        m_handles[key].open = false;
+        m_closed.push_back(key);
+    }
+
     Outcome Query(KeyId key, std::wstring_view name, ValueView& value) override
     {
         if (!m_engine.Usable()) {
@@ -234,13 +240,21 @@ class FlatTransaction final : public Transaction
 
     KeyId AddHandle(std::string_view flatPath)
     {
-        auto& handle = m_handles.emplace_back();
+        auto key = static_cast<KeyId>(m_handles.size());
+        if (m_closed.empty()) {
+            m_handles.emplace_back();
+        } else {
+            key = m_closed.back();
+            m_closed.pop_back();
+        }
+        auto& handle = m_handles[key];
+        handle.open = true;
         handle.name.reserve(flatPath.size() + 48);
         handle.name.assign(flatPath);
         handle.name.append(kValueMark);
         handle.prefix = handle.name.size();
         handle.sum = Engine::kChecked ? NameSum(handle.name) : 0;
-        return static_cast<KeyId>(m_handles.size() - 1);
+        return key;
     }
 
     Outcome EngineFailed()
@@ -385,6 +399,7 @@ class FlatTransaction final : public Transaction
 
     Engine m_engine;
     std::vector<Handle> m_handles;
+    std::vector<KeyId> m_closed;
     FlatPath m_path;
     // Kept for their memory.
     std::string m_name;
