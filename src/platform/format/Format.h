@@ -6,7 +6,7 @@
 //   - %d of a 32-bit unsigned prints as a signed 32-bit number, %u %x %o of a negative number print its 32 bits; a
 //     64-bit argument prints whole. Narrower integers are promoted to int first.
 //   - %s and %S take wide and narrow text alike (narrow text is in the platform's narrow encoding); a null pointer
-//     prints "(null)". A precision cuts, a width only pads.
+//     prints "(null)". A precision cuts (it counts the bytes of narrow text), a width only pads.
 //   - %c of 0 appends a NUL character.
 // A conversion whose argument is of another kind prints that argument in its natural form; one without an argument,
 // or unknown, appears as it stands. A width above 32767 counts as 32767. Nothing here depends on the locale.
@@ -46,9 +46,8 @@ class FormatArg
           m_bytes(sizeof(T))
     {}
     template <class T>
-        requires std::is_enum_v<T>
-    constexpr FormatArg(T value) noexcept : FormatArg(static_cast<std::underlying_type_t<T>>(value))
-    {}
+    requires std::is_enum_v<T>
+    constexpr FormatArg(T value) noexcept : FormatArg(static_cast<std::underlying_type_t<T>>(value)) {}
     constexpr FormatArg(wchar_t value) noexcept
         : m_number(static_cast<std::make_unsigned_t<wchar_t>>(value)), m_kind(Kind::Character), m_bytes(sizeof(wchar_t))
     {}
@@ -100,8 +99,8 @@ class FormatArg
 WQSPCFG_API void FormatTo(std::wstring& out, const wchar_t* format, std::span<const FormatArg> args);
 
 template <class... Args>
-    requires(std::constructible_from<FormatArg, const Args&> && ...)
-void FormatTo(std::wstring& out, const wchar_t* format, const Args&... args)
+requires(std::constructible_from<FormatArg, const Args&>&&...) void FormatTo(std::wstring& out, const wchar_t* format,
+                                                                             const Args&... args)
 {
     if constexpr (sizeof...(Args) == 0) {
         FormatTo(out, format, std::span<const FormatArg>());
@@ -112,8 +111,8 @@ void FormatTo(std::wstring& out, const wchar_t* format, const Args&... args)
 }
 
 template <class... Args>
-    requires(std::constructible_from<FormatArg, const Args&> && ...)
-std::wstring FormatString(const wchar_t* format, const Args&... args)
+requires(std::constructible_from<FormatArg, const Args&>&&...) std::wstring
+    FormatString(const wchar_t* format, const Args&... args)
 {
     std::wstring out;
     FormatTo(out, format, args...);
