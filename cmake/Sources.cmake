@@ -1,0 +1,13 @@
+# Puts the C++ sources below `folders` into `out`, without those for another platform.
+function(wqspcfg_sources out)
+    set(patterns ${ARGN})
+    list(TRANSFORM patterns PREPEND "${PROJECT_SOURCE_DIR}/")
+    list(TRANSFORM patterns APPEND "/*.cpp")
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${patterns})
+    if(WIN32)
+        list(FILTER sources EXCLUDE REGEX "/([^/]*Posix(Test)?|[^/]*Lmdb[^/]*)\\.cpp$")
+    else()
+        list(FILTER sources EXCLUDE REGEX "/[^/]*Windows(Test)?\\.cpp$")
+    endif()
+    set(${out} ${sources} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,30 @@
+# Defines wqspcfg_gtest (GoogleTest with GoogleMock) and wqspcfg_gtest_main, and the way tests are run.
+include_guard()
+add_library(wqspcfg_gtest INTERFACE)
+add_library(wqspcfg_gtest_main INTERFACE)
+if(CMAKE_CROSSCOMPILING)
+    set(googletest_sources /usr/src/googletest)
+    if(NOT EXISTS "${googletest_sources}/CMakeLists.txt")
+        message(FATAL_ERROR "${googletest_sources} is missing: install googletest")
+    endif()
+    set(INSTALL_GTEST OFF)
+    add_subdirectory(${googletest_sources} "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)
+    target_link_libraries(wqspcfg_gtest INTERFACE gmock)
+    target_link_libraries(wqspcfg_gtest_main INTERFACE gmock_main)
+else()
+    find_package(GTest REQUIRED)
+    target_link_libraries(wqspcfg_gtest INTERFACE GTest::gmock)
+    target_link_libraries(wqspcfg_gtest_main INTERFACE GTest::gmock_main)
+endif()
+
+# Runs a GoogleTest program as the test `name`, which leaves its results in test-results/<name>.xml.
+function(wqspcfg_add_gtest name target)
+    add_test(NAME ${name} COMMAND ${target} --gtest_brief=1 --gtest_output=xml:test-results/${name}.xml
+             WORKING_DIRECTORY "${PROJECT_BINARY_DIR}")
+    set_tests_properties(
+        ${name}
+        PROPERTIES
+            ENVIRONMENT
+            "ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1"
+    )
+endfunction()
