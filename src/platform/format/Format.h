@@ -45,9 +45,9 @@ class FormatArg
         : m_number(static_cast<std::uint64_t>(value)), m_kind(std::is_signed_v<T> ? Kind::Signed : Kind::Unsigned),
           m_bytes(sizeof(T))
     {}
-    template <class T>
-    requires std::is_enum_v<T>
-    constexpr FormatArg(T value) noexcept : FormatArg(static_cast<std::underlying_type_t<T>>(value)) {}
+    template <class T, class = std::enable_if_t<std::is_enum_v<T>>>
+    constexpr FormatArg(T value) noexcept : FormatArg(static_cast<std::underlying_type_t<T>>(value))
+    {}
     constexpr FormatArg(wchar_t value) noexcept
         : m_number(static_cast<std::make_unsigned_t<wchar_t>>(value)), m_kind(Kind::Character), m_bytes(sizeof(wchar_t))
     {}
@@ -95,12 +95,15 @@ class FormatArg
     std::uint8_t m_bytes = 0;
 };
 
-// Appends the formatted text to `out`. A null format appends nothing.
+template <class T>
+concept Formattable = std::constructible_from<FormatArg, const T&>;
+
+// Appends the formatted text to `out`, which no argument may refer to. Arguments are taken by reference: pass a member
+// of a packed structure as a value (`+unit.ulCount`). A null format appends nothing.
 WQSPCFG_API void FormatTo(std::wstring& out, const wchar_t* format, std::span<const FormatArg> args);
 
-template <class... Args>
-requires(std::constructible_from<FormatArg, const Args&>&&...) void FormatTo(std::wstring& out, const wchar_t* format,
-                                                                             const Args&... args)
+template <Formattable... Args>
+void FormatTo(std::wstring& out, const wchar_t* format, const Args&... args)
 {
     if constexpr (sizeof...(Args) == 0) {
         FormatTo(out, format, std::span<const FormatArg>());
@@ -110,9 +113,8 @@ requires(std::constructible_from<FormatArg, const Args&>&&...) void FormatTo(std
     }
 }
 
-template <class... Args>
-requires(std::constructible_from<FormatArg, const Args&>&&...) std::wstring
-    FormatString(const wchar_t* format, const Args&... args)
+template <Formattable... Args>
+std::wstring FormatString(const wchar_t* format, const Args&... args)
 {
     std::wstring out;
     FormatTo(out, format, args...);

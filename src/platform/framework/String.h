@@ -100,12 +100,12 @@ class CString
     WQSPCFG_API int Remove(wchar_t ch);
 
     // The formats of platform/format/Format.h. An argument may be this string itself.
-    template <class... Args>
+    template <wqspcfg::Formattable... Args>
     void Format(LPCWSTR format, const Args&... args)
     {
         m_text = wqspcfg::FormatString(format, args...);
     }
-    template <class... Args>
+    template <wqspcfg::Formattable... Args>
     void AppendFormat(LPCWSTR format, const Args&... args)
     {
         m_text += wqspcfg::FormatString(format, args...);
