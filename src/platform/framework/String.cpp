@@ -33,6 +33,9 @@ std::size_t Clamped(int count, std::size_t size) noexcept
 
 } // namespace
 
+// Out of line: inlined, GCC for Windows reports a copy beyond the end of an empty literal that never happens.
+CString::CString(LPCWSTR text) : m_text(View(text)) {}
+
 void CString::SetAt(int index, wchar_t ch)
 {
     if (index < 0 || index >= GetLength()) {

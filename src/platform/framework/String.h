@@ -20,7 +20,7 @@ class CString
 {
   public:
     CString() noexcept = default;
-    CString(LPCWSTR text) : m_text(View(text)) {}
+    WQSPCFG_API CString(LPCWSTR text);
     CString(std::wstring_view text) : m_text(text) {}
     CString(const std::wstring& text) : m_text(text) {}
     CString(std::wstring&& text) noexcept : m_text(std::move(text)) {}
