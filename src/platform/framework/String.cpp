@@ -1,5 +1,7 @@
 #include "platform/framework/String.h"
 
+#include "platform/text/CaseFold.h"
+
 #include <algorithm>
 #include <cwctype>
 
@@ -7,10 +9,6 @@ namespace {
 
 constexpr std::wstring_view kBlanks = L" \t\n\v\f\r";
 
-wchar_t Upper(wchar_t ch)
-{
-    return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
-}
 wchar_t Lower(wchar_t ch)
 {
     return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(ch)));
@@ -86,16 +84,7 @@ int CString::Compare(LPCWSTR text) const noexcept
 
 int CString::CompareNoCase(LPCWSTR text) const noexcept
 {
-    const std::wstring_view other = ViewOf(text);
-    const std::size_t common = std::min(m_text.size(), other.size());
-    for (std::size_t i = 0; i < common; ++i) {
-        const wchar_t a = Upper(m_text[i]);
-        const wchar_t b = Upper(other[i]);
-        if (a != b) {
-            return a < b ? -1 : 1;
-        }
-    }
-    return m_text.size() == other.size() ? 0 : m_text.size() < other.size() ? -1 : 1;
+    return wqspcfg::CompareNoCase(View(), ViewOf(text));
 }
 
 CString& CString::MakeLower()
@@ -106,7 +95,7 @@ CString& CString::MakeLower()
 
 CString& CString::MakeUpper()
 {
-    std::transform(m_text.begin(), m_text.end(), m_text.begin(), Upper);
+    m_text = wqspcfg::UpCase(View());
     return *this;
 }
 

@@ -86,9 +86,10 @@ class CString
     WQSPCFG_API int Compare(LPCWSTR text) const noexcept;
     WQSPCFG_API int CompareNoCase(LPCWSTR text) const noexcept;
 
-    // Case by the same rule as CompareNoCase.
-    WQSPCFG_API CString& MakeLower();
+    // Upper case by the same rule; lower case as the C library's locale has it, in the "C" locale that of ASCII
+    // letters.
     WQSPCFG_API CString& MakeUpper();
+    WQSPCFG_API CString& MakeLower();
     // Blanks are space, tab, line feed, vertical tab, form feed and carriage return.
     WQSPCFG_API CString& Trim();
     WQSPCFG_API CString& TrimLeft();

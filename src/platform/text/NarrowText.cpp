@@ -1,11 +1,11 @@
 #include "platform/text/NarrowText.h"
 
 #include "platform/base/WinTypes.h"
+#include "platform/text/Utf.h"
 
 #include <algorithm>
 #include <climits>
 #include <cstddef>
-#include <cstdint>
 
 namespace wqspcfg {
 
@@ -56,57 +56,18 @@ std::wstring NarrowToWide(std::string_view text)
 
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
-constexpr char32_t kEscape = 0xDC00; // plus a byte from 0x80 on
+constexpr wchar_t kEscape = 0xDC00; // plus a byte from 0x80 on
 
-bool IsContinuation(char byte) noexcept
+bool IsEscape(wchar_t ch) noexcept
 {
-    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+    return ch >= kEscape + 0x80 && ch <= kEscape + 0xFF;
 }
 
-void AppendUtf8(std::string& out, char32_t code)
+// How long the character is that begins with this byte; 1 where none does.
+std::size_t CharacterSize(char byte) noexcept
 {
-    const auto tail = [&](unsigned shift) { out += static_cast<char>(0x80 | (code >> shift & 0x3F)); };
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-    } else if (code < 0x800) {
-        out += static_cast<char>(0xC0 | code >> 6);
-        tail(0);
-    } else if (code < 0x10000) {
-        out += static_cast<char>(0xE0 | code >> 12);
-        tail(6);
-        tail(0);
-    } else {
-        out += static_cast<char>(0xF0 | code >> 18);
-        tail(12);
-        tail(6);
-        tail(0);
-    }
-}
-
-// The length of the well-formed character at the beginning of `text`, 0 where there is none.
-std::size_t DecodeUtf8(std::string_view text, char32_t& code) noexcept
-{
-    const auto lead = static_cast<unsigned char>(text[0]);
-    const std::size_t length = lead < 0x80   ? 1
-                               : lead < 0xC2 ? 0
-                               : lead < 0xE0 ? 2
-                               : lead < 0xF0 ? 3
-                               : lead < 0xF5 ? 4
-                                             : 0;
-    if (length == 0 || length > text.size()) {
-        return 0;
-    }
-    code = length == 1 ? lead : lead & (0x7Fu >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if (!IsContinuation(text[i])) {
-            return 0;
-        }
-        code = code << 6 | (static_cast<unsigned char>(text[i]) & 0x3F);
-    }
-    const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
-    const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-    return overlong || surrogate || code > 0x10FFFF ? 0 : length;
+    const auto lead = static_cast<unsigned char>(byte);
+    return lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
 }
 
 } // namespace
@@ -114,31 +75,32 @@ std::size_t DecodeUtf8(std::string_view text, char32_t& code) noexcept
 std::string WideToNarrow(std::wstring_view text)
 {
     std::string out;
-    out.reserve(text.size());
-    for (const wchar_t ch : text) {
-        const auto code = static_cast<char32_t>(ch);
-        if (code >= kEscape + 0x80 && code <= kEscape + 0xFF) {
-            out += static_cast<char>(code - kEscape);
-        } else {
-            AppendUtf8(out, code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF) ? kReplacement : code);
+    for (;;) {
+        const auto escape = std::find_if(text.begin(), text.end(), IsEscape);
+        const auto plain = static_cast<std::size_t>(escape - text.begin());
+        out += Utf8ForMessage(text.substr(0, plain));
+        if (escape == text.end()) {
+            return out;
         }
+        out += static_cast<char>(*escape - kEscape);
+        text.remove_prefix(plain + 1);
     }
-    return out;
 }
 
 std::wstring NarrowToWide(std::string_view text)
 {
     std::wstring out;
-    out.reserve(text.size());
+    if (AppendWideFromUtf8(text, out)) {
+        return out;
+    }
     while (!text.empty()) {
-        char32_t code = 0;
-        std::size_t length = DecodeUtf8(text, code);
-        if (length == 0) {
-            code = kEscape + static_cast<unsigned char>(text[0]);
-            length = 1;
+        const std::string_view character = text.substr(0, CharacterSize(text.front()));
+        if (AppendWideFromUtf8(character, out)) {
+            text.remove_prefix(character.size());
+        } else {
+            out += static_cast<wchar_t>(kEscape + static_cast<unsigned char>(text.front()));
+            text.remove_prefix(1);
         }
-        out += static_cast<wchar_t>(code);
-        text.remove_prefix(length);
     }
     return out;
 }

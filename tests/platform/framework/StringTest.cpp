@@ -92,6 +92,7 @@ TEST(String, ChangesInPlace)
 TEST(String, ComparesWithAndWithoutCase)
 {
     EXPECT_EQ(CString(L"Sp.EXE").CompareNoCase(L"sP.exe"), 0);
+    EXPECT_EQ(CString(L"Ger\xE4t").CompareNoCase(L"GER\xC4T"), 0);
     EXPECT_LT(CString(L"a").CompareNoCase(L"B"), 0);
     EXPECT_GT(CString(L"a").Compare(L"B"), 0);
     EXPECT_GT(CString(L"ab").CompareNoCase(L"A"), 0);
