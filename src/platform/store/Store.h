@@ -15,6 +15,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace wqspcfg {
 
@@ -76,9 +77,17 @@ class Transaction
     virtual Outcome OpenKey(Hive hive, std::wstring_view path, KeyId& key) = 0;
     // The empty name is the key's default value.
     virtual Outcome Query(KeyId key, std::wstring_view name, ValueView& value) = 0;
+    // One value by its full path; cheaper than OpenKey and Query where a key is needed only once.
+    virtual Outcome QueryAt(Hive hive, std::wstring_view path, std::wstring_view name, ValueView& value)
+    {
+        KeyId key = 0;
+        const auto opened = OpenKey(hive, path, key);
+        return opened == Outcome::Found ? Query(key, name, value) : opened;
+    }
     // Direct subkeys in case-insensitive order of name. The visitor returns false to stop; it does not call this
     // transaction.
     virtual Outcome EnumKeys(KeyId key, const KeyVisitor& visit) = 0;
+    // The key's values in case-insensitive order of name, the default value first.
     virtual Outcome EnumValues(KeyId key, const ValueVisitor& visit) = 0;
 
     // The rest needs a write transaction.
@@ -121,10 +130,13 @@ class Store
     Store(const Store&) = delete;
     Store& operator=(const Store&) = delete;
 
-    // Null with `error` filled when it cannot begin. A write transaction excludes other writers.
+    // Null with `error` filled when it cannot begin. A write transaction excludes other writers; a thread that has one
+    // is refused a second. A transaction ends before its store.
     virtual std::unique_ptr<Transaction> Begin(Access access, Error& error) = 0;
     // The address that OpenStore was given, for messages.
     virtual const std::string& Address() const noexcept = 0;
+    // Whether a write transaction that is not committed leaves no trace.
+    virtual bool RollsBack() const noexcept { return true; }
 
   protected:
     Store() = default;
@@ -144,7 +156,9 @@ struct OpenOptions
 // and the cause.
 WQSPCFG_API std::shared_ptr<Store> OpenStore(std::string_view address, const OpenOptions& options, Error& error);
 
-// The environment variable WQSPCFG_STORE, else `windows:` on Windows, else the platform's embedded store.
+// The environment variable WQSPCFG_STORE, else `windows:` on Windows. Elsewhere the embedded store in /var/lib/wqspcfg,
+// where this user can write that directory or read a store in it, else in $XDG_DATA_HOME/wqspcfg
+// (~/.local/share/wqspcfg).
 WQSPCFG_API std::string DefaultStoreAddress();
 
 } // namespace wqspcfg

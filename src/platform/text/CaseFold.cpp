@@ -58,9 +58,15 @@ struct CaseTable
 
 constexpr CaseTable kTable;
 
-bool IsSurrogateOrAbove(char32_t ch) { return ch >= 0xD800; }
+bool IsSurrogateOrAbove(char32_t ch)
+{
+    return ch >= 0xD800;
+}
 
-constexpr char32_t FirstUnit(char32_t ch) { return ch > 0xFFFF ? 0xD7C0 + (ch >> 10) : ch; }
+constexpr char32_t FirstUnit(char32_t ch)
+{
+    return ch > 0xFFFF ? 0xD7C0 + (ch >> 10) : ch;
+}
 
 // Orders two different characters by their UTF-16 code units, where that is not the order of the characters: those
 // beyond the Basic Multilingual Plane come before U+E000. A character and a lone surrogate may share their first unit.

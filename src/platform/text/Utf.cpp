@@ -12,12 +12,30 @@ constexpr bool kWideIsUtf16 = sizeof(wchar_t) == 2;
 
 static_assert(std::endian::native == std::endian::little, "code units are copied as UTF-16LE");
 
-constexpr bool IsHigh(char32_t ch) { return (ch & 0xFFFFFC00) == 0xD800; }
-constexpr bool IsLow(char32_t ch) { return (ch & 0xFFFFFC00) == 0xDC00; }
-constexpr bool IsSurrogate(char32_t ch) { return (ch & 0xFFFFF800) == 0xD800; }
-constexpr char32_t Combine(char32_t high, char32_t low) { return (high << 10) + low - 0x35FDC00; }
-constexpr char16_t HighOf(char32_t ch) { return static_cast<char16_t>(0xD7C0 + (ch >> 10)); }
-constexpr char16_t LowOf(char32_t ch) { return static_cast<char16_t>(0xDC00 + (ch & 0x3FF)); }
+constexpr bool IsHigh(char32_t ch)
+{
+    return (ch & 0xFFFFFC00) == 0xD800;
+}
+constexpr bool IsLow(char32_t ch)
+{
+    return (ch & 0xFFFFFC00) == 0xDC00;
+}
+constexpr bool IsSurrogate(char32_t ch)
+{
+    return (ch & 0xFFFFF800) == 0xD800;
+}
+constexpr char32_t Combine(char32_t high, char32_t low)
+{
+    return (high << 10) + low - 0x35FDC00;
+}
+constexpr char16_t HighOf(char32_t ch)
+{
+    return static_cast<char16_t>(0xD7C0 + (ch >> 10));
+}
+constexpr char16_t LowOf(char32_t ch)
+{
+    return static_cast<char16_t>(0xDC00 + (ch & 0x3FF));
+}
 
 constexpr char32_t Unit(wchar_t ch)
 {
@@ -201,6 +219,17 @@ bool DecodeUtf8(std::string_view utf8, Surrogates surrogates, std::wstring& text
 
 } // namespace
 
+std::size_t Utf16Length(std::wstring_view text) noexcept
+{
+    auto length = text.size();
+    if constexpr (!kWideIsUtf16) {
+        for (const auto ch : text) {
+            length += Unit(ch) > 0xFFFF ? 1U : 0U;
+        }
+    }
+    return length;
+}
+
 bool AppendUtf16(std::wstring_view text, std::u16string& units)
 {
     Appender appender(units);
@@ -260,7 +289,10 @@ bool AppendWideFromUtf16Le(std::span<const std::byte> bytes, std::wstring& text)
     return true;
 }
 
-bool AppendUtf8(std::wstring_view text, std::string& utf8) { return EncodeUtf8(text, Surrogates::Refused, utf8); }
+bool AppendUtf8(std::wstring_view text, std::string& utf8)
+{
+    return EncodeUtf8(text, Surrogates::Refused, utf8);
+}
 
 bool AppendWideFromUtf8(std::string_view utf8, std::wstring& text)
 {
@@ -283,7 +315,10 @@ bool AppendWideFromGeneralizedUtf8(std::string_view utf8, std::wstring& text)
     return DecodeUtf8(utf8, Surrogates::Lone, text);
 }
 
-bool AppendCesu8(std::wstring_view text, std::string& cesu8) { return EncodeUtf8(text, Surrogates::Paired, cesu8); }
+bool AppendCesu8(std::wstring_view text, std::string& cesu8)
+{
+    return EncodeUtf8(text, Surrogates::Paired, cesu8);
+}
 
 bool AppendWideFromCesu8(std::string_view cesu8, std::wstring& text)
 {

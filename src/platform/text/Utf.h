@@ -18,6 +18,8 @@
 
 namespace wqspcfg {
 
+// The number of code units of well-formed text.
+WQSPCFG_API std::size_t Utf16Length(std::wstring_view text) noexcept;
 WQSPCFG_API bool AppendUtf16(std::wstring_view text, std::u16string& units);
 WQSPCFG_API bool AppendUtf16Le(std::wstring_view text, std::vector<std::byte>& bytes);
 // Every sequence of code units is wide text.

@@ -1,0 +1,598 @@
+#include "platform/store/LmdbEnvironment.h"
+
+#include "platform/store/LmdbFormat.h"
+#include "platform/store/Record.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <condition_variable>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <map>
+#include <pthread.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace wqspcfg {
+
+namespace {
+
+// Far beyond any terminal's store. It is address space only; the file grows with its content.
+constexpr std::size_t kDefaultMapSize = std::size_t{64} << 30;
+constexpr std::size_t kLeastMapSize = std::size_t{1} << 20;
+constexpr unsigned kMaxReaders = 512;
+constexpr std::string_view kStateName{"\0state", 6};
+
+std::atomic<unsigned> g_forks{0};
+
+// The open environments by the real path of their directories. An environment is closed with the mutex held: closing
+// the lock file while another environment has it open would drop that one's locks.
+struct Registry
+{
+    std::mutex mutex;
+    std::condition_variable closed;
+    std::map<std::string, std::weak_ptr<LmdbEnvironment>> open;
+
+    Registry()
+    {
+        pthread_atfork([] { Get().mutex.lock(); }, [] { Get().mutex.unlock(); },
+                       [] {
+                           ++g_forks;
+                           Get().open.clear();
+                           Get().mutex.unlock();
+                       });
+    }
+
+    static Registry& Get()
+    {
+        static auto* registry = new Registry; // used until the process ends, by static objects too
+        return *registry;
+    }
+};
+
+ErrorKind KindOf(int status)
+{
+    switch (status) {
+    case ENOENT:
+    case ENOTDIR:
+        return ErrorKind::NotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return ErrorKind::AccessDenied;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+    case MDB_MAP_FULL:
+    case MDB_TXN_FULL:
+        return ErrorKind::NoSpace;
+    case ENAMETOOLONG:
+    case MDB_BAD_VALSIZE:
+        return ErrorKind::TooLong;
+    case MDB_CORRUPTED:
+    case MDB_PAGE_NOTFOUND:
+    case MDB_INVALID:
+    case MDB_VERSION_MISMATCH:
+    case MDB_CURSOR_FULL:
+        return ErrorKind::Damaged;
+    default:
+        return ErrorKind::Io;
+    }
+}
+
+std::string Words(int status)
+{
+    switch (status) {
+    case MDB_MAP_FULL:
+        return "the address space reserved for the store is full; it grows with the next write";
+    case MDB_TXN_FULL:
+        return "too many changes for one transaction";
+    case MDB_MAP_RESIZED:
+        return "another process has enlarged the store; end this process's transactions on it and try again";
+    case MDB_READERS_FULL:
+        return "too many processes and threads are reading it";
+    default:
+        return status > 0 ? std::generic_category().message(status) : std::string(mdb_strerror(status));
+    }
+}
+
+Error MakeError(const std::string& address, std::string_view action, const std::string& path, int status)
+{
+    return {KindOf(status), address + ": cannot " + std::string(action) + ' ' + path + ": " + Words(status)};
+}
+
+Error DamagedFile(const std::string& address, const std::string& path, std::string_view cause)
+{
+    return {ErrorKind::Damaged, address + ": " + path + " is damaged: " + std::string(cause)};
+}
+
+bool ReadMeta(int file, std::size_t offset, lmdb::Meta& meta)
+{
+    const auto size = static_cast<ssize_t>(sizeof meta);
+    return pread(file, &meta, sizeof meta, static_cast<off_t>(offset + sizeof(lmdb::PageHeader))) == size;
+}
+
+class FileDescriptor
+{
+  public:
+    explicit FileDescriptor(int fd) : m_fd(fd) {}
+    ~FileDescriptor()
+    {
+        if (m_fd >= 0) {
+            close(m_fd);
+        }
+    }
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+    int Get() const { return m_fd; }
+
+  private:
+    int m_fd;
+};
+
+// What LMDB takes on trust: that the file is as long as it says and that both of its heads are sound.
+bool CheckFile(const std::string& address, const std::string& path, struct stat& status, Error& error)
+{
+    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (file.Get() < 0 || fstat(file.Get(), &status) != 0) {
+        error = MakeError(address, "open", path, errno);
+        return false;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        error = {ErrorKind::BadArgument, address + ": " + path + " is not a regular file"};
+        return false;
+    }
+    const auto size = static_cast<std::size_t>(status.st_size);
+    std::array<lmdb::Meta, 2> metas{};
+    if (!ReadMeta(file.Get(), 0, metas[0])) {
+        error = DamagedFile(address, path, "it has only " + std::to_string(size) + " bytes");
+        return false;
+    }
+    if (metas[0].magic != lmdb::kMagic) {
+        error = DamagedFile(address, path, "it does not begin as a store does");
+        return false;
+    }
+    if (metas[0].version != lmdb::kDataVersion) {
+        error = {ErrorKind::NewerFormat, address + ": " + path + " has LMDB's data version " +
+                                             std::to_string(metas[0].version) + "; this program knows version " +
+                                             std::to_string(lmdb::kDataVersion) + " only"};
+        return false;
+    }
+    const std::size_t pageSize = metas[0].freeList.pad;
+    if (pageSize < lmdb::kMinPageSize || pageSize > lmdb::kMaxPageSize || !std::has_single_bit(pageSize)) {
+        error = DamagedFile(address, path, "its page size is " + std::to_string(pageSize));
+        return false;
+    }
+    if (size < 2 * pageSize || size % pageSize != 0) {
+        error = DamagedFile(address, path, "its length of " + std::to_string(size) + " bytes is cut short");
+        return false;
+    }
+    if (!ReadMeta(file.Get(), pageSize, metas[1]) || metas[1].magic != lmdb::kMagic ||
+        metas[1].version != lmdb::kDataVersion || metas[1].freeList.pad != pageSize) {
+        error = DamagedFile(address, path, "its second head is not that of a store");
+        return false;
+    }
+    for (const auto& meta : metas) {
+        for (const auto* tree : {&meta.freeList, &meta.main}) {
+            if (tree->root != lmdb::kNoPage && (tree->root < 2 || tree->root > meta.lastPage)) {
+                error = DamagedFile(address, path, "a head points outside the store");
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+int Sync(const std::string& directory)
+{
+    const FileDescriptor file(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return file.Get() < 0 || fsync(file.Get()) != 0 ? errno : 0;
+}
+
+// Writes an empty store into `directory`, which no one else uses.
+int WriteEmptyStore(const std::string& directory)
+{
+    MDB_env* env = nullptr;
+    auto status = mdb_env_create(&env);
+    if (status != 0) {
+        return status;
+    }
+    MDB_txn* txn = nullptr;
+    MDB_dbi dbi = 0;
+    (void)mdb_env_set_mapsize(env, kLeastMapSize);
+    status = mdb_env_open(env, directory.c_str(), MDB_NOLOCK, 0664);
+    if (status == 0) {
+        status = mdb_txn_begin(env, nullptr, 0, &txn);
+    }
+    if (status == 0) {
+        status = mdb_dbi_open(txn, nullptr, 0, &dbi);
+        if (status == 0) {
+            status = LmdbEnvironment::PutState(txn, dbi);
+        }
+        if (status == 0) {
+            status = mdb_txn_commit(txn);
+        } else {
+            mdb_txn_abort(txn);
+        }
+    }
+    mdb_env_close(env);
+    return status;
+}
+
+// Makes an empty store where there is none. The file appears whole or not at all, and only one of several processes
+// that do this at once brings it.
+bool CreateStore(const std::string& address, const std::string& directory, Error& error)
+{
+    std::error_code failure;
+    std::filesystem::create_directories(directory, failure);
+    if (failure) {
+        error = MakeError(address, "create", directory, failure.value());
+        return false;
+    }
+    std::string fresh = directory + "/.new-XXXXXX";
+    if (mkdtemp(fresh.data()) == nullptr) {
+        error = MakeError(address, "create a store in", directory, errno);
+        return false;
+    }
+    const auto target = directory + "/data.mdb";
+    const auto source = fresh + "/data.mdb";
+    auto status = WriteEmptyStore(fresh);
+    if (status == 0 && link(source.c_str(), target.c_str()) != 0 && errno != EEXIST) {
+        // Some file systems have no hard links.
+        status = rename(source.c_str(), target.c_str()) != 0 ? errno : 0;
+    }
+    std::filesystem::remove_all(fresh, failure);
+    if (status == 0) {
+        status = Sync(directory);
+    }
+    if (status != 0) {
+        error = MakeError(address, "create a store in", directory, status);
+    }
+    return status == 0;
+}
+
+} // namespace
+
+LmdbEnvironment::LmdbEnvironment(std::string directory, std::size_t mapSize)
+    : m_directory(std::move(directory)), m_dataPath(m_directory + "/data.mdb"), m_forks(g_forks),
+      m_mapSize(mapSize == 0 ? kDefaultMapSize : mapSize)
+{}
+
+LmdbEnvironment::~LmdbEnvironment()
+{
+    CloseFiles();
+}
+
+bool LmdbEnvironment::IsOurs() const noexcept
+{
+    return m_forks == g_forks.load(std::memory_order_relaxed);
+}
+
+std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& address, const std::string& directory,
+                                                       bool create, std::size_t mapSize, Error& error)
+{
+    struct stat status = {};
+    const auto dataPath = directory + "/data.mdb";
+    if (create && stat(dataPath.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR) &&
+        !CreateStore(address, directory, error)) {
+        return nullptr;
+    }
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(directory.c_str(), nullptr), &std::free);
+    if (!real) {
+        error = MakeError(address, "open", directory, errno);
+        return nullptr;
+    }
+    const std::string path(real.get());
+
+    auto& registry = Registry::Get();
+    std::unique_lock lock(registry.mutex);
+    for (auto found = registry.open.find(path); found != registry.open.end(); found = registry.open.find(path)) {
+        if (auto environment = found->second.lock()) {
+            return environment;
+        }
+        registry.closed.wait(lock);
+    }
+    const auto close = [path](LmdbEnvironment* environment) {
+        if (!environment->IsOurs()) {
+            // Not even closing it is allowed here.
+            return;
+        }
+        auto& open = Registry::Get();
+        const std::lock_guard closing(open.mutex);
+        delete environment;
+        open.open.erase(path);
+        open.closed.notify_all();
+    };
+    auto environment = std::unique_ptr<LmdbEnvironment>(new LmdbEnvironment(path, mapSize));
+    if (!environment->OpenFiles(address, error)) {
+        return nullptr;
+    }
+    std::shared_ptr<LmdbEnvironment> shared(environment.release(), close);
+    registry.open[path] = shared;
+    return shared;
+}
+
+bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
+{
+    struct stat status = {};
+    if (!CheckFile(address, m_dataPath, status, error)) {
+        return false;
+    }
+    m_whyReadOnly.clear();
+    int result = 0;
+    for (const unsigned flags : {0U, unsigned{MDB_RDONLY}, unsigned{MDB_RDONLY} | unsigned{MDB_NOLOCK}}) {
+        const auto needed = 2 * static_cast<std::size_t>(status.st_size) + kLeastMapSize;
+        m_mapSize = std::max(m_mapSize, needed);
+        do {
+            result = mdb_env_create(&m_env);
+            if (result != 0) {
+                break;
+            }
+            (void)mdb_env_set_maxreaders(m_env, kMaxReaders);
+            (void)mdb_env_set_mapsize(m_env, m_mapSize);
+            result = mdb_env_open(m_env, m_directory.c_str(), MDB_NOTLS | flags, 0664);
+            if (result != 0) {
+                mdb_env_close(m_env);
+                m_env = nullptr;
+            }
+            // A process may be allowed less address space.
+        } while (result == ENOMEM && (m_mapSize /= 2) >= needed);
+        if (result != EACCES && result != EPERM && result != EROFS) {
+            break;
+        }
+        if (m_whyReadOnly.empty()) {
+            m_whyReadOnly = Words(result);
+        }
+    }
+    if (result != 0) {
+        error = MakeError(address, "open", m_dataPath, result);
+        return false;
+    }
+    m_device = status.st_dev;
+    m_inode = status.st_ino;
+    m_broken = false;
+    m_full = false;
+
+    int dead = 0;
+    (void)mdb_reader_check(m_env, &dead);
+
+    MDB_txn* txn = nullptr;
+    result = mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
+    bool good = false;
+    if (result == 0) {
+        result = mdb_dbi_open(txn, nullptr, 0, &m_dbi);
+        good = result == 0 && CheckState(address, txn, mdb_txn_id(txn), error);
+        mdb_txn_abort(txn);
+    }
+    if (result != 0) {
+        error = MakeError(address, "read", m_dataPath, result);
+    }
+    if (!good) {
+        CloseFiles();
+    }
+    return good;
+}
+
+void LmdbEnvironment::CloseFiles() noexcept
+{
+    for (auto* txn : m_idle) {
+        mdb_txn_abort(txn);
+    }
+    m_idle.clear();
+    if (m_env != nullptr) {
+        mdb_env_close(m_env);
+        m_env = nullptr;
+    }
+}
+
+int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi)
+{
+    const std::uint64_t number = mdb_txn_id(txn);
+    std::string record;
+    BuildRecord(kStoreFormat, {}, std::as_bytes(std::span(&number, 1)), record);
+    SealRecord(NameSum(kStateName), {}, record);
+    MDB_val name{kStateName.size(), const_cast<char*>(kStateName.data())};
+    MDB_val value{record.size(), record.data()};
+    return mdb_put(txn, dbi, &name, &value, 0);
+}
+
+bool LmdbEnvironment::CheckState(const std::string& address, MDB_txn* txn, std::uint64_t last, Error& error) const
+{
+    MDB_val name{kStateName.size(), const_cast<char*>(kStateName.data())};
+    MDB_val value{};
+    const auto result = mdb_get(txn, m_dbi, &name, &value);
+    if (result != 0 && result != MDB_NOTFOUND) {
+        error = MakeError(address, "read", m_dataPath, result);
+        return false;
+    }
+    if (result == MDB_NOTFOUND) {
+        error = {ErrorKind::Damaged, address + ": " + m_dataPath + " is an LMDB file but holds no registry store"};
+        return false;
+    }
+    const std::string_view record(static_cast<const char*>(value.mv_data), value.mv_size);
+    RecordView view;
+    if (!ParseRecord(record, view)) {
+        error = DamagedFile(address, m_dataPath, "its state record is cut short");
+        return false;
+    }
+    if (view.type > kStoreFormat) {
+        error = {ErrorKind::NewerFormat,
+                 address + ": " + m_dataPath + " has store format " + std::to_string(view.type) +
+                     ", written by a newer version; this one knows formats up to " + std::to_string(kStoreFormat)};
+        return false;
+    }
+    std::uint64_t number = 0;
+    if (!IsSealed(NameSum(kStateName), {}, record) || view.data.size() != sizeof number) {
+        error = DamagedFile(address, m_dataPath, "the check sum of its state record is wrong");
+        return false;
+    }
+    std::memcpy(&number, view.data.data(), sizeof number);
+    // The content must be that of the transaction that LMDB takes for the last one; a compacted copy starts again at 1.
+    if (number != last && last != 1) {
+        error = DamagedFile(address, m_dataPath, "its content is of another transaction than its head");
+        return false;
+    }
+    return true;
+}
+
+Error LmdbEnvironment::Describe(const std::string& address, std::string_view action, int status) const
+{
+    return MakeError(address, action, m_dataPath, status);
+}
+
+bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
+{
+    struct stat status = {};
+    if (stat(m_dataPath.c_str(), &status) != 0) {
+        error = MakeError(address, "use", m_dataPath, errno);
+        return false;
+    }
+    const bool replaced = status.st_dev != m_device || status.st_ino != m_inode;
+    if (m_env != nullptr && !replaced && !m_broken) {
+        return true;
+    }
+    if (m_active > 0) {
+        error = {ErrorKind::Io, address + ": " + m_dataPath + (replaced ? " has been replaced" : " has failed") +
+                                    " while it is in use; end this process's transactions on it and try again"};
+        return false;
+    }
+    CloseFiles();
+    return OpenFiles(address, error);
+}
+
+int LmdbEnvironment::Grow(std::size_t size)
+{
+    const auto result = mdb_env_set_mapsize(m_env, size);
+    if (result == 0) {
+        MDB_envinfo info{};
+        (void)mdb_env_info(m_env, &info);
+        m_mapSize = info.me_mapsize;
+    }
+    return result;
+}
+
+// Begins a read transaction on a resting one where there is one.
+int LmdbEnvironment::Renew(MDB_txn*& txn)
+{
+    if (m_idle.empty()) {
+        return mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
+    }
+    const auto result = mdb_txn_renew(m_idle.back());
+    if (result == 0) {
+        txn = m_idle.back();
+        m_idle.pop_back();
+    }
+    return result;
+}
+
+MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, Error& error)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!Prepare(address, error)) {
+        return nullptr;
+    }
+    MDB_txn* txn = nullptr;
+    auto result = Renew(txn);
+    if (result == MDB_MAP_RESIZED && m_active == 0) {
+        result = Grow(0);
+        if (result == 0) {
+            result = Renew(txn);
+        }
+    }
+    if (result == MDB_READERS_FULL) {
+        int dead = 0;
+        (void)mdb_reader_check(m_env, &dead);
+        result = Renew(txn);
+    }
+    if (result != 0) {
+        error = MakeError(address, "read", m_dataPath, result);
+        return nullptr;
+    }
+    if (!CheckState(address, txn, mdb_txn_id(txn), error)) {
+        mdb_txn_abort(txn);
+        return nullptr;
+    }
+    ++m_active;
+    return txn;
+}
+
+void LmdbEnvironment::EndRead(MDB_txn* txn) noexcept
+{
+    mdb_txn_reset(txn);
+    const std::lock_guard lock(m_mutex);
+    m_idle.push_back(txn);
+    --m_active;
+}
+
+MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
+{
+    if (m_writer == std::this_thread::get_id()) {
+        error = {ErrorKind::BadArgument, address + ": this thread is already writing to the store"};
+        return nullptr;
+    }
+    int result = MDB_MAP_RESIZED;
+    MDB_txn* txn = nullptr;
+    for (int tries = 0; tries < 3 && result == MDB_MAP_RESIZED; ++tries) {
+        {
+            const std::lock_guard lock(m_mutex);
+            if (!Prepare(address, error)) {
+                return nullptr;
+            }
+            if (!m_whyReadOnly.empty()) {
+                error = {ErrorKind::AccessDenied, address + ": cannot write " + m_dataPath + ": " + m_whyReadOnly};
+                return nullptr;
+            }
+            if (m_active == 0) {
+                int dead = 0;
+                (void)mdb_reader_check(m_env, &dead);
+                MDB_envinfo info{};
+                (void)mdb_env_info(m_env, &info);
+                MDB_stat layout{};
+                (void)mdb_env_stat(m_env, &layout);
+                const auto used = (info.me_last_pgno + 1) * layout.ms_psize;
+                if (tries > 0) {
+                    result = Grow(0);
+                } else if (m_full || used > m_mapSize / 4 * 3) {
+                    m_full = false;
+                    result = Grow(2 * std::max(m_mapSize, used));
+                }
+            }
+            ++m_active;
+        }
+        // Waits for the writer of this or another process.
+        result = mdb_txn_begin(m_env, nullptr, 0, &txn);
+        if (result != 0) {
+            Release(result);
+        }
+    }
+    if (result != 0) {
+        error = MakeError(address, "write", m_dataPath, result);
+        return nullptr;
+    }
+    if (!CheckState(address, txn, mdb_txn_id(txn) - 1, error)) {
+        mdb_txn_abort(txn);
+        Release(0);
+        return nullptr;
+    }
+    m_writer = std::this_thread::get_id();
+    return txn;
+}
+
+void LmdbEnvironment::EndWrite(int status) noexcept
+{
+    m_writer = std::thread::id();
+    Release(status);
+}
+
+void LmdbEnvironment::Release(int status) noexcept
+{
+    const std::lock_guard lock(m_mutex);
+    --m_active;
+    m_full = m_full || status == MDB_MAP_FULL;
+    m_broken = m_broken || status == MDB_PANIC || status == EIO;
+}
+
+} // namespace wqspcfg

@@ -1,0 +1,84 @@
+#include "platform/store/Store.h"
+
+#include "platform/store/MemoryStore.h"
+#if defined(_WIN32)
+#include "platform/store/WindowsStore.h"
+#else
+#include "platform/store/LmdbStore.h"
+
+#include <unistd.h>
+#endif
+
+#include <cstdlib>
+
+namespace wqspcfg {
+
+namespace {
+
+#if !defined(_WIN32)
+constexpr const char* kSystemDirectory = "/var/lib/wqspcfg";
+
+// The system's store where this user can work with it, else the user's own.
+std::string StoreDirectory()
+{
+    if (access(kSystemDirectory, W_OK) == 0 ||
+        access((std::string(kSystemDirectory) + "/data.mdb").c_str(), R_OK) == 0) {
+        return kSystemDirectory;
+    }
+    const auto* data = std::getenv("XDG_DATA_HOME");
+    if (data != nullptr && *data == '/') {
+        return std::string(data) + "/wqspcfg";
+    }
+    const auto* home = std::getenv("HOME");
+    return home != nullptr && *home == '/' ? std::string(home) + "/.local/share/wqspcfg" : kSystemDirectory;
+}
+#endif
+
+bool TakePrefix(std::string_view& address, std::string_view prefix)
+{
+    if (!address.starts_with(prefix)) {
+        return false;
+    }
+    address.remove_prefix(prefix.size());
+    return true;
+}
+
+} // namespace
+
+std::shared_ptr<Store> OpenStore(std::string_view address, const OpenOptions& options, Error& error)
+{
+    error = {};
+    const std::string whole(address);
+    auto rest = address;
+    if (TakePrefix(rest, "memory:") && rest.empty()) {
+        return std::make_shared<MemoryStore>(whole);
+    }
+    rest = address;
+    if (TakePrefix(rest, "lmdb:") && !rest.empty()) {
+#if defined(_WIN32)
+        error = {ErrorKind::Unsupported, whole + ": the embedded store is not available on Windows"};
+        return nullptr;
+#else
+        return LmdbStore::Open(whole, std::string(rest), {options.readOnly, options.create, 0}, error);
+#endif
+    }
+    error = {ErrorKind::BadArgument,
+             "\"" + whole +
+                 "\" is no store; stores are windows:, windows:32, windows:64, lmdb:DIRECTORY, memory: and reg:FILE"};
+    return nullptr;
+}
+
+std::string DefaultStoreAddress()
+{
+    const auto* given = std::getenv("WQSPCFG_STORE");
+    if (given != nullptr && *given != '\0') {
+        return given;
+    }
+#if defined(_WIN32)
+    return "windows:";
+#else
+    return "lmdb:" + StoreDirectory();
+#endif
+}
+
+} // namespace wqspcfg
