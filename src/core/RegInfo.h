@@ -8,6 +8,7 @@
 #include "platform/utility/ValueInterlocker.h"
 
 namespace wqspcfg {
+class Loading;
 struct Table;
 } // namespace wqspcfg
 
@@ -110,4 +111,8 @@ class WQSPCFG_API CRegInfo : public CRegKeyEx
     static CString m_strErrorCodeDescKey;
     static CString m_strCapVendorDescKey;
     static CString m_strCapVendorDescKeyValue;
+
+  private:
+    void ReportShared(wqspcfg::Loading& loading) const;
+    CString DescKey(CString& strCache, LPCWSTR lpszName, LPCWSTR lpszDefault) const;
 };

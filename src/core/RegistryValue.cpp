@@ -31,15 +31,17 @@ bool ToValue(const ValueView& view, CString& value)
             break;
         }
     }
-    value = CString(FromUtf16Bytes(bytes));
+    std::wstring text;
+    AppendWideFromUtf16Le(bytes.first(bytes.size() & ~std::size_t{1}), text);
+    value = CString(std::move(text));
     return true;
 }
 
 Outcome SetText(Session& session, Session::Key key, std::wstring_view name, std::wstring_view text)
 {
     std::vector<std::byte> bytes;
-    if (!ToUtf16Bytes(text, bytes)) {
-        return session.Refuse({ErrorKind::BadText, "the text of value " + ToUtf8(name) +
+    if (!AppendUtf16Le(text, bytes)) {
+        return session.Refuse({ErrorKind::BadText, "the text of value " + Utf8ForMessage(name) +
                                                        " is ill-formed and would not survive in the registry"});
     }
     bytes.resize(bytes.size() + 2); // the terminator

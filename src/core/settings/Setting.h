@@ -18,7 +18,6 @@
 
 #include <array>
 #include <cstdint>
-#include <source_location>
 #include <span>
 #include <type_traits>
 
@@ -160,9 +159,9 @@ struct RequiredOption
     unsigned line;
 };
 // A missing value is reported with an error line, which names the row's place.
-constexpr RequiredOption Required(std::source_location place = std::source_location::current())
+constexpr RequiredOption Required(unsigned line = __builtin_LINE())
 {
-    return {place.line()};
+    return {line};
 }
 
 // ---- hooks: lambdas without captures that take the owning object first ----
@@ -507,6 +506,16 @@ constexpr bool SameText(const wchar_t* a, const wchar_t* b)
         ++b;
     }
     return *a == *b;
+}
+
+constexpr const Setting* FindRow(std::span<const Setting> rows, const wchar_t* name)
+{
+    for (const auto& row : rows) {
+        if (row.rows == nullptr && SameText(row.name, name)) {
+            return &row;
+        }
+    }
+    return nullptr;
 }
 
 constexpr const Setting* FindSaved(std::span<const Setting> rows, const wchar_t* name)

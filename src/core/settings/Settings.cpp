@@ -371,6 +371,26 @@ void Loading::Print(const Setting& row, const CString& value)
     }
 }
 
+void Loading::PrintHeld(const Setting& row)
+{
+    switch (row.type) {
+    case Type::Dword:
+        Print(row, MemberOf<DWORD>(row, m_object, 0));
+        break;
+    case Type::Flag:
+        Print(row, MemberOf<bool>(row, m_object, 0) ? 1U : 0U);
+        break;
+    case Type::String:
+        Print(row, MemberOf<CString>(row, m_object, 0));
+        break;
+    case Type::Char:
+        Print(row, CString(MemberOf<wchar_t>(row, m_object, 0)));
+        break;
+    case Type::None:
+        break;
+    }
+}
+
 void Loading::PrintMissing(const Setting& row)
 {
     if (m_log == nullptr || m_table == nullptr) {

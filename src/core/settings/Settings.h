@@ -43,6 +43,8 @@ class WQSPCFG_API Loading
     // The line of one row, with a number or a text in place of the member.
     void Print(const Setting& row, DWORD value);
     void Print(const Setting& row, const CString& value);
+    // The line of one row with what its member holds.
+    void PrintHeld(const Setting& row);
     CLog* Log() const noexcept { return m_log; }
 
   private:
