@@ -28,7 +28,7 @@ const char* NameOf(Severity severity)
 
 int StreamLog::Write(Severity, DWORD, std::wstring_view text)
 {
-    m_stream << ToUtf8(text) << '\n';
+    m_stream << Utf8ForMessage(text) << '\n';
     return m_stream.good() ? 1 : 0;
 }
 
@@ -45,7 +45,7 @@ int FileLog::Write(Severity severity, DWORD, std::wstring_view text)
 #endif
     char time[32];
     std::strftime(time, sizeof time, "%Y-%m-%d %H:%M:%S", &local);
-    file << time << ' ' << NameOf(severity) << ' ' << ToUtf8(text) << '\n';
+    file << time << ' ' << NameOf(severity) << ' ' << Utf8ForMessage(text) << '\n';
     file.flush();
     return file.good() ? 1 : 0;
 }

@@ -22,12 +22,12 @@ class WQSPCFG_API CRegKeyEx
     template <class... Args>
     static int QueryValue(DWORD& dwValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return QueryAt(dwValue, strName, wqspcfg::FormatString(lpszKey, args...));
+        return QueryAt(dwValue, strName.View(), wqspcfg::FormatString(lpszKey, args...));
     }
     template <class... Args>
     static int QueryValue(CString& strValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return QueryAt(strValue, strName, wqspcfg::FormatString(lpszKey, args...));
+        return QueryAt(strValue, strName.View(), wqspcfg::FormatString(lpszKey, args...));
     }
 
     // Every DWORD value whose name is a decimal number (a command code) goes into the map under that number. Other
@@ -54,18 +54,18 @@ class WQSPCFG_API CRegKeyEx
     template <class... Args>
     static int SetValue(DWORD dwValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return SetAt(dwValue, strName, wqspcfg::FormatString(lpszKey, args...), false);
+        return SetAt(dwValue, strName.View(), wqspcfg::FormatString(lpszKey, args...), false);
     }
     template <class... Args>
     static int SetValue(const CString& strValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return SetAt(strValue, strName, wqspcfg::FormatString(lpszKey, args...));
+        return SetAt(strValue.View(), strName.View(), wqspcfg::FormatString(lpszKey, args...));
     }
     // Durable on every store when it returns, or when the wqspcfg::WriteScope around it ends.
     template <class... Args>
     static int SetValueAndFlush(DWORD dwValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return SetAt(dwValue, strName, wqspcfg::FormatString(lpszKey, args...), true);
+        return SetAt(dwValue, strName.View(), wqspcfg::FormatString(lpszKey, args...), true);
     }
     // Writes every entry as a string value, all of them or none where the store can.
     template <class... Args>

@@ -69,10 +69,22 @@ inline constexpr BOOL TRUE = 1;
 inline constexpr DWORD INFINITE = 0xFFFFFFFF;
 
 // As the Windows macros, on whatever integer they are given.
-constexpr WORD LOWORD(std::integral auto value) { return static_cast<WORD>(value); }
-constexpr WORD HIWORD(std::integral auto value) { return static_cast<WORD>(static_cast<std::uint64_t>(value) >> 16); }
-constexpr BYTE LOBYTE(std::integral auto value) { return static_cast<BYTE>(value); }
-constexpr BYTE HIBYTE(std::integral auto value) { return static_cast<BYTE>(static_cast<std::uint64_t>(value) >> 8); }
+constexpr WORD LOWORD(std::integral auto value)
+{
+    return static_cast<WORD>(value);
+}
+constexpr WORD HIWORD(std::integral auto value)
+{
+    return static_cast<WORD>(static_cast<std::uint64_t>(value) >> 16);
+}
+constexpr BYTE LOBYTE(std::integral auto value)
+{
+    return static_cast<BYTE>(value);
+}
+constexpr BYTE HIBYTE(std::integral auto value)
+{
+    return static_cast<BYTE>(static_cast<std::uint64_t>(value) >> 8);
+}
 constexpr WORD MAKEWORD(std::integral auto low, std::integral auto high)
 {
     return static_cast<WORD>(LOBYTE(low) | LOBYTE(high) << 8);

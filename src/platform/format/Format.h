@@ -6,7 +6,7 @@
 //   - %d of a 32-bit unsigned prints as a signed 32-bit number, %u %x %o of a negative number print its 32 bits; a
 //     64-bit argument prints whole. Narrower integers are promoted to int first.
 //   - %s and %S take wide and narrow text alike (narrow text is in the platform's narrow encoding); a null pointer
-//     prints "(null)". A precision cuts, a width only pads.
+//     prints "(null)". A precision cuts (it counts the bytes of narrow text), a width only pads.
 //   - %c of 0 appends a NUL character.
 // A conversion whose argument is of another kind prints that argument in its natural form; one without an argument,
 // or unknown, appears as it stands. A width above 32767 counts as 32767. Nothing here depends on the locale.
@@ -45,8 +45,7 @@ class FormatArg
         : m_number(static_cast<std::uint64_t>(value)), m_kind(std::is_signed_v<T> ? Kind::Signed : Kind::Unsigned),
           m_bytes(sizeof(T))
     {}
-    template <class T>
-        requires std::is_enum_v<T>
+    template <class T, class = std::enable_if_t<std::is_enum_v<T>>>
     constexpr FormatArg(T value) noexcept : FormatArg(static_cast<std::underlying_type_t<T>>(value))
     {}
     constexpr FormatArg(wchar_t value) noexcept
@@ -96,11 +95,14 @@ class FormatArg
     std::uint8_t m_bytes = 0;
 };
 
-// Appends the formatted text to `out`. A null format appends nothing.
+template <class T>
+concept Formattable = std::constructible_from<FormatArg, const T&>;
+
+// Appends the formatted text to `out`, which no argument may refer to. Arguments are taken by reference: pass a member
+// of a packed structure as a value (`+unit.ulCount`). A null format appends nothing.
 WQSPCFG_API void FormatTo(std::wstring& out, const wchar_t* format, std::span<const FormatArg> args);
 
-template <class... Args>
-    requires(std::constructible_from<FormatArg, const Args&> && ...)
+template <Formattable... Args>
 void FormatTo(std::wstring& out, const wchar_t* format, const Args&... args)
 {
     if constexpr (sizeof...(Args) == 0) {
@@ -111,8 +113,7 @@ void FormatTo(std::wstring& out, const wchar_t* format, const Args&... args)
     }
 }
 
-template <class... Args>
-    requires(std::constructible_from<FormatArg, const Args&> && ...)
+template <Formattable... Args>
 std::wstring FormatString(const wchar_t* format, const Args&... args)
 {
     std::wstring out;

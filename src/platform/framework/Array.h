@@ -1,10 +1,11 @@
 #pragma once
 
 #include "platform/base/WinTypes.h"
-#include "platform/framework/String.h"
 #include "platform/framework/InvalidArgException.h"
+#include "platform/framework/String.h"
 
 #include <algorithm>
+#include <concepts>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -71,8 +72,7 @@ class CArray
     auto begin() const noexcept { return m_items.begin(); }
     auto end() const noexcept { return m_items.end(); }
 
-    friend bool operator==(const CArray& a, const CArray& b)
-        requires requires(const TYPE& x) { x == x; }
+    friend bool operator==(const CArray& a, const CArray& b) requires std::equality_comparable<TYPE>
     {
         return std::equal(a.begin(), a.end(), b.begin(), b.end());
     }

@@ -4,7 +4,7 @@
 
 #include "platform/base/WinTypes.h"
 #include "platform/framework/Array.h"
+#include "platform/framework/InvalidArgException.h"
 #include "platform/framework/Map.h"
 #include "platform/framework/Mutex.h"
 #include "platform/framework/String.h"
-#include "platform/framework/InvalidArgException.h"

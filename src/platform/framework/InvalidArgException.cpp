@@ -6,4 +6,7 @@ CInvalidArgException::CInvalidArgException(const CInvalidArgException&) noexcept
 CInvalidArgException::~CInvalidArgException() = default;
 CInvalidArgException& CInvalidArgException::operator=(const CInvalidArgException&) noexcept = default;
 
-const char* CInvalidArgException::what() const noexcept { return "an index or argument is out of range"; }
+const char* CInvalidArgException::what() const noexcept
+{
+    return "an index or argument is out of range";
+}

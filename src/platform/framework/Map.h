@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/base/WinTypes.h"
-#include "platform/framework/String.h"
 #include "platform/framework/InvalidArgException.h"
+#include "platform/framework/String.h"
 
 #include <cstddef>
 #include <functional>
@@ -42,8 +42,7 @@ class CMap
                 return std::hash<KEY>()(key);
             }
         }
-        std::size_t operator()(std::wstring_view key) const noexcept
-            requires kTextKey
+        std::size_t operator()(std::wstring_view key) const noexcept requires kTextKey
         {
             return std::hash<std::wstring_view>()(key);
         }
@@ -52,16 +51,8 @@ class CMap
     {
         using is_transparent = void;
         bool operator()(const KEY& a, const KEY& b) const { return a == b; }
-        bool operator()(std::wstring_view a, const KEY& b) const noexcept
-            requires kTextKey
-        {
-            return a == b.View();
-        }
-        bool operator()(const KEY& a, std::wstring_view b) const noexcept
-            requires kTextKey
-        {
-            return a.View() == b;
-        }
+        bool operator()(std::wstring_view a, const KEY& b) const noexcept requires kTextKey { return a == b.View(); }
+        bool operator()(const KEY& a, std::wstring_view b) const noexcept requires kTextKey { return a.View() == b; }
     };
 
   public:

@@ -11,25 +11,28 @@ CMutex::CMutex(BOOL initiallyOwn)
 
 BOOL CMutex::Lock(DWORD timeout)
 {
+    const std::thread::id self = std::this_thread::get_id();
+    const auto available = [&] { return m_depth == 0 || m_owner == self; };
+    std::unique_lock guard(m_guard);
     if (timeout == INFINITE) {
-        m_mutex.lock();
-    } else if (!m_mutex.try_lock_for(std::chrono::milliseconds(timeout))) {
+        m_released.wait(guard, available);
+    } else if (!m_released.wait_for(guard, std::chrono::milliseconds(timeout), available)) {
         return FALSE;
     }
-    m_owner.store(std::this_thread::get_id(), std::memory_order_relaxed);
+    m_owner = self;
     ++m_depth;
     return TRUE;
 }
 
 BOOL CMutex::Unlock()
 {
-    // Only the owner can find its own id here, so no other thread's change can mislead this test.
-    if (m_owner.load(std::memory_order_relaxed) != std::this_thread::get_id()) {
+    const std::lock_guard guard(m_guard);
+    if (m_depth == 0 || m_owner != std::this_thread::get_id()) {
         return FALSE;
     }
+    // Told under the guard: whoever gets the mutex next may destroy it.
     if (--m_depth == 0) {
-        m_owner.store({}, std::memory_order_relaxed);
+        m_released.notify_one();
     }
-    m_mutex.unlock();
     return TRUE;
 }

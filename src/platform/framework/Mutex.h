@@ -3,7 +3,7 @@
 #include "platform/base/Export.h"
 #include "platform/base/WinTypes.h"
 
-#include <atomic>
+#include <condition_variable>
 #include <mutex>
 #include <thread>
 
@@ -22,9 +22,10 @@ class CMutex
     WQSPCFG_API BOOL Unlock();
 
   private:
-    std::recursive_timed_mutex m_mutex;
-    std::atomic<std::thread::id> m_owner;
-    unsigned m_depth = 0; // the owner's
+    std::mutex m_guard; // of the members below, never held for long
+    std::condition_variable m_released;
+    std::thread::id m_owner;
+    unsigned m_depth = 0; // how often the owner has locked
 };
 
 // Unlocks at the end of its scope what it has locked.

@@ -20,7 +20,7 @@ class CString
 {
   public:
     CString() noexcept = default;
-    CString(LPCWSTR text) : m_text(View(text)) {}
+    WQSPCFG_API CString(LPCWSTR text);
     CString(std::wstring_view text) : m_text(text) {}
     CString(const std::wstring& text) : m_text(text) {}
     CString(std::wstring&& text) noexcept : m_text(std::move(text)) {}
@@ -86,9 +86,10 @@ class CString
     WQSPCFG_API int Compare(LPCWSTR text) const noexcept;
     WQSPCFG_API int CompareNoCase(LPCWSTR text) const noexcept;
 
-    // Case by the same rule as CompareNoCase.
-    WQSPCFG_API CString& MakeLower();
+    // Upper case by the same rule; lower case as the C library's locale has it, in the "C" locale that of ASCII
+    // letters.
     WQSPCFG_API CString& MakeUpper();
+    WQSPCFG_API CString& MakeLower();
     // Blanks are space, tab, line feed, vertical tab, form feed and carriage return.
     WQSPCFG_API CString& Trim();
     WQSPCFG_API CString& TrimLeft();
@@ -100,12 +101,12 @@ class CString
     WQSPCFG_API int Remove(wchar_t ch);
 
     // The formats of platform/format/Format.h. An argument may be this string itself.
-    template <class... Args>
+    template <wqspcfg::Formattable... Args>
     void Format(LPCWSTR format, const Args&... args)
     {
         m_text = wqspcfg::FormatString(format, args...);
     }
-    template <class... Args>
+    template <wqspcfg::Formattable... Args>
     void AppendFormat(LPCWSTR format, const Args&... args)
     {
         m_text += wqspcfg::FormatString(format, args...);

@@ -46,6 +46,8 @@ class WQSPCFG_API Session
     Outcome EnumValues(Key key, const ValueVisitor& visit);
     Outcome Set(Key key, std::wstring_view name, const ValueView& value);
     Outcome Commit(bool flush);
+    // Counts as a failure of this session: a write that no store could keep.
+    Outcome Refuse(const Error& error) { return Fail(error); }
 
     Access GetAccess() const noexcept { return m_access; }
     // The first failure of this session.

@@ -1,0 +1,72 @@
+#include "classes/CardUnitEx.h"
+
+#include <cstring>
+
+namespace {
+
+char* Duplicate(const char* text)
+{
+    if (text == nullptr) {
+        return nullptr;
+    }
+    const std::size_t size = std::strlen(text) + 1;
+    return static_cast<char*>(std::memcpy(new char[size], text, size));
+}
+
+bool SameText(const char* a, const char* b) noexcept
+{
+    return a == nullptr || b == nullptr ? a == b : std::strcmp(a, b) == 0;
+}
+
+} // namespace
+
+tagCardUnitEx::tagCardUnitEx(const tagCardUnitEx& other)
+{
+    *this = other;
+}
+
+tagCardUnitEx& tagCardUnitEx::operator=(const tagCardUnitEx& other)
+{
+    if (this == &other) {
+        return *this;
+    }
+    delete[] lpszCardName;
+    usNumber = other.usNumber;
+    lpszCardName = Duplicate(other.lpszCardName);
+    usType = other.usType;
+    ulInitialCount = other.ulInitialCount;
+    ulCount = other.ulCount;
+    ulRetainCount = other.ulRetainCount;
+    ulThreshold = other.ulThreshold;
+    usStatus = other.usStatus;
+    bHardwareSensor = other.bHardwareSensor;
+    ulMaxCount = other.ulMaxCount;
+    ulMinCount = other.ulMinCount;
+    lpszHopper = Duplicate(other.lpszHopper);
+    return *this;
+}
+
+tagCardUnitEx::~tagCardUnitEx() { delete[] lpszCardName; }
+
+void tagCardUnitEx::SetCardName(const char* lpszName)
+{
+    char* const copy = Duplicate(lpszName); // the name may be this unit's own
+    delete[] lpszCardName;
+    lpszCardName = copy;
+}
+
+void tagCardUnitEx::SetHopper(const char* lpszName)
+{
+    char* const copy = Duplicate(lpszName);
+    delete[] lpszHopper;
+    lpszHopper = copy;
+}
+
+bool tagCardUnitEx::operator==(const tagCardUnitEx& other) const noexcept
+{
+    return usNumber == other.usNumber && usType == other.usType && ulInitialCount == other.ulInitialCount &&
+           ulCount == other.ulCount && ulRetainCount == other.ulRetainCount && ulThreshold == other.ulThreshold &&
+           usStatus == other.usStatus && bHardwareSensor == other.bHardwareSensor && ulMaxCount == other.ulMaxCount &&
+           ulMinCount == other.ulMinCount && SameText(lpszCardName, other.lpszCardName) &&
+           SameText(lpszHopper, other.lpszHopper);
+}
