@@ -1,6 +1,6 @@
 #include "tools/StoreCommands.h"
 
-#include "core/RegistryValue.h"
+#include "platform/base/WinTypes.h"
 #include "platform/store/RegFile.h"
 
 #include <algorithm>
@@ -282,7 +282,9 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
                 return console.Fail(kUsage, "\"" + data + "\" is no number from 0 to 4294967295, and " +
                                                 Quoted(wideName) + " is a REG_DWORD");
             }
-            outcome = transaction.SetValue(id, wideName, DwordBytes(*number).View());
+            const std::byte bytes[] = {std::byte(*number), std::byte(*number >> 8), std::byte(*number >> 16),
+                                       std::byte(*number >> 24)};
+            outcome = transaction.SetValue(id, wideName, {ValueType::Dword, bytes});
         } else {
             std::vector<std::byte> bytes;
             AppendUtf16Le(wideData, bytes);
