@@ -21,9 +21,15 @@ bool SameText(const char* a, const char* b) noexcept
 
 } // namespace
 
-tagCardUnitEx::tagCardUnitEx(const tagCardUnitEx& other) : tagCardUnitEx() { *this = other; }
+tagCardUnitEx::tagCardUnitEx(const tagCardUnitEx& other) : tagCardUnitEx()
+{
+    *this = other;
+}
 
-tagCardUnitEx::tagCardUnitEx(tagCardUnitEx&& other) noexcept : tagCardUnitEx() { *this = std::move(other); }
+tagCardUnitEx::tagCardUnitEx(tagCardUnitEx&& other) noexcept : tagCardUnitEx()
+{
+    *this = std::move(other);
+}
 
 tagCardUnitEx& tagCardUnitEx::operator=(const tagCardUnitEx& other)
 {
@@ -56,7 +62,10 @@ tagCardUnitEx& tagCardUnitEx::operator=(tagCardUnitEx&& other) noexcept
     return *this;
 }
 
-tagCardUnitEx::~tagCardUnitEx() { delete[] lpszCardName; }
+tagCardUnitEx::~tagCardUnitEx()
+{
+    delete[] lpszCardName;
+}
 
 void tagCardUnitEx::SetCardName(const char* lpszName)
 {

@@ -23,7 +23,8 @@ bool TakeNumber(const wchar_t*& text, int& value)
         return false;
     }
     text = end;
-    value = static_cast<int>(std::clamp<long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    value =
+        static_cast<int>(std::clamp<long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
     return true;
 }
 

@@ -18,3 +18,10 @@ inline constexpr wchar_t kMediaLatched[] = L"support the WFS_IDC_MEDIALATCHED st
 inline constexpr wchar_t kLogicalNameOfIDCReader[] = L"logical name of the card reader that the device opens through the XFS API; empty none";
 
 } // namespace wqspcfg::meaning
+
+// Barcode readers, card dispensers and text terminals.
+namespace wqspcfg::meaning {
+
+inline constexpr wchar_t kScanBeepFile[] = L"sound file played when data is scanned; empty plays nothing";
+
+} // namespace wqspcfg::meaning
