@@ -17,8 +17,8 @@ struct FdkButton
 class WQSPCFG_API CSpTTUVirtualRegInfo : public wqspcfg::TextTerminal
 {
   public:
-    static constexpr unsigned kFdkButtons =
-        8; // the function keys FDK01 to FDK08: four on the left, then four on the right
+    // The function keys FDK01 to FDK08: four on the left of the screen, then four on its right.
+    static constexpr unsigned kFdkButtons = 8;
 
     CSpTTUVirtualRegInfo(const CString& strName, bool bPhysicalName);
     bool Load(CLog* pLog) override;
