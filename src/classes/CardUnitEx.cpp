@@ -46,7 +46,10 @@ tagCardUnitEx& tagCardUnitEx::operator=(const tagCardUnitEx& other)
     return *this;
 }
 
-tagCardUnitEx::~tagCardUnitEx() { delete[] lpszCardName; }
+tagCardUnitEx::~tagCardUnitEx()
+{
+    delete[] lpszCardName;
+}
 
 void tagCardUnitEx::SetCardName(const char* lpszName)
 {

@@ -14,18 +14,18 @@
 // the destructor or by assignment: code that holds the pointer relies on it.
 struct WQSPCFG_API tagCardUnitEx
 {
-    USHORT usNumber = 0;            // logical number; 0: no unit
-    LPSTR lpszCardName = nullptr;   // or null
-    USHORT usType = 0;              // XFS unit type
-    ULONG ulInitialCount = 0;       // at the last replenishment
+    USHORT usNumber = 0;          // logical number; 0: no unit
+    LPSTR lpszCardName = nullptr; // or null
+    USHORT usType = 0;            // XFS unit type
+    ULONG ulInitialCount = 0;     // at the last replenishment
     ULONG ulCount = 0;
-    ULONG ulRetainCount = 0;        // cards retained into this unit
-    ULONG ulThreshold = 0;          // for the threshold event
-    USHORT usStatus = 0;            // XFS unit status
+    ULONG ulRetainCount = 0; // cards retained into this unit
+    ULONG ulThreshold = 0;   // for the threshold event
+    USHORT usStatus = 0;     // XFS unit status
     BOOL bHardwareSensor = 0;
     ULONG ulMaxCount = 0;
     ULONG ulMinCount = 0;
-    LPSTR lpszHopper = nullptr;     // or null
+    LPSTR lpszHopper = nullptr; // or null
 
     tagCardUnitEx() = default;
     tagCardUnitEx(const tagCardUnitEx& other);

@@ -2,7 +2,6 @@
 
 #include "core/RegistryValue.h"
 
-
 using wqspcfg::DwordBytes;
 using wqspcfg::Outcome;
 using wqspcfg::ReadScope;

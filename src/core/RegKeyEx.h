@@ -50,7 +50,8 @@ class WQSPCFG_API CRegKeyEx
         return QueryAllAt(mapValues, wqspcfg::FormatString(lpszKey, args...));
     }
 
-    // A write creates the missing key. Outside a wqspcfg::WriteScope it is durable on an embedded store when it returns.
+    // A write creates the missing key. Outside a wqspcfg::WriteScope it is durable on an embedded store when it
+    // returns.
     template <class... Args>
     static int SetValue(DWORD dwValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {

@@ -89,7 +89,10 @@ void SetMember(const Setting& row, CRegKeyEx& object, unsigned turn, const Value
     }
 }
 
-DWORD DefaultNumber(const Setting& row, unsigned turn) { return row.perTurn ? row.perTurn[turn] : row.fallback.number; }
+DWORD DefaultNumber(const Setting& row, unsigned turn)
+{
+    return row.perTurn ? row.perTurn[turn] : row.fallback.number;
+}
 
 void ConstructRows(CRegKeyEx& object, std::span<const Setting> rows, unsigned turn)
 {
@@ -110,7 +113,10 @@ void ConstructRows(CRegKeyEx& object, std::span<const Setting> rows, unsigned tu
 
 } // namespace
 
-void Construct(CRegKeyEx& object, std::span<const Setting> rows) { ConstructRows(object, rows, 0); }
+void Construct(CRegKeyEx& object, std::span<const Setting> rows)
+{
+    ConstructRows(object, rows, 0);
+}
 
 // ---- Loading ----
 
@@ -148,7 +154,10 @@ bool Loading::Read(const Table& table)
     return ReadRows(table.rows, nullptr);
 }
 
-bool Loading::Read(std::span<const Setting> rows) { return ReadRows(rows, nullptr); }
+bool Loading::Read(std::span<const Setting> rows)
+{
+    return ReadRows(rows, nullptr);
+}
 
 bool Loading::ReadRows(std::span<const Setting> rows, const Turn* turn)
 {
@@ -198,7 +207,8 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
     if (row.type == Type::Dword || row.type == Type::Flag) {
         DWORD number = DefaultNumber(row, index);
         if (row.bound && (row.keep || given)) {
-            number = row.type == Type::Flag ? MemberOf<bool>(row, m_object, index) : MemberOf<DWORD>(row, m_object, index);
+            number =
+                row.type == Type::Flag ? MemberOf<bool>(row, m_object, index) : MemberOf<DWORD>(row, m_object, index);
         }
         bool found = false;
         if (!given) {
@@ -301,9 +311,15 @@ bool Loading::FindIn(const Setting& row, const Turn* turn, T& value)
     return row.elseSubkey != nullptr && ask({row.elseRoot, row.elseSubkey}, row.name);
 }
 
-bool Loading::Find(const Setting& row, const Turn* turn, DWORD& value) { return FindIn(row, turn, value); }
+bool Loading::Find(const Setting& row, const Turn* turn, DWORD& value)
+{
+    return FindIn(row, turn, value);
+}
 
-bool Loading::Find(const Setting& row, const Turn* turn, CString& value) { return FindIn(row, turn, value); }
+bool Loading::Find(const Setting& row, const Turn* turn, CString& value)
+{
+    return FindIn(row, turn, value);
+}
 
 bool Loading::Query(Key key, const CString& strName, DWORD& value)
 {
@@ -409,8 +425,7 @@ Saving::Saving(CRegInfo& object)
       m_logicalName(object.m_strLogicalName)
 {}
 
-Saving::Saving(CRegKeyEx& object, const CString& strDeviceKeyName)
-    : m_object(object), m_deviceKeyName(strDeviceKeyName)
+Saving::Saving(CRegKeyEx& object, const CString& strDeviceKeyName) : m_object(object), m_deviceKeyName(strDeviceKeyName)
 {}
 
 void Saving::Write(const Table& table)

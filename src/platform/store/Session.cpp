@@ -31,7 +31,10 @@ bool IsUsersPath(std::wstring_view path)
     return first.size() == kDefaultUser.size() && CompareNoCase(first, kDefaultUser) == 0;
 }
 
-Hive HiveOf(std::wstring_view path) { return IsUsersPath(path) ? Hive::Users : Hive::LocalMachine; }
+Hive HiveOf(std::wstring_view path)
+{
+    return IsUsersPath(path) ? Hive::Users : Hive::LocalMachine;
+}
 
 } // namespace
 
@@ -51,9 +54,15 @@ std::shared_ptr<Store> CurrentStore(Error& error)
     return slot;
 }
 
-const Error& LastStoreError() noexcept { return t_error; }
+const Error& LastStoreError() noexcept
+{
+    return t_error;
+}
 
-void ClearStoreError() noexcept { t_error = {}; }
+void ClearStoreError() noexcept
+{
+    t_error = {};
+}
 
 Session::Session(Access access) : m_access(access)
 {
@@ -199,9 +208,15 @@ WriteScope::WriteScope() : m_session(t_session), m_outer(t_session)
     }
 }
 
-WriteScope::~WriteScope() { Commit(); }
+WriteScope::~WriteScope()
+{
+    Commit();
+}
 
-void WriteScope::Flush() noexcept { m_session->m_flush = true; }
+void WriteScope::Flush() noexcept
+{
+    m_session->m_flush = true;
+}
 
 bool WriteScope::Commit()
 {
