@@ -52,3 +52,8 @@ if(WQSPCFG_SANITIZE)
         add_compile_options(-Wno-maybe-uninitialized -Wno-stringop-overflow -Wno-array-bounds)
     endif()
 endif()
+
+if(WQSPCFG_FUZZ)
+    # What the fuzz targets call is instrumented for coverage; each of them links the driver.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
