@@ -176,6 +176,10 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
         return false;
     }
     for (const auto& meta : metas) {
+        if (meta.lastPage > lmdb::MostPages(size / pageSize)) {
+            error = DamagedFile(address, path, "a head gives an impossible length");
+            return false;
+        }
         for (const auto* tree : {&meta.freeList, &meta.main}) {
             if (tree->root != lmdb::kNoPage && (tree->root < 2 || tree->root > meta.lastPage)) {
                 error = DamagedFile(address, path, "a head points outside the store");
@@ -353,6 +357,7 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
     }
     m_device = status.st_dev;
     m_inode = status.st_ino;
+    m_fileSize = static_cast<std::size_t>(status.st_size);
     m_broken = false;
     m_full = false;
 
@@ -360,20 +365,19 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
     (void)mdb_reader_check(m_env, &dead);
 
     MDB_txn* txn = nullptr;
-    result = mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
-    bool good = false;
+    result = m_map.Open(m_dataPath.c_str(), m_mapSize);
+    if (result == 0) {
+        result = mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
+    }
     if (result == 0) {
         result = mdb_dbi_open(txn, nullptr, 0, &m_dbi);
-        good = result == 0 && CheckState(address, txn, mdb_txn_id(txn), error);
         mdb_txn_abort(txn);
     }
     if (result != 0) {
         error = MakeError(address, "read", m_dataPath, result);
-    }
-    if (!good) {
         CloseFiles();
     }
-    return good;
+    return result == 0;
 }
 
 void LmdbEnvironment::CloseFiles() noexcept
@@ -386,6 +390,8 @@ void LmdbEnvironment::CloseFiles() noexcept
         mdb_env_close(m_env);
         m_env = nullptr;
     }
+    m_map.Close();
+    m_verified = false;
 }
 
 int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi)
@@ -399,20 +405,19 @@ int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi)
     return mdb_put(txn, dbi, &name, &value, 0);
 }
 
-bool LmdbEnvironment::CheckState(const std::string& address, MDB_txn* txn, std::uint64_t last, Error& error) const
+bool LmdbEnvironment::CheckState(const std::string& address, LmdbTree& tree, std::uint64_t last, Error& error) const
 {
-    MDB_val name{kStateName.size(), const_cast<char*>(kStateName.data())};
-    MDB_val value{};
-    const auto result = mdb_get(txn, m_dbi, &name, &value);
-    if (result != 0 && result != MDB_NOTFOUND) {
-        error = MakeError(address, "read", m_dataPath, result);
-        return false;
-    }
-    if (result == MDB_NOTFOUND) {
+    std::string_view record;
+    switch (tree.Get(kStateName, Locality::Far, record)) {
+    case Lookup::Found:
+        break;
+    case Lookup::Absent:
         error = {ErrorKind::Damaged, address + ": " + m_dataPath + " is an LMDB file but holds no registry store"};
         return false;
+    case Lookup::Failed:
+        error = DescribeDamage(address, tree.Cause());
+        return false;
     }
-    const std::string_view record(static_cast<const char*>(value.mv_data), value.mv_size);
     RecordView view;
     if (!ParseRecord(record, view)) {
         error = DamagedFile(address, m_dataPath, "its state record is cut short");
@@ -443,6 +448,11 @@ Error LmdbEnvironment::Describe(const std::string& address, std::string_view act
     return MakeError(address, action, m_dataPath, status);
 }
 
+Error LmdbEnvironment::DescribeDamage(const std::string& address, std::string_view cause) const
+{
+    return DamagedFile(address, m_dataPath, cause);
+}
+
 bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
 {
     struct stat status = {};
@@ -452,6 +462,7 @@ bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
     }
     const bool replaced = status.st_dev != m_device || status.st_ino != m_inode;
     if (m_env != nullptr && !replaced && !m_broken) {
+        m_fileSize = static_cast<std::size_t>(status.st_size);
         return true;
     }
     if (m_active > 0) {
@@ -463,13 +474,17 @@ bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
     return OpenFiles(address, error);
 }
 
+// Only while no transaction of this process is active. 0 is the size that another process has chosen.
 int LmdbEnvironment::Grow(std::size_t size)
 {
-    const auto result = mdb_env_set_mapsize(m_env, size);
+    auto result = mdb_env_set_mapsize(m_env, size);
     if (result == 0) {
         MDB_envinfo info{};
         (void)mdb_env_info(m_env, &info);
         m_mapSize = info.me_mapsize;
+        m_map.Close();
+        result = m_map.Open(m_dataPath.c_str(), m_mapSize);
+        m_broken = result != 0;
     }
     return result;
 }
@@ -488,13 +503,8 @@ int LmdbEnvironment::Renew(MDB_txn*& txn)
     return result;
 }
 
-MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, Error& error)
+int LmdbEnvironment::BeginRenewed(MDB_txn*& txn)
 {
-    const std::lock_guard lock(m_mutex);
-    if (!Prepare(address, error)) {
-        return nullptr;
-    }
-    MDB_txn* txn = nullptr;
     auto result = Renew(txn);
     if (result == MDB_MAP_RESIZED && m_active == 0) {
         result = Grow(0);
@@ -507,12 +517,36 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, Error& error)
         (void)mdb_reader_check(m_env, &dead);
         result = Renew(txn);
     }
-    if (result != 0) {
-        error = MakeError(address, "read", m_dataPath, result);
+    return result;
+}
+
+MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, Error& error)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!Prepare(address, error)) {
         return nullptr;
     }
-    if (!CheckState(address, txn, mdb_txn_id(txn), error)) {
-        mdb_txn_abort(txn);
+    MDB_txn* txn = nullptr;
+    for (int tries = 0;; ++tries) {
+        const auto result = BeginRenewed(txn);
+        if (result != 0) {
+            error = MakeError(address, "read", m_dataPath, result);
+            return nullptr;
+        }
+        if (tree.Open(m_map, m_fileSize, mdb_txn_id(txn))) {
+            break;
+        }
+        // Writers may have gone on by two transactions between the two steps.
+        mdb_txn_reset(txn);
+        m_idle.push_back(txn);
+        if (tries == 3) {
+            error = DescribeDamage(address, tree.Cause());
+            return nullptr;
+        }
+    }
+    if (!CheckState(address, tree, mdb_txn_id(txn), error)) {
+        mdb_txn_reset(txn);
+        m_idle.push_back(txn);
         return nullptr;
     }
     ++m_active;
@@ -572,11 +606,19 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
         error = MakeError(address, "write", m_dataPath, result);
         return nullptr;
     }
-    if (!CheckState(address, txn, mdb_txn_id(txn) - 1, error)) {
+    LmdbTree tree;
+    const auto last = mdb_txn_id(txn) - 1;
+    bool sound = tree.Open(m_map, m_map.Size(), last) && (m_verified || tree.VerifyStructure());
+    if (!sound) {
+        error = DescribeDamage(address, tree.Cause());
+    }
+    sound = sound && CheckState(address, tree, last, error);
+    if (!sound) {
         mdb_txn_abort(txn);
         Release(0);
         return nullptr;
     }
+    m_verified = true;
     m_writer = std::this_thread::get_id();
     return txn;
 }

@@ -1,6 +1,7 @@
 #include "platform/store/Store.h"
 
 #include "platform/store/MemoryStore.h"
+#include "platform/store/RegFileStore.h"
 #if defined(_WIN32)
 #include "platform/store/WindowsStore.h"
 #else
@@ -62,6 +63,25 @@ std::shared_ptr<Store> OpenStore(std::string_view address, const OpenOptions& op
         return LmdbStore::Open(whole, std::string(rest), {options.readOnly, options.create, 0}, error);
 #endif
     }
+    rest = address;
+    if (TakePrefix(rest, "reg:") && !rest.empty()) {
+        return RegFileStore::Open(whole, std::string(rest), options.view32, error);
+    }
+#if defined(_WIN32)
+    if (address == "windows:") {
+        const auto view = options.view32 ? RegistryView::Of32Bit : RegistryView::OfProgram;
+        return std::make_shared<WindowsStore>(whole, view, options.readOnly);
+    }
+    if (address == "windows:32" || address == "windows:64") {
+        const auto view = address == "windows:32" ? RegistryView::Of32Bit : RegistryView::Of64Bit;
+        return std::make_shared<WindowsStore>(whole, view, options.readOnly);
+    }
+#else
+    if (address.starts_with("windows:")) {
+        error = {ErrorKind::Unsupported, whole + ": there is no Windows registry on this system"};
+        return nullptr;
+    }
+#endif
     error = {ErrorKind::BadArgument,
              "\"" + whole +
                  "\" is no store; stores are windows:, windows:32, windows:64, lmdb:DIRECTORY, memory: and reg:FILE"};

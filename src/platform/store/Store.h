@@ -75,6 +75,8 @@ class Transaction
 
     // Opens an existing key. The empty path is the hive's root, which always exists.
     virtual Outcome OpenKey(Hive hive, std::wstring_view path, KeyId& key) = 0;
+    // Gives up a key that is no longer needed; its number may be used again.
+    virtual void CloseKey([[maybe_unused]] KeyId key) noexcept {}
     // The empty name is the key's default value.
     virtual Outcome Query(KeyId key, std::wstring_view name, ValueView& value) = 0;
     // One value by its full path; cheaper than OpenKey and Query where a key is needed only once.
