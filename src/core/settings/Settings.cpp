@@ -11,6 +11,8 @@ namespace {
 
 thread_local Loading* t_loading = nullptr;
 
+constexpr unsigned kNoTurn = 0xFFFFFFFF; // a row outside Repeat
+
 // The path of a key as its formats and arguments make it.
 void AppendPath(std::wstring& path, Key key, std::wstring_view device, std::wstring_view service,
                 std::wstring_view logical)
@@ -451,7 +453,7 @@ void Saving::Write(std::span<const Setting> rows)
                 }
             }
         } else {
-            WriteRow(row, nullptr, 0, 0);
+            WriteRow(row, nullptr, kNoTurn, 0);
         }
     }
 }
@@ -459,7 +461,7 @@ void Saving::Write(std::span<const Setting> rows)
 void Saving::Write(std::span<const Setting* const> rows)
 {
     for (const auto* row : rows) {
-        WriteRow(*row, nullptr, 0, 0);
+        WriteRow(*row, nullptr, kNoTurn, 0);
     }
 }
 
@@ -472,7 +474,7 @@ void Saving::WriteRow(const Setting& row, const wchar_t* turnName, unsigned turn
     std::wstring subkeyOfTurn;
     std::wstring nameOfTurn;
     Key key = row.key;
-    if (turnName != nullptr || turnNumber != 0) {
+    if (turnName != nullptr || turnNumber != kNoTurn) {
         subkeyOfTurn = ForTurn(key.subkey, turnName, turnNumber);
         nameOfTurn = ForTurn(name, turnName, turnNumber);
         key.subkey = subkeyOfTurn.c_str();

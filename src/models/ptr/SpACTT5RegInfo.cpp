@@ -1,0 +1,19 @@
+#include "models/ptr/SpACTT5RegInfo.h"
+
+#include "core/settings/Meanings.h"
+#include "core/settings/Settings.h"
+
+using namespace wqspcfg;
+using C = CSpACTT5RegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Control, L"TimeOut", &C::m_dwTimeOut, 30, meaning::printer::kTimeOut, Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpACTT5RegInfo, CPTRRegInfo, kSettings)
