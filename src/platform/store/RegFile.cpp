@@ -1073,4 +1073,33 @@ bool ExportRegFile(Store& store, Hive hive, std::wstring_view path, std::ostream
     return exporter.Key(hive, normal, error) && exporter.Finish(error);
 }
 
+bool ExportRegFile(Store& store, std::ostream& output, Error& error)
+{
+    const auto transaction = store.Begin(Access::Read, error);
+    if (!transaction) {
+        return false;
+    }
+    const bool windows = store.Address().starts_with("windows:");
+    Exporter exporter(*transaction, output);
+    for (const auto hive :
+         {Hive::LocalMachine, Hive::Users, Hive::CurrentUser, Hive::ClassesRoot, Hive::CurrentConfig}) {
+        if (windows && hive != Hive::LocalMachine && hive != Hive::Users) {
+            continue;
+        }
+        KeyId key = 0;
+        bool empty = true;
+        const auto note = [&empty](auto&&...) { return empty = false; };
+        if (transaction->OpenKey(hive, {}, key) == Outcome::Failed ||
+            transaction->EnumKeys(key, note) == Outcome::Failed ||
+            transaction->EnumValues(key, note) == Outcome::Failed) {
+            error = transaction->LastError();
+            return false;
+        }
+        if (!empty && !exporter.Key(hive, {}, error)) {
+            return false;
+        }
+    }
+    return exporter.Finish(error);
+}
+
 } // namespace wqspcfg

@@ -69,6 +69,9 @@ WQSPCFG_API bool ImportRegFile(Store& store, std::istream& input, const std::str
 // Writes the key and all below it, subkeys and values in case-insensitive order. The caller opens `output` in binary
 // mode; a failure to write is in `error` too.
 WQSPCFG_API bool ExportRegFile(Store& store, Hive hive, std::wstring_view path, std::ostream& output, Error& error);
+// The same for the whole store. Of the Windows registry the hives that hold the others: HKEY_LOCAL_MACHINE and
+// HKEY_USERS.
+WQSPCFG_API bool ExportRegFile(Store& store, std::ostream& output, Error& error);
 
 // Splits a path that begins with a hive in its long or short form (HKEY_LOCAL_MACHINE, HKLM). False for any other
 // beginning.
