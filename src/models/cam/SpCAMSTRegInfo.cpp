@@ -17,9 +17,9 @@ constexpr Setting kSettings[] = {
     {key::Control, L"PointX",      &C::m_dwPointX,      10,       L"X position of the text printed on the picture", Saved},
     {key::Control, L"PointY",      &C::m_dwPointY,      10,       L"Y position of the text printed on the picture", Saved},
     {key::Control, L"FMVersion",   &C::m_strFMVersion,  L"V1.01", L"firmware version that is reported", Saved},
+    {key::Control, L"ShowText",    &C::m_bShowText,     0,        L"text is shown on the picture: 0 no; nonzero yes", Saved},
     {key::Control, L"CamID",       &C::m_strCamID,      L"VID_2C7F&PID_1A20,VID_2C7F&PID_1A90;VID_C168&PID_C098,VID_D168&PID_D098", L"USB identifiers: \",\" separates the alternatives of one camera, \";\" the cameras", Saved},
     {key::Control, L"CameraIndex", &C::m_dwCameraIndex, 0,        L"index of the camera among those connected", Saved},
-    {key::Control, L"ShowText",    &C::m_bShowText,     0,        L"text is shown on the picture: 0 no; nonzero yes", Saved},
 };
 // clang-format on
 

@@ -19,7 +19,7 @@ class WQSPCFG_API CSpCAMSTRegInfo : public CCAMRegInfo
     DWORD m_dwPointX;
     DWORD m_dwPointY;
     CString m_strFMVersion;
+    bool m_bShowText;
     CString m_strCamID;
     DWORD m_dwCameraIndex;
-    bool m_bShowText;
 };

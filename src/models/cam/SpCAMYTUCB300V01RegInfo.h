@@ -19,8 +19,8 @@ class WQSPCFG_API CSpCAMYTUCB300V01RegInfo : public CCAMRegInfo
     DWORD m_dwPointX;
     DWORD m_dwPointY;
     CString m_strFMVersion;
-    CString m_strCamID;
     bool m_bShowText;
+    CString m_strCamID;
     CString m_strScreenPath;
     CString m_strPersonPath;
     bool m_bDeleteFileWhenReset;
