@@ -24,6 +24,7 @@ function(wqspcfg_add_gtest name target)
     set_tests_properties(
         ${name}
         PROPERTIES
+            TIMEOUT 900
             ENVIRONMENT
             "ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1"
     )
