@@ -212,6 +212,21 @@ int Sync(const std::string& directory)
     return file.Get() < 0 || fsync(file.Get()) != 0 ? errno : 0;
 }
 
+// LMDB writes to its lock file through memory: on a full file system that would end the process where the file has no
+// blocks yet. Only while this process has no environment on it, whose locks closing the file would drop.
+int ReserveLockFile(const std::string& directory)
+{
+    constexpr off_t kSize = 33 << 10; // for kMaxReaders
+    const auto path = directory + "/lock.mdb";
+    const FileDescriptor file(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0664));
+    struct stat status = {};
+    if (file.Get() < 0 || fstat(file.Get(), &status) != 0 || status.st_blocks * 512 >= kSize) {
+        return 0;
+    }
+    const auto result = fallocate(file.Get(), 0, 0, kSize) != 0 ? errno : 0;
+    return result == ENOSPC || result == EDQUOT || result == EFBIG ? result : 0;
+}
+
 // Writes an empty store into `directory`, which no one else uses.
 int WriteEmptyStore(const std::string& directory)
 {
@@ -342,7 +357,11 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
         return false;
     }
     m_whyReadOnly.clear();
-    int result = 0;
+    int result = ReserveLockFile(m_directory);
+    if (result != 0) {
+        error = MakeError(address, "open", m_directory + "/lock.mdb", result);
+        return false;
+    }
     for (const unsigned flags : {0U, unsigned{MDB_RDONLY}, unsigned{MDB_RDONLY} | unsigned{MDB_NOLOCK}}) {
         const auto needed = 2 * static_cast<std::size_t>(status.st_size) + kLeastMapSize;
         m_mapSize = std::max(m_mapSize, needed);
