@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <map>
 #include <pthread.h>
+#include <sys/resource.h>
+#include <sys/statvfs.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -190,10 +192,39 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
     return true;
 }
 
+// Whether there is no room, or no leave, to make the file noticeably longer.
+bool IsNearlyFull(const std::string& path)
+{
+    constexpr std::uint64_t kLittle = std::uint64_t{4} << 20;
+    struct statvfs system = {};
+    struct stat file = {};
+    rlimit limit{};
+    if (statvfs(path.c_str(), &system) == 0 && std::uint64_t{system.f_bavail} * system.f_frsize < kLittle) {
+        return true;
+    }
+    return stat(path.c_str(), &file) == 0 && getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
+           static_cast<std::uint64_t>(file.st_size) + kLittle > limit.rlim_cur;
+}
+
 int Sync(const std::string& directory)
 {
     const FileDescriptor file(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     return file.Get() < 0 || fsync(file.Get()) != 0 ? errno : 0;
+}
+
+// LMDB writes to its lock file through memory: on a full file system that would end the process where the file has no
+// blocks yet. Only while this process has no environment on it, whose locks closing the file would drop.
+int ReserveLockFile(const std::string& directory)
+{
+    constexpr off_t kSize = 33 << 10; // for kMaxReaders
+    const auto path = directory + "/lock.mdb";
+    const FileDescriptor file(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0664));
+    struct stat status = {};
+    if (file.Get() < 0 || fstat(file.Get(), &status) != 0 || status.st_blocks * 512 >= kSize) {
+        return 0;
+    }
+    const auto result = fallocate(file.Get(), 0, 0, kSize) != 0 ? errno : 0;
+    return result == ENOSPC || result == EDQUOT || result == EFBIG ? result : 0;
 }
 
 // Writes an empty store into `directory`, which no one else uses.
@@ -326,7 +357,11 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
         return false;
     }
     m_whyReadOnly.clear();
-    int result = 0;
+    int result = ReserveLockFile(m_directory);
+    if (result != 0) {
+        error = MakeError(address, "open", m_directory + "/lock.mdb", result);
+        return false;
+    }
     for (const unsigned flags : {0U, unsigned{MDB_RDONLY}, unsigned{MDB_RDONLY} | unsigned{MDB_NOLOCK}}) {
         const auto needed = 2 * static_cast<std::size_t>(status.st_size) + kLeastMapSize;
         m_mapSize = std::max(m_mapSize, needed);
@@ -445,7 +480,9 @@ bool LmdbEnvironment::CheckState(const std::string& address, LmdbTree& tree, std
 
 Error LmdbEnvironment::Describe(const std::string& address, std::string_view action, int status) const
 {
-    return MakeError(address, action, m_dataPath, status);
+    // LMDB gives a write that came back short as an input/output error; mostly the file system was full.
+    const bool isFull = status == EIO && IsNearlyFull(m_dataPath);
+    return MakeError(address, action, m_dataPath, isFull ? ENOSPC : status);
 }
 
 Error LmdbEnvironment::DescribeDamage(const std::string& address, std::string_view cause) const
@@ -528,7 +565,15 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
     }
     MDB_txn* txn = nullptr;
     for (int tries = 0;; ++tries) {
-        const auto result = BeginRenewed(txn);
+        auto result = BeginRenewed(txn);
+        if (result == MDB_PANIC) {
+            // A write failed so badly that LMDB wants its environment opened anew.
+            m_broken = true;
+            if (!Prepare(address, error)) {
+                return nullptr;
+            }
+            result = BeginRenewed(txn);
+        }
         if (result != 0) {
             error = MakeError(address, "read", m_dataPath, result);
             return nullptr;
@@ -567,9 +612,9 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
         error = {ErrorKind::BadArgument, address + ": this thread is already writing to the store"};
         return nullptr;
     }
-    int result = MDB_MAP_RESIZED;
+    int result = 0;
     MDB_txn* txn = nullptr;
-    for (int tries = 0; tries < 3 && result == MDB_MAP_RESIZED; ++tries) {
+    for (int tries = 0; tries < 3; ++tries) {
         {
             const std::lock_guard lock(m_mutex);
             if (!Prepare(address, error)) {
@@ -579,27 +624,31 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
                 error = {ErrorKind::AccessDenied, address + ": cannot write " + m_dataPath + ": " + m_whyReadOnly};
                 return nullptr;
             }
+            int dead = 0;
+            (void)mdb_reader_check(m_env, &dead);
             if (m_active == 0) {
-                int dead = 0;
-                (void)mdb_reader_check(m_env, &dead);
                 MDB_envinfo info{};
-                (void)mdb_env_info(m_env, &info);
                 MDB_stat layout{};
+                (void)mdb_env_info(m_env, &info);
                 (void)mdb_env_stat(m_env, &layout);
                 const auto used = (info.me_last_pgno + 1) * layout.ms_psize;
-                if (tries > 0) {
-                    result = Grow(0);
+                if (result == MDB_MAP_RESIZED) {
+                    (void)Grow(0);
                 } else if (m_full || used > m_mapSize / 4 * 3) {
                     m_full = false;
-                    result = Grow(2 * std::max(m_mapSize, used));
+                    (void)Grow(2 * std::max(m_mapSize, used));
                 }
             }
             ++m_active;
         }
         // Waits for the writer of this or another process.
         result = mdb_txn_begin(m_env, nullptr, 0, &txn);
-        if (result != 0) {
-            Release(result);
+        if (result == 0) {
+            break;
+        }
+        Release(result);
+        if (result != MDB_MAP_RESIZED && result != MDB_PANIC) {
+            break;
         }
     }
     if (result != 0) {
@@ -634,7 +683,7 @@ void LmdbEnvironment::Release(int status) noexcept
     const std::lock_guard lock(m_mutex);
     --m_active;
     m_full = m_full || status == MDB_MAP_FULL;
-    m_broken = m_broken || status == MDB_PANIC || status == EIO;
+    m_broken = m_broken || status == MDB_PANIC;
 }
 
 } // namespace wqspcfg
