@@ -1,0 +1,20 @@
+#include "models/idc/SpIDCDCT6URegInfo.h"
+
+#include "core/settings/Meanings.h"
+#include "core/settings/Settings.h"
+
+using namespace wqspcfg;
+using C = CSpIDCDCT6URegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Comm, L"Type", &C::m_dwType, 0, meaning::kCommunicationType, Saved, OneOf<0, 1>},
+    {key::Comm, L"Port", &C::m_dwPort, 1, meaning::kPort, Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpIDCDCT6URegInfo, CIDCRegInfo, kSettings)

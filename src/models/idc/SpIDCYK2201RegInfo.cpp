@@ -1,0 +1,20 @@
+#include "models/idc/SpIDCYK2201RegInfo.h"
+
+#include "core/settings/Meanings.h"
+#include "core/settings/Settings.h"
+
+using namespace wqspcfg;
+using C = CSpIDCYK2201RegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Comm,    L"Port",           &C::m_dwPort,           1,   meaning::kPort, Saved},
+    {key::Control, L"WaitTimeOfOnce", &C::m_dwWaitTimeOfOnce, 300, L"duration of one wait in ms", Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpIDCYK2201RegInfo, CIDCRegInfo, kSettings)

@@ -1,0 +1,23 @@
+#include "models/idc/SpUKEYRegInfo.h"
+
+#include "core/settings/Meanings.h"
+#include "core/settings/Settings.h"
+
+using namespace wqspcfg;
+using C = CSpUKEYRegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Comm,    L"Port",          &C::m_dwPort,          1,    meaning::kPort, Saved},
+    {key::Comm,    L"BaudRate",      &C::m_dwBaudRate,      9600, meaning::kBaudRate, Saved},
+    {key::Control, L"MaxUKeyCount",  &C::m_dwMaxUKeyCount,  100,  L"capacity in USB keys", Saved},
+    {key::Control, L"NumOfConfUKey", &C::m_dwNumOfConfUKey, 100,  L"number of USB keys that is configured", Saved},
+    {key::Control, L"UKeyType",      &C::m_dwUKeyType,      0,    L"type of the USB key, as the device's driver numbers it", Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpUKEYRegInfo, CIDCRegInfo, kSettings)
