@@ -51,9 +51,7 @@ constexpr Setting kSettings[] = {
     {key::Device, L"RawDataPrintTextAsBmp",    &C::m_bRawDataPrintTextAsBmp,    0,   meaning::printer::kRawDataPrintTextAsBmp, Saved, OneOf<0, 1>},
     {key::Device, L"BankType",                 &C::m_dwBankType,                1,   meaning::printer::kBankType, Saved, OneOf<1, 2, 3>},
 };
-// clang-format on
 
-// clang-format off
 constexpr Setting kSimulation[] = {
     {kSim, L"SimCheckNo",  &C::m_strSimCheckNo,  L"", meaning::printer::kSimCheckNo},
     {kSim, L"SimRFIDData", &C::m_strSimRFIDData, L"", meaning::printer::kSimRFIDData},

@@ -45,9 +45,7 @@ constexpr Setting kSettings[] = {
     {key::Device, L"PhotoPath",                &C::m_strPhotoPath,              L"", meaning::printer::kPhotoPath, Saved},
     {key::Device, L"RawDataPrintTextAsBmp",    &C::m_bRawDataPrintTextAsBmp,    0,   meaning::printer::kRawDataPrintTextAsBmp, Saved, OneOf<0, 1>},
 };
-// clang-format on
 
-// clang-format off
 constexpr Setting kSimulation[] = {
     {kSim, L"SimCheckNo",  &C::m_strSimCheckNo,  L"", meaning::printer::kSimCheckNo},
     {kSim, L"SimRFIDData", &C::m_strSimRFIDData, L"", meaning::printer::kSimRFIDData},
