@@ -1,6 +1,6 @@
 #include "core/RegKeyEx.h"
 
-#include "core/RegistryValue.h"
+#include "platform/store/RegistryValue.h"
 
 using wqspcfg::DwordBytes;
 using wqspcfg::Outcome;

@@ -1,7 +1,7 @@
 #include "core/settings/Settings.h"
 
 #include "core/RegistryRoots.h"
-#include "core/RegistryValue.h"
+#include "platform/store/RegistryValue.h"
 
 #include <cstring>
 
@@ -493,7 +493,7 @@ void Saving::WriteRow(const Setting& row, const wchar_t* turnName, unsigned turn
         Put(key, name, MemberOf<CString>(row, m_object, index));
         break;
     case Type::Char:
-        Put(key, name, CString(std::wstring_view(&MemberOf<wchar_t>(row, m_object, index), 1)));
+        Put(key, name, CString(std::wstring(1, MemberOf<wchar_t>(row, m_object, index)).c_str())); // NUL: empty
         break;
     case Type::None:
         break;
