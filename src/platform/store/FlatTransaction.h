@@ -103,6 +103,8 @@ class FlatTransaction final : public Transaction
         return GetValue(m_name, prefix, Engine::kChecked ? NameSum({m_name.data(), prefix}) : 0, Locality::Far, value);
     }
 
+    bool HasPathQueries() const noexcept override { return true; }
+
     Outcome EnumKeys(KeyId key, const KeyVisitor& visit) override
     {
         return Enumerate(key, kSubkeyMark, [&visit](std::wstring_view name, const RecordView&) { return visit(name); });
