@@ -81,12 +81,11 @@ void CCRDRegInfo::LoadCardUnits(CLog* pLog)
                 narrow = WideToNarrow(strValue.View());
                 return narrow.c_str();
             };
-            const DWORD dwNumber = number(L"Number");
-            if (dwNumber == 0) {
+            tagCardUnitEx unit;
+            unit.usNumber = LOWORD(number(L"Number"));
+            if (unit.usNumber == 0) {
                 continue;
             }
-            tagCardUnitEx unit;
-            unit.usNumber = LOWORD(dwNumber);
             unit.usType = LOWORD(number(L"Type"));
             unit.ulInitialCount = number(L"InitialCount");
             unit.ulCount = number(L"Count");

@@ -1,6 +1,7 @@
 #include "classes/CardUnitEx.h"
 
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -20,9 +21,14 @@ bool SameText(const char* a, const char* b) noexcept
 
 } // namespace
 
-tagCardUnitEx::tagCardUnitEx(const tagCardUnitEx& other)
+tagCardUnitEx::tagCardUnitEx(const tagCardUnitEx& other) : tagCardUnitEx()
 {
     *this = other;
+}
+
+tagCardUnitEx::tagCardUnitEx(tagCardUnitEx&& other) noexcept : tagCardUnitEx()
+{
+    *this = std::move(other);
 }
 
 tagCardUnitEx& tagCardUnitEx::operator=(const tagCardUnitEx& other)
@@ -30,23 +36,36 @@ tagCardUnitEx& tagCardUnitEx::operator=(const tagCardUnitEx& other)
     if (this == &other) {
         return *this;
     }
+    char* const cardName = Duplicate(other.lpszCardName);
+    char* const hopper = Duplicate(other.lpszHopper);
     delete[] lpszCardName;
-    usNumber = other.usNumber;
-    lpszCardName = Duplicate(other.lpszCardName);
-    usType = other.usType;
-    ulInitialCount = other.ulInitialCount;
-    ulCount = other.ulCount;
-    ulRetainCount = other.ulRetainCount;
-    ulThreshold = other.ulThreshold;
-    usStatus = other.usStatus;
-    bHardwareSensor = other.bHardwareSensor;
+    static_cast<_wfs_crd_cardunit&>(*this) = other;
+    lpszCardName = cardName;
     ulMaxCount = other.ulMaxCount;
     ulMinCount = other.ulMinCount;
-    lpszHopper = Duplicate(other.lpszHopper);
+    lpszHopper = hopper;
     return *this;
 }
 
-tagCardUnitEx::~tagCardUnitEx() { delete[] lpszCardName; }
+tagCardUnitEx& tagCardUnitEx::operator=(tagCardUnitEx&& other) noexcept
+{
+    if (this == &other) {
+        return *this;
+    }
+    delete[] lpszCardName;
+    static_cast<_wfs_crd_cardunit&>(*this) = other;
+    ulMaxCount = other.ulMaxCount;
+    ulMinCount = other.ulMinCount;
+    lpszHopper = other.lpszHopper;
+    other.lpszCardName = nullptr;
+    other.lpszHopper = nullptr;
+    return *this;
+}
+
+tagCardUnitEx::~tagCardUnitEx()
+{
+    delete[] lpszCardName;
+}
 
 void tagCardUnitEx::SetCardName(const char* lpszName)
 {

@@ -12,15 +12,15 @@
 
 typedef struct _wfs_crd_cardunit
 {
-    USHORT usNumber;
-    LPSTR lpszCardName;
-    USHORT usType;
-    ULONG ulInitialCount;
+    USHORT usNumber;      // logical number; 0: no unit
+    LPSTR lpszCardName;   // or null
+    USHORT usType;        // supply or retain bin
+    ULONG ulInitialCount; // at the last replenishment
     ULONG ulCount;
-    ULONG ulRetainCount;
-    ULONG ulThreshold;
+    ULONG ulRetainCount; // cards retained into this unit
+    ULONG ulThreshold;   // for the threshold event
     USHORT usStatus;
-    BOOL bHardwareSensor;
+    BOOL bHardwareSensor; // the unit has a hardware fill sensor
 } WFSCRDCARDUNIT, *LPWFSCRDCARDUNIT;
 
 #pragma pack(pop)
