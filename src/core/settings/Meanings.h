@@ -21,9 +21,7 @@ inline constexpr wchar_t kLogicalNameOfIDCReader[] =
     L"logical name of the card reader that the device opens through the XFS API; empty none";
 
 // Card readers.
-inline constexpr wchar_t kCommunicationType[] = L"communication type: 0 serial; 1 USB";
 inline constexpr wchar_t kPolicyOfSetMediaEntering[] = L"policy for setting the media status to entering";
-inline constexpr wchar_t kSkimOfInsertCard[] = L"anti-skimming when a card is inserted: 0 no; nonzero yes";
 inline constexpr wchar_t kUnPresentOfMoveCardManual[] =
     L"a card that is moved by hand is reported as not present: 0 no; nonzero yes";
 inline constexpr wchar_t kNeedResetOfRecoverSkimmerSt[] =
