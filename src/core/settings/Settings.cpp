@@ -208,7 +208,7 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
             }
             found = Find(row, turn, number);
             if (!found && row.requiredLine != 0) {
-                PrintMissing(row);
+                PrintMissing(row, turn);
             }
         }
         if (row.correct != nullptr) {
@@ -242,7 +242,7 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
     if (!given) {
         const bool found = Find(row, turn, text);
         if (!found && row.requiredLine != 0) {
-            PrintMissing(row);
+            PrintMissing(row, turn);
         }
         if (row.correctText != nullptr) {
             row.correctText(m_object, text, found);
@@ -391,15 +391,15 @@ void Loading::PrintHeld(const Setting& row)
     }
 }
 
-void Loading::PrintMissing(const Setting& row)
+void Loading::PrintMissing(const Setting& row, const Turn* turn)
 {
     if (m_log == nullptr || m_table == nullptr) {
         return;
     }
     // The source file is named after the class without its leading C.
-    const auto format = std::wstring(L"<%s(%d) : %s> ReadRegedit Info Fail : ") + row.name;
-    m_log->Error(kLogCategory, format.c_str(), m_table->className + 1, row.requiredLine,
-                 std::wstring(m_table->className) + L"::Load");
+    const auto name = turn != nullptr ? ForTurn(row.name, turn->name, turn->number) : std::wstring(row.name);
+    m_log->Error(kLogCategory, L"<%s(%d) : %s> ReadRegedit Info Fail : %s", m_table->className + 1, row.requiredLine,
+                 std::wstring(m_table->className) + L"::Load", name);
 }
 
 // ---- Saving ----

@@ -63,7 +63,7 @@ class WQSPCFG_API Loading
     bool FindIn(const Setting& row, const Turn* turn, T& value);
     Session::Key Open(Key key, const Turn* turn);
     void PrintRow(const Setting& row, const Turn* turn, const FormatArg& value);
-    void PrintMissing(const Setting& row);
+    void PrintMissing(const Setting& row, const Turn* turn);
 
     ReadScope m_scope;
     CRegKeyEx& m_object;
