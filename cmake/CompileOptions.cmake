@@ -16,9 +16,10 @@ function(wqspcfg_compile_options target)
     if(WIN32)
         target_compile_definitions(${target} PRIVATE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
     elseif(NOT WQSPCFG_SANITIZE)
-        target_compile_options(${target} PRIVATE -fstack-protector-strong
-                                                 $<$<CONFIG:Release>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+        # Not _FORTIFY_SOURCE: GCC 12 takes moves of short wide strings for overflows.
+        target_compile_options(${target} PRIVATE -fstack-protector-strong)
     endif()
+    target_compile_definitions(${target} PRIVATE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 endfunction()
 
 function(wqspcfg_link_options target)
@@ -51,4 +52,9 @@ if(WQSPCFG_SANITIZE)
         # The instrumentation hides initialisations from these.
         add_compile_options(-Wno-maybe-uninitialized -Wno-stringop-overflow -Wno-array-bounds)
     endif()
+endif()
+
+if(WQSPCFG_FUZZ)
+    # What the fuzz targets call is instrumented for coverage; each of them links the driver.
+    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

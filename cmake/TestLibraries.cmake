@@ -24,7 +24,23 @@ function(wqspcfg_add_gtest name target)
     set_tests_properties(
         ${name}
         PROPERTIES
+            TIMEOUT 900
             ENVIRONMENT
             "ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1"
     )
+endfunction()
+
+# Builds `source`, which defines LLVMFuzzerTestOneInput, as fuzzers/<name>; the target `fuzzers` builds all of them.
+# The seeds are in tests/fuzz/corpus/<name>.
+function(wqspcfg_add_fuzzer name source)
+    add_executable(fuzz_${name} ${source})
+    wqspcfg_compile_options(fuzz_${name})
+    target_link_libraries(fuzz_${name} PRIVATE wqspcfg_test_support)
+    target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
+    set_target_properties(fuzz_${name} PROPERTIES OUTPUT_NAME ${name}
+                                                  RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/fuzzers")
+    if(NOT TARGET fuzzers)
+        add_custom_target(fuzzers)
+    endif()
+    add_dependencies(fuzzers fuzz_${name})
 endfunction()

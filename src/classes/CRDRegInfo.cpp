@@ -149,8 +149,9 @@ void CCRDRegInfo::LogCardUnitInfo(CLog* pLog, const CString& strTitle, bool bFat
     if (pLog == nullptr) {
         return;
     }
-    static constexpr LPCWSTR kHeadings[] = {L"Number",    L"Name",   L"Type",           L"InitialCount", L"Count",    L"RetainCount",
-                                            L"Threshold", L"Status", L"HardwareSensor", L"MaxCount",     L"MinCount", L"Hopper"};
+    static constexpr LPCWSTR kHeadings[] = {L"Number",         L"Name",        L"Type",      L"InitialCount",
+                                            L"Count",          L"RetainCount", L"Threshold", L"Status",
+                                            L"HardwareSensor", L"MaxCount",    L"MinCount",  L"Hopper"};
     CInfoTableDecorator table(L" ", 0);
     int nColumn = 0;
     for (const auto* lpszHeading : kHeadings) {
@@ -164,9 +165,15 @@ void CCRDRegInfo::LogCardUnitInfo(CLog* pLog, const CString& strTitle, bool bFat
             const auto narrow = [](const char* lpszText) { return NarrowToWide(lpszText != nullptr ? lpszText : ""); };
             table.InsertItem(i, FormatString(L"%d", +unit.usNumber).c_str());
             table.SetItemText(i, 1, narrow(unit.lpszCardName).c_str());
-            const DWORD dwNumbers[] = {unit.usType,      unit.ulInitialCount, unit.ulCount,
-                                       unit.ulRetainCount, unit.ulThreshold,    unit.usStatus,
-                                       static_cast<DWORD>(unit.bHardwareSensor), unit.ulMaxCount, unit.ulMinCount};
+            const DWORD dwNumbers[] = {unit.usType,
+                                       unit.ulInitialCount,
+                                       unit.ulCount,
+                                       unit.ulRetainCount,
+                                       unit.ulThreshold,
+                                       unit.usStatus,
+                                       static_cast<DWORD>(unit.bHardwareSensor),
+                                       unit.ulMaxCount,
+                                       unit.ulMinCount};
             int nCell = 2;
             for (const DWORD dwNumber : dwNumbers) {
                 table.SetItemText(i, nCell++, FormatString(L"%d", dwNumber).c_str());

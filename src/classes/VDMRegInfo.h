@@ -3,8 +3,8 @@
 
 #include "core/RegInfo.h"
 
-// Which vendor-dependent application (VDA) the provider starts when the terminal enters vendor mode, and how. Nothing of
-// it is saved.
+// Which vendor-dependent application (VDA) the provider starts when the terminal enters vendor mode, and how. Nothing
+// of it is saved.
 class WQSPCFG_API CVDMRegInfo : public CRegInfo
 {
   public:

@@ -5,8 +5,8 @@
 #include "platform/base/WinTypes.h"
 #include "platform/format/Format.h"
 
-#include <mutex>
 #include <iosfwd>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +26,8 @@ enum class Severity : std::uint8_t
 } // namespace wqspcfg
 
 // A service provider implements Write; the library owns no log object and never opens or closes one. Formats are wide
-// printf formats in which %s is a wide string on every platform; arguments are type-safe. All return what Write returned.
+// printf formats in which %s is a wide string on every platform; arguments are type-safe. All return what Write
+// returned.
 class WQSPCFG_API CLog
 {
   public:

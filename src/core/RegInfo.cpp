@@ -26,9 +26,9 @@ constexpr wchar_t kSetupFormat[] = L"%sWQCmnCfg\\Setup";
 long g_refCount = 0;
 
 // Guards the results that getters cache for the process: service providers call them from several threads.
-std::mutex& CacheMutex()
+std::recursive_mutex& CacheMutex()
 {
-    static std::mutex mutex;
+    static std::recursive_mutex mutex; // a path may need another path
     return mutex;
 }
 
@@ -201,11 +201,17 @@ void CRegInfo::Save()
     saving.Write(std::span(&shared::kIsDeleteSensetiveInfo, 1));
 }
 
-bool CRegInfo::Show(CDWordArray&, HWND) { return false; }
+bool CRegInfo::Show(CDWordArray&, HWND)
+{
+    return false;
+}
 
 // ---- identity and paths ----
 
-CString CRegInfo::GetLogicalName() const { return m_strLogicalName; }
+CString CRegInfo::GetLogicalName() const
+{
+    return m_strLogicalName;
+}
 
 CString CRegInfo::GetPhysicalName(LPCWSTR lpszLogicalName) const
 {

@@ -15,15 +15,15 @@ struct Table;
 // A service provider constructs one object of its device model, calls Load once with its log, reads the public members
 // while it runs, and calls Save where it changed a value that is persisted. The object lives as long as the provider.
 //
-// Objects are constructed, loaded and destroyed by one thread at a time; the static members are shared by all objects of
-// the process. Getters may be called by several threads once the object is loaded. Nothing throws. Failures of the store
-// are not results of Load or Save: a missing value takes its default, and wqspcfg::LastStoreError tells of a store that
-// could not be read or written (Load then also writes an error line).
+// Objects are constructed, loaded and destroyed by one thread at a time; the static members are shared by all objects
+// of the process. Getters may be called by several threads once the object is loaded. Nothing throws. Failures of the
+// store are not results of Load or Save: a missing value takes its default, and wqspcfg::LastStoreError tells of a
+// store that could not be read or written (Load then also writes an error line).
 class WQSPCFG_API CRegInfo : public CRegKeyEx
 {
   public:
-    // `strName` is the logical service name, or the physical one when `bPhysicalName` is set. A logical name is resolved
-    // at once.
+    // `strName` is the logical service name, or the physical one when `bPhysicalName` is set. A logical name is
+    // resolved at once.
     CRegInfo(const CString& strName, bool bPhysicalName);
     CRegInfo(const CRegInfo&) = delete;
     CRegInfo& operator=(const CRegInfo&) = delete;
@@ -54,8 +54,8 @@ class WQSPCFG_API CRegInfo : public CRegKeyEx
     CString GetExePathName(int bDefault) const;
     CString GetExeFileName(int bDefault) const;
     CString GetExeFileTitle(int bDefault) const;
-    // The device key name: the carrier of the provider, an executable or a module in a mother process. `pbIsExe`, when not
-    // null, tells which.
+    // The device key name: the carrier of the provider, an executable or a module in a mother process. `pbIsExe`, when
+    // not null, tells which.
     CString GetExeDllMother(int bUseExeTitle, int* pbIsExe) const;
     CString GetVersion() const;
     CString GetProductVersion() const;

@@ -10,7 +10,10 @@ inline constexpr Key kShareInfo{Root::Device, L"ShareInfo"};
 inline constexpr Key kCheckErrorHandler{Root::Device, L"CheckErrorHandler"};
 
 template <auto Field>
-inline constexpr auto Policy = [](CRegInfo&, unsigned) -> auto& { return CRegInfo::m_lpsPolicyGroup->*Field; };
+inline constexpr auto Policy = [](CRegInfo&, unsigned) -> auto&
+{
+    return CRegInfo::m_lpsPolicyGroup->*Field;
+};
 
 // clang-format off
 inline constexpr Setting kPolicy[] = {

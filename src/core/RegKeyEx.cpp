@@ -1,7 +1,6 @@
 #include "core/RegKeyEx.h"
 
-#include "core/RegistryValue.h"
-
+#include "platform/store/RegistryValue.h"
 
 using wqspcfg::DwordBytes;
 using wqspcfg::Outcome;
@@ -17,7 +16,7 @@ int QueryOne(T& value, std::wstring_view name, std::wstring_view path)
 {
     ReadScope scope;
     ValueView view;
-    return scope->Query(scope->Open(path), name, view) == Outcome::Found && ToValue(view, value) ? 1 : 0;
+    return scope->QueryAt(path, name, view) == Outcome::Found && ToValue(view, value) ? 1 : 0;
 }
 
 // Hands every value of type T to `take`; 0 when the key cannot be opened.
@@ -52,6 +51,12 @@ bool ToCode(std::wstring_view name, DWORD& code)
 }
 
 } // namespace
+
+std::wstring& CRegKeyEx::PathBuffer() noexcept
+{
+    thread_local std::wstring path;
+    return path;
+}
 
 int CRegKeyEx::QueryAt(DWORD& dwValue, std::wstring_view name, std::wstring_view path)
 {

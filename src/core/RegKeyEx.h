@@ -22,12 +22,12 @@ class WQSPCFG_API CRegKeyEx
     template <class... Args>
     static int QueryValue(DWORD& dwValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return QueryAt(dwValue, strName.View(), wqspcfg::FormatString(lpszKey, args...));
+        return QueryAt(dwValue, strName.View(), Path(lpszKey, args...));
     }
     template <class... Args>
     static int QueryValue(CString& strValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return QueryAt(strValue, strName.View(), wqspcfg::FormatString(lpszKey, args...));
+        return QueryAt(strValue, strName.View(), Path(lpszKey, args...));
     }
 
     // Every DWORD value whose name is a decimal number (a command code) goes into the map under that number. Other
@@ -35,50 +35,51 @@ class WQSPCFG_API CRegKeyEx
     template <class... Args>
     static int QueryValues(CMap<DWORD, DWORD, DWORD, DWORD>& mapValues, LPCWSTR lpszKey, const Args&... args)
     {
-        return QueryAllAt(mapValues, wqspcfg::FormatString(lpszKey, args...));
+        return QueryAllAt(mapValues, Path(lpszKey, args...));
     }
     // Every DWORD value of the key under its name.
     template <class... Args>
     static int QueryValues(CMap<CString, LPCWSTR, DWORD, DWORD>& mapValues, LPCWSTR lpszKey, const Args&... args)
     {
-        return QueryAllAt(mapValues, wqspcfg::FormatString(lpszKey, args...));
+        return QueryAllAt(mapValues, Path(lpszKey, args...));
     }
     // Every string value of the key under its name. Entries of the map that the key does not hold stay.
     template <class... Args>
     static int QueryValues(CMapStringToString& mapValues, LPCWSTR lpszKey, const Args&... args)
     {
-        return QueryAllAt(mapValues, wqspcfg::FormatString(lpszKey, args...));
+        return QueryAllAt(mapValues, Path(lpszKey, args...));
     }
 
-    // A write creates the missing key. Outside a wqspcfg::WriteScope it is durable on an embedded store when it returns.
+    // A write creates the missing key. Outside a wqspcfg::WriteScope it is durable on an embedded store when it
+    // returns.
     template <class... Args>
     static int SetValue(DWORD dwValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return SetAt(dwValue, strName.View(), wqspcfg::FormatString(lpszKey, args...), false);
+        return SetAt(dwValue, strName.View(), Path(lpszKey, args...), false);
     }
     template <class... Args>
     static int SetValue(const CString& strValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return SetAt(strValue.View(), strName.View(), wqspcfg::FormatString(lpszKey, args...));
+        return SetAt(strValue.View(), strName.View(), Path(lpszKey, args...));
     }
     // Durable on every store when it returns, or when the wqspcfg::WriteScope around it ends.
     template <class... Args>
     static int SetValueAndFlush(DWORD dwValue, const CString& strName, LPCWSTR lpszKey, const Args&... args)
     {
-        return SetAt(dwValue, strName.View(), wqspcfg::FormatString(lpszKey, args...), true);
+        return SetAt(dwValue, strName.View(), Path(lpszKey, args...), true);
     }
     // Writes every entry as a string value, all of them or none where the store can.
     template <class... Args>
     static int SetValues(const CMapStringToString& mapValues, LPCWSTR lpszKey, const Args&... args)
     {
-        return SetAllAt(mapValues, wqspcfg::FormatString(lpszKey, args...));
+        return SetAllAt(mapValues, Path(lpszKey, args...));
     }
 
     // The names of the key's direct subkeys in case-insensitive order.
     template <class... Args>
     static int EnumSubKeyName(CStringArray& arNames, LPCWSTR lpszKey, const Args&... args)
     {
-        return EnumAt(arNames, wqspcfg::FormatString(lpszKey, args...));
+        return EnumAt(arNames, Path(lpszKey, args...));
     }
 
   protected:
@@ -88,6 +89,16 @@ class WQSPCFG_API CRegKeyEx
     ~CRegKeyEx() = default;
 
   private:
+    // The formatted path, valid until this thread's next operation.
+    template <class... Args>
+    static const std::wstring& Path(LPCWSTR lpszKey, const Args&... args)
+    {
+        auto& path = PathBuffer();
+        path.clear();
+        wqspcfg::FormatTo(path, lpszKey, args...);
+        return path;
+    }
+    static std::wstring& PathBuffer() noexcept;
     static int QueryAt(DWORD& dwValue, std::wstring_view name, std::wstring_view path);
     static int QueryAt(CString& strValue, std::wstring_view name, std::wstring_view path);
     static int QueryAllAt(CMap<DWORD, DWORD, DWORD, DWORD>& mapValues, std::wstring_view path);

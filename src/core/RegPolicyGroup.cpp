@@ -2,9 +2,15 @@
 
 tagRegPolicyGroup::tagRegPolicyGroup() : ErrorCodeKey(new CString(L"LastErrorCode")) {}
 
-tagRegPolicyGroup::~tagRegPolicyGroup() { delete ErrorCodeKey; }
+tagRegPolicyGroup::~tagRegPolicyGroup()
+{
+    delete ErrorCodeKey;
+}
 
-tagRegPolicyGroup::tagRegPolicyGroup(const tagRegPolicyGroup& other) : ErrorCodeKey(new CString) { *this = other; }
+tagRegPolicyGroup::tagRegPolicyGroup(const tagRegPolicyGroup& other) : ErrorCodeKey(new CString)
+{
+    *this = other;
+}
 
 tagRegPolicyGroup& tagRegPolicyGroup::operator=(const tagRegPolicyGroup& other)
 {

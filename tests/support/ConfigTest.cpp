@@ -109,17 +109,27 @@ std::wstring ConfigTest::Line(const std::wstring& label) const
     for (const auto& entry : m_log.Entries()) {
         const auto at = entry.text.find(label);
         if (at != std::wstring::npos && at != 0 && entry.text[at - 1] == L' ' && at < 60 &&
-            (entry.text.compare(at + label.size(), 2, L" :") == 0 || entry.text.compare(at + label.size(), 1, L":") == 0)) {
+            (entry.text.compare(at + label.size(), 2, L" :") == 0 ||
+             entry.text.compare(at + label.size(), 1, L":") == 0)) {
             return entry.text;
         }
     }
     return {};
 }
 
-std::vector<std::wstring> ConfigTest::Reads() { return Filter(*m_store, Recorded::What::Query); }
+std::vector<std::wstring> ConfigTest::Reads()
+{
+    return Filter(*m_store, Recorded::What::Query);
+}
 
-std::vector<std::wstring> ConfigTest::Writes() { return Filter(*m_store, Recorded::What::Set); }
+std::vector<std::wstring> ConfigTest::Writes()
+{
+    return Filter(*m_store, Recorded::What::Set);
+}
 
-std::size_t ConfigTest::Commits() { return Filter(*m_store, Recorded::What::Commit).size(); }
+std::size_t ConfigTest::Commits()
+{
+    return Filter(*m_store, Recorded::What::Commit).size();
+}
 
 } // namespace wqspcfg::test

@@ -5,22 +5,20 @@ namespace wqspcfg::meaning {
 
 inline constexpr wchar_t kPort[] = L"serial port number";
 inline constexpr wchar_t kBaudRate[] = L"serial speed in baud";
-inline constexpr wchar_t kPowerOnOption[] = L"card in the reader at initialisation: 0 eject; 1 retain; 2 back to the read position; 3 leave";
 inline constexpr wchar_t kCloseOption[] = L"card in the reader when the SP closes: 0 eject; 1 retain; 2 leave";
-inline constexpr wchar_t kPowerOffOption[] = L"card in the reader at power loss: 0 leave; 1 eject; 2 retain";
 inline constexpr wchar_t kDispenseBin1[] = L"card-unit number of physical bin 1";
 inline constexpr wchar_t kDispenseBin2[] = L"card-unit number of physical bin 2";
 inline constexpr wchar_t kRetainBin[] = L"card-unit number of the retain bin";
 inline constexpr wchar_t kMaxSupplyCard[] = L"capacity of a supply bin, in cards";
 inline constexpr wchar_t kSupplyBinLow[] = L"count at which a supply bin is nearly empty";
-inline constexpr wchar_t kRetainBinStatus[] = L"retain-bin status policy: 0 the XFS standard; 1 the agricultural bank's super-counter interface";
+inline constexpr wchar_t kRetainBinStatus[] =
+    L"retain-bin status policy: 0 the XFS standard; 1 the agricultural bank's super-counter interface";
 inline constexpr wchar_t kMediaLatched[] = L"support the WFS_IDC_MEDIALATCHED status: 0 no; nonzero yes";
-inline constexpr wchar_t kLogicalNameOfIDCReader[] = L"logical name of the card reader that the device opens through the XFS API; empty none";
+inline constexpr wchar_t kLogicalNameOfIDCReader[] =
+    L"logical name of the card reader that the device opens through the XFS API; empty none";
 
 // Card readers.
-inline constexpr wchar_t kCommunicationType[] = L"communication type: 0 serial; 1 USB";
 inline constexpr wchar_t kPolicyOfSetMediaEntering[] = L"policy for setting the media status to entering";
-inline constexpr wchar_t kSkimOfInsertCard[] = L"anti-skimming when a card is inserted: 0 no; nonzero yes";
 inline constexpr wchar_t kUnPresentOfMoveCardManual[] =
     L"a card that is moved by hand is reported as not present: 0 no; nonzero yes";
 inline constexpr wchar_t kNeedResetOfRecoverSkimmerSt[] =
@@ -97,6 +95,168 @@ inline constexpr wchar_t kFrontPicPath[] = L"path of the picture of the card's f
 inline constexpr wchar_t kBackPicPath[] = L"path of the picture of the card's back";
 inline constexpr wchar_t kDeviceTypeOfDriver[] = L"device type, as the device's driver numbers it";
 
+// Sensors and indicators
+
+// PIN pads
+
+// Cash recyclers and coin devices.
+inline constexpr wchar_t kInnerShutterCantClose[] = L"the inner shutter cannot close at the end of a deposit: 0 no error; 1 to 99 a hardware error; from 100 this number is reported as the error code instead";
+inline constexpr wchar_t kHwInitCount[] = L"most hardware initialisations by remote control: 0 unlimited";
+inline constexpr wchar_t kRollbackDelayTimeout[] = L"rollback delay in ms";
+inline constexpr wchar_t kTryRetract2CasE[] = L"when the retract cassette is full, retracts go to cassette E: 0 no; nonzero yes";
+inline constexpr wchar_t kForceRetract2CasE[] = L"retracts always go to cassette E: 0 no; nonzero yes";
+inline constexpr wchar_t kSetPOSNULLPosition[] = L"what a null position from the application means: 0 the input slot; 1 the output slot; 2 both";
+inline constexpr wchar_t kStoreFirstCollect[] = L"deposit order of the cassettes: 0 E to A; 1 A to E; 2 adjusted by which cassettes are closed";
+inline constexpr wchar_t kDispenseFirstDepart[] = L"dispense order of the cassettes: 0 A to E; 1 the priorities change when the first cassette cannot cover the amount, so that one dispense does not use several cassettes";
+inline constexpr wchar_t kTryCloseOutSht[] = L"interval between attempts to close the outer shutter, in ms";
+inline constexpr wchar_t kDepartClose[] = L"a cassette that is pulled or plugged, and the non-15-note reject case, may close separation physically: 0 no; nonzero yes";
+inline constexpr wchar_t kCollectClose[] = L"a cassette that is pulled or plugged may close collection physically: 0 no; 1 yes; 2 also when the separation of a dispense closes";
+inline constexpr wchar_t kCasTypeFollowSlot[] = L"the cassette type belongs to: 0 the cassette; 1 the slot";
+inline constexpr wchar_t kAddCasDataType[] = L"additions to the counts of a mixed cassette by denomination: 0 no; 1 yes";
+inline constexpr wchar_t kUnitPhyPosName[] = L"names of the physical positions: 0 CassetteA and so on; 1 Cassette1 and so on";
+inline constexpr wchar_t kUseCassetteF[] = L"cassette F is the reject cassette and retracts are not supported: 0 no; nonzero yes";
+inline constexpr wchar_t kUseCassetteE[] = L"cassette E, which must be a mixed one, is the reject cassette: 0 no; nonzero yes";
+inline constexpr wchar_t kSlotType[] = L"cassette type: high word the group (0x0004 group 4), low word the use: 0x0030 recycle; 0x0010 dispense only; 0x0020 deposit only; 0x0040 mixed deposit";
+inline constexpr wchar_t kSlotCasFull[] = L"distance to full as a code: 0 to 9 mean 50 x (code + 1) notes";
+inline constexpr wchar_t kSlotCasNearEmpty[] = L"distance to nearly empty as a code: 0 to 9 mean 50 x (code + 1) notes; 80 to 89 mean 10 x (code - 79) notes";
+inline constexpr wchar_t kOutShutterType[] = L"outer shutter: 0 ATM shutter; 1 VTM shutter valve, which must open before the inner shutter; 2 VTM outer shutter made by Tarno; 3 outer shutter of an intelligent low counter; other numbers a virtual shutter";
+inline constexpr wchar_t kVtmOutShtPort[] = L"port of the VTM shutter valve on the sensors-and-indicators device";
+inline constexpr wchar_t kVtmOutShtCtrlIndex[] = L"index for opening and closing the VTM shutter valve on the sensors-and-indicators device: 0 to 15; any other number becomes 10";
+inline constexpr wchar_t kVtmOutShtSafeDoorIndex[] = L"index of the safe door on the sensors-and-indicators device: 0 to 7; any other number is kept, and VtmOutShtCtrlIndex becomes 5";
+inline constexpr wchar_t kVtmOutShtStIndex[] = L"index of the status of the VTM shutter valve on the sensors-and-indicators device: 0 to 7; any other number becomes 4";
+inline constexpr wchar_t kVtmPolOfSafeDoor[] = L"polarity of the safe door: 0 as the hardware has it; 1 inverted";
+inline constexpr wchar_t kInitType[] = L"initialisation: 0 chosen from the context; 1 normal; 2 maintenance; 3 remote; 4 forced";
+inline constexpr wchar_t kWQVtmOutShtPort[] = L"port of the VTM shutter valve made by Tarno";
+inline constexpr wchar_t kMaxItemsOfEscrow[] = L"capacity of the escrow in notes: 0 there is no escrow";
+inline constexpr wchar_t kUseRestrictAmountByAPP[] = L"the amount limit of a deposit that the application publishes is used: 0 no; nonzero yes";
+inline constexpr wchar_t kDisableCIMRetract[] = L"CIM retracts are disabled: 0 no; nonzero yes";
+inline constexpr wchar_t kDisableCDMRetract[] = L"CDM retracts are disabled: 0 no; nonzero yes";
+inline constexpr wchar_t kOutShutterLockType[] = L"type of the lock of the outer shutter";
+inline constexpr wchar_t kRetractCashOfShutterIn[] = L"notes inside the shutter are retracted: 0 no; nonzero yes";
+inline constexpr wchar_t kEnableAccountWhenVerifyFailed[] = L"notes are accounted when their validation failed: 0 no; nonzero yes";
+inline constexpr wchar_t kContainerCanAsCashInOut[] = L"the transfer container after automatic replenishment: 0 takes no part in transactions, reported as a container; 1 takes part, reported as a container; 2 takes part, reported as a recycle cassette";
+inline constexpr wchar_t kCanRejectCash[] = L"automatic clear-out and replenishment may produce rejects, bit set: 1 counting; 2 replenishing";
+inline constexpr wchar_t kRetryWhenDepartBad[] = L"a note move is tried again when separation fails: 0 no; nonzero yes";
+inline constexpr wchar_t kExtraMoveTimes[] = L"retries of a note move when rejects left the target with too few notes";
+inline constexpr wchar_t kHandleBillNotMatch[] = L"denomination of a moved note does not match the cassette: 0 is ignored; 1 stops the move with an error; 2 stops the cassette";
+inline constexpr wchar_t kRtNoItemIfNoCash[] = L"cash-in end without an accepted note returns no-items: 0 no; nonzero yes";
+inline constexpr wchar_t kCheckEmptyOnOutSht[] = L"before validation the outer shutter is checked for notes left over, which takes effect only where the input shutter stays open: 0 no; nonzero yes";
+inline constexpr wchar_t kRestrictDepCntPath[] = L"registry path of the count limit of a deposit that the application publishes; the value may be a number or a text";
+inline constexpr wchar_t kRestrictDepCntKey[] = L"value name of the count limit of a deposit that the application publishes";
+inline constexpr wchar_t kRestrictDepAmtPath[] = L"registry path of the amount limit of a deposit that the application publishes; the value may be a number or a text";
+inline constexpr wchar_t kRestrictDepAmtKey[] = L"value name of the amount limit of a deposit that the application publishes";
+inline constexpr wchar_t kRetractWhenResetInputNull[] = L"a reset whose input is null retracts: 0 no; nonzero yes";
+inline constexpr wchar_t kHandleDepRestrict0[] = L"a limit of 0 from the application: 0 the limits of the provider are used; 1 too-many-items is returned";
+inline constexpr wchar_t kCoinCasFull[] = L"coins at which the hopper is full";
+inline constexpr wchar_t kCoinCasNearFull[] = L"coins at which the hopper is nearly full";
+inline constexpr wchar_t kCoinCasEmpty[] = L"coins at which the hopper is empty";
+inline constexpr wchar_t kCoinCasNearEmpty[] = L"coins at which the hopper is nearly empty";
+inline constexpr wchar_t kCoinType[] = L"denomination of the hopper: 0x100 recycle for 1 yuan; 0x050 recycle for 5 jiao; 0x010 recycle for 1 jiao; 0x000 none";
+inline constexpr wchar_t kCoinDispenseTimeOut[] = L"time-out of a dispense in ms";
+inline constexpr wchar_t kAutoRecoverCount[] = L"most automatic recoveries after a fault";
+
+// Sensors and indicators
+inline constexpr wchar_t kPoweroffAutoShutdown[] = L"the terminal shuts down on mains failure: 0 no; nonzero yes";
+inline constexpr wchar_t kUsePowerSwitch[] =
+    L"power key: 0 there is none; 1 use the white power key; 2 use it and mask the state of the operator key";
+inline constexpr wchar_t kUseSafeDoor[] = L"the safe door enters supervisor mode: 0 no; 1 yes";
+inline constexpr wchar_t kKeepSupervisorCabinetOpen[] = L"an open front door keeps supervisor mode: 0 no; nonzero yes";
+inline constexpr wchar_t kContinueBuzzerWithoutAudio[] =
+    L"a set-indicator command with only the continue option selected keeps the default beep: 0 no; nonzero yes";
+inline constexpr wchar_t kRearBackLightCtrl[] = L"the rear screen is kept lit: 0 no; nonzero yes";
+inline constexpr wchar_t kFrontBackLightCtrl[] = L"the front screen is kept lit: 0 no; nonzero yes";
+inline constexpr wchar_t kAllowUpsFlashBreakTime[] =
+    L"a break of the internal UPS that lasts longer than this is reported to the card reader, in milliseconds";
+inline constexpr wchar_t kUsePinSta[] = L"the keyboard light follows the state of the PIN pad: 0 no; nonzero yes";
+inline constexpr wchar_t kUseKeySta[] = L"the keyboard light follows the state of the operator key: 0 no; nonzero yes";
+inline constexpr wchar_t kUseCardSta[] = L"the keyboard light follows the state of the card reader: 0 no; nonzero yes";
+inline constexpr wchar_t kUseProximity[] = L"the keyboard light follows the proximity sensor: 0 no; nonzero yes";
+inline constexpr wchar_t kUseSafeAgent[] = L"an intelligent anti-skimming unit is used: 0 no; nonzero yes";
+inline constexpr wchar_t kBeepOn[] = L"the anti-skimming unit beeps: 0 no; nonzero yes";
+inline constexpr wchar_t kRelayAlarmOn[] = L"the anti-skimming unit switches the alarm relay: 0 no; nonzero yes";
+inline constexpr wchar_t kBlindPoint[] = L"blinding sensitivity, 0 to 255: larger is more sensitive";
+inline constexpr wchar_t kBlindAlarmTime[] = L"seconds of blinding before the alarm, 0 to 255";
+inline constexpr wchar_t kCoverAlarmTime[] = L"seconds that an obstacle stays before the alarm, 0 to 65535";
+inline constexpr wchar_t kAutoCancel[] = L"the alarm is cleared automatically: 0 no; nonzero yes";
+inline constexpr wchar_t kRearUpDoorRelationCabinet[] =
+    L"the state of the rear upper door is linked to the front cover: 0 no; nonzero yes";
+inline constexpr wchar_t kDecorateDoorRelateCabinet[] =
+    L"the state of the decoration door is linked to the front cover: 0 no; nonzero yes";
+inline constexpr wchar_t kGuidLightOffOfReset[] = L"a reset switches the guidance lights off: 0 no; nonzero yes";
+inline constexpr wchar_t kPolicyOfCabinetOpen[] =
+    L"what happens when the front cover is opened: 0 nothing; 1 the card reader is notified; 2 the PIN pad is "
+    L"notified; 4 the SIU beeps";
+inline constexpr wchar_t kCabinetOpenBeepPath[] = L"sound file that is played while the front cover is open";
+inline constexpr wchar_t kProximityPresentWaitTime[] =
+    L"how long the proximity sensor must be covered before present is reported, in milliseconds: 0 at once";
+inline constexpr wchar_t kManualResetSkimmerStatus[] =
+    L"the state of the skimmer sensor is reset by hand only: 0 no; nonzero yes";
+inline constexpr wchar_t kSetScreenSTByProximityST[] =
+    L"the screen is switched by the state of the proximity sensor: 0 no; nonzero yes";
+inline constexpr wchar_t kScreenPowerOffCoolDownTime[] = L"cool-down time before the screen is powered off";
+inline constexpr wchar_t kIsDoorStChangeSwitchSt[] =
+    L"a change of the door state changes the state of the operator switch: 0 no; nonzero yes";
+inline constexpr wchar_t kSetCameraGuidLightOn[] =
+    L"the guidance light of the camera is switched on: 0 no; nonzero yes";
+inline constexpr wchar_t kUseAuraLight[] = L"an aura light is used: 0 no; nonzero yes";
+inline constexpr wchar_t kPortScr[] = L"serial port number of the second controller";
+inline constexpr wchar_t kBaudRateScr[] = L"serial speed of the second controller in baud";
+inline constexpr wchar_t kCoolingTime[] = L"cooling time";
+inline constexpr wchar_t kLightPolarity[] = L"level at which this light is on: 0 low; nonzero high";
+inline constexpr wchar_t kSwitchPolarity[] = L"level at which this switch is closed: 0 low; nonzero high";
+
+// PIN pads
+inline constexpr wchar_t kPostKeyInGetData[] =
+    L"plain-text entry also posts a Win32 key event for each key: 0 no; 1 yes";
+inline constexpr wchar_t kPostKeyInGetPin[] = L"PIN entry also posts a Win32 key event for each key: 0 no; 1 yes";
+inline constexpr wchar_t kDisabledPCKeyEventOfKey[] = L"keys for which no Win32 key event is posted";
+inline constexpr wchar_t kEnableIdlePCKeyEvent[] =
+    L"plain key input is possible while the keypad is idle: 0 no; nonzero yes";
+inline constexpr wchar_t kClearAndBackspace[] =
+    L"when Clear and Backspace are activated together, on a keyboard that has only one of them: 0 treat it as "
+    L"BACKSPACE; 1 treat it as CLEAR";
+inline constexpr wchar_t kReportErrOnPressMultiKey[] = L"several keys pressed at once are an error: 0 no; 1 yes";
+inline constexpr wchar_t kReportLongKeyPressErr[] = L"a long key press is an error: 0 no; nonzero yes";
+inline constexpr wchar_t kKeyPressInteval[] = L"how long a key is held down before it counts as a long press";
+inline constexpr wchar_t kClearAsBackspaceInGetData[] =
+    L"the Clear key acts as Backspace in plain-text entry: 0 no; 1 yes";
+inline constexpr wchar_t kClearAsBackspaceInGetPin[] = L"the Clear key acts as Backspace in PIN entry: 0 no; 1 yes";
+inline constexpr wchar_t kReadOneKeyToMaxForceEnter[] =
+    L"without automatic end, reaching the maximum length forces an ENTER: 0 no; nonzero yes";
+inline constexpr wchar_t kPageUpToXFSKey[] = L"XFS key that the page-up key is mapped to: 0 none";
+inline constexpr wchar_t kPageDownToXFSKey[] = L"XFS key that the page-down key is mapped to: 0 none";
+inline constexpr wchar_t kJstMacType[] = L"MAC algorithm: 0x00 X9.9; 0x01 X9.19; 0x02 special";
+inline constexpr wchar_t kMac99[] =
+    L"MAC algorithm, bits: 0x00 the keypad decides by the key length; 0x01 always ANSI X9.9; 0x10 only 8 bytes "
+    L"per step";
+inline constexpr wchar_t kHardware[] = L"hardware type of the keypad";
+inline constexpr wchar_t kEnableBackSpace[] = L"the Backspace key is active: 0 no; nonzero yes";
+inline constexpr wchar_t kBackspaceToHelp[] = L"the blank key is mapped to HELP: 0 no; 1 yes";
+inline constexpr wchar_t kClearToBackspace[] = L"the Clear key is mapped to Backspace: 0 no; nonzero yes";
+inline constexpr wchar_t kUseDesignatedName[] =
+    L"key names: 0x00 decided by the version of the keypad; 0x01 always the designated names";
+inline constexpr wchar_t kMaxEnDeCryptBlockLen[] =
+    L"longest block that is encrypted or decrypted at once, in bytes: 0 decided by the version of the keypad";
+inline constexpr wchar_t kFindRegKeyIndexByUse[] =
+    L"registered keys are found: 0 by their fixed name; nonzero by their use";
+inline constexpr wchar_t kMinPinLength[] = L"shortest PIN, in digits";
+inline constexpr wchar_t kDelDuplicateKEK[] =
+    L"a master key of the same name is deleted before one is imported: 0 no; nonzero yes";
+inline constexpr wchar_t kDelDuplicateKEKSM[] =
+    L"an SM master key of the same name is deleted before one is imported: 0 no; nonzero yes";
+inline constexpr wchar_t kEllipseParamP[] = L"SM2 elliptic curve parameter p";
+inline constexpr wchar_t kEllipseParamA[] = L"SM2 elliptic curve parameter a";
+inline constexpr wchar_t kEllipseParamB[] = L"SM2 elliptic curve parameter b";
+inline constexpr wchar_t kEllipseParamN[] = L"SM2 elliptic curve parameter n";
+inline constexpr wchar_t kEllipseParamXg[] = L"SM2 elliptic curve parameter xG";
+inline constexpr wchar_t kEllipseParamYg[] = L"SM2 elliptic curve parameter yG";
+inline constexpr wchar_t kDerivationAlgorithms[] =
+    L"key derivation algorithms reported as fwDerivationAlgorithms: 0 none; 0x0001 WFS_PIN_CHIP_ZKA";
+inline constexpr wchar_t kPresentationAlgorithms[] =
+    L"presentation algorithms reported as fwPresentationAlgorithms: 0 none; 0x0001 WFS_PIN_PRESENT_CLEAR";
+inline constexpr wchar_t kIDKey[] =
+    L"use of the ID key reported as fwIDKey: 0 none; 0x0001 WFS_PIN_IDKEYINITIALIZATION; 0x0002 WFS_PIN_IDKEYIMPORT";
+
 } // namespace wqspcfg::meaning
 
 namespace wqspcfg::meaning { // barcode readers
@@ -107,10 +267,7 @@ inline constexpr wchar_t kScanBeepFile[] = L"sound file played when data is scan
 
 namespace wqspcfg::meaning::crd { // card dispensers
 
-inline constexpr wchar_t kDevType[] = L"device type";
 inline constexpr wchar_t kApProtocolType[] = L"type of the application protocol";
-inline constexpr wchar_t kSupplyBinCount[] = L"number of supply bins";
-inline constexpr wchar_t kRetainBinCount[] = L"number of retain bins";
 inline constexpr wchar_t kSupplyBinMax[] = L"count at which a supply bin is full";
 inline constexpr wchar_t kTimesToTryWhenFail[] = L"number of attempts when an operation fails";
 inline constexpr wchar_t kAllowResetWithRetainOnFull[] = L"a reset that retains is allowed while the retain bin is full: 0 no; nonzero yes";
@@ -118,7 +275,6 @@ inline constexpr wchar_t kDispenseBin3[] = L"card-unit number of physical bin 3"
 inline constexpr wchar_t kAllowRetainOfRetainBinErr[] = L"retaining allowed while the retain bin is faulty: 0 no; nonzero yes";
 inline constexpr wchar_t kMoveTransPortCardOptionWhenReset[] = L"where a card in the transport goes at a reset";
 inline constexpr wchar_t kMoveTransPortCardOptionWhenIDCDispense[] = L"where a card in the transport goes when dispensing through the card reader";
-inline constexpr wchar_t kType[] = L"communication type";
 inline constexpr wchar_t kMaxRetainCard[] = L"capacity of the retain bin, in cards";
 inline constexpr wchar_t kRetainBinHigh[] = L"retain count at which the retain bin is nearly full";
 inline constexpr wchar_t kSkimOfInsertCard[] = L"skim option when a card is inserted";
@@ -127,7 +283,6 @@ inline constexpr wchar_t kCheckModeOfInsertCard[] = L"check mode when a card is 
 inline constexpr wchar_t kCheckMode[] = L"check mode";
 inline constexpr wchar_t kShutterActionOfInit[] = L"action of the shutter at initialisation";
 inline constexpr wchar_t kConnectAfterHWError[] = L"the connection is made again after a hardware error: 0 no; nonzero yes";
-inline constexpr wchar_t kOpenOption[] = L"what happens to a card in the device when the SP opens";
 inline constexpr wchar_t kPolicyOfExtraSuppBinST[] = L"policy of the extra supply-bin status";
 inline constexpr wchar_t kResetAndAgain[] = L"the device is reset and the operation tried again: 0 no; nonzero yes";
 inline constexpr wchar_t kMaxSendUkeyCount[] = L"largest number of USB keys to send";

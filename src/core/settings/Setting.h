@@ -7,8 +7,8 @@
 //         {key::Control, L"ApID",    &C::m_dwApID,    0,    L"application profile", Saved, Format(L"0x%02X")},
 //     };
 //
-// The member's type is the setting's: DWORD, bool (a DWORD that is zero or not), CString or wchar_t (the first character
-// of a string). Whatever follows the meaning are options, in any order; they stand below.
+// The member's type is the setting's: DWORD, bool (a DWORD that is zero or not), CString or wchar_t (the first
+// character of a string). Whatever follows the meaning are options, in any order; they stand below.
 #pragma once
 
 #include "core/RegInfo.h"
@@ -56,9 +56,18 @@ inline constexpr Key Beep{Root::Device, L"Beep"};
 inline constexpr Key Service{Root::Service, L""};
 inline constexpr Key Setup{Root::Common, L"Setup"};
 
-constexpr Key Below(const wchar_t* subkey) { return {Root::Device, subkey}; }
-constexpr Key Common(const wchar_t* subkey) { return {Root::Common, subkey}; }
-constexpr Key Absolute(const wchar_t* path) { return {Root::Absolute, path}; }
+constexpr Key Below(const wchar_t* subkey)
+{
+    return {Root::Device, subkey};
+}
+constexpr Key Common(const wchar_t* subkey)
+{
+    return {Root::Common, subkey};
+}
+constexpr Key Absolute(const wchar_t* path)
+{
+    return {Root::Absolute, path};
+}
 
 } // namespace key
 
@@ -79,9 +88,8 @@ struct Value
 
     constexpr Value() = default;
     template <class T>
-        requires std::is_integral_v<T> || std::is_enum_v<T>
-    constexpr Value(T value) : number(static_cast<DWORD>(value))
-    {}
+    requires std::is_integral_v<T> || std::is_enum_v<T>
+    constexpr Value(T value) : number(static_cast<DWORD>(value)) {}
     constexpr Value(const wchar_t* value) : text(value) {}
 
     friend constexpr bool operator==(const Value&, const Value&) = default;
@@ -123,28 +131,55 @@ struct PerTurnOption { const DWORD* values; };
 // clang-format on
 
 // The value's conversion in its line, in place of %d, %s or %c; text may follow it.
-constexpr FormatOption Format(const wchar_t* conversion) { return {conversion}; }
+constexpr FormatOption Format(const wchar_t* conversion)
+{
+    return {conversion};
+}
 // What stands before the value in its line, in place of "[CFG] %40s : "; the label fills its conversion.
-constexpr HeadOption Head(const wchar_t* head) { return {head}; }
+constexpr HeadOption Head(const wchar_t* head)
+{
+    return {head};
+}
 // The label in the line, in place of the value name. Within Repeat it may hold a conversion for the turn's name.
-constexpr LabelOption Label(const wchar_t* label) { return {label}; }
+constexpr LabelOption Label(const wchar_t* label)
+{
+    return {label};
+}
 // The name it is read under from its own key, when that is not the setting's name.
-constexpr ReadAsOption ReadAs(const wchar_t* name) { return {name}; }
+constexpr ReadAsOption ReadAs(const wchar_t* name)
+{
+    return {name};
+}
 // Saved, but under another name than it is read under.
-constexpr SavedAsOption SavedAs(const wchar_t* name) { return {name}; }
+constexpr SavedAsOption SavedAs(const wchar_t* name)
+{
+    return {name};
+}
 // The key that is asked, for the setting's name, when its own key does not hold the value.
-constexpr OrElseOption OrElse(Key key) { return {key}; }
+constexpr OrElseOption OrElse(Key key)
+{
+    return {key};
+}
 // What the constructor sets, where that is not the default.
-constexpr ConstructedOption Constructed(Value value) { return {value}; }
+constexpr ConstructedOption Constructed(Value value)
+{
+    return {value};
+}
 // Within Repeat: each turn's own default, which the constructor sets too. `values` has one for each turn.
-constexpr PerTurnOption PerTurn(const DWORD* values) { return {values}; }
+constexpr PerTurnOption PerTurn(const DWORD* values)
+{
+    return {values};
+}
 
 struct RangeOption
 {
     DWORD low;
     DWORD high;
 };
-constexpr RangeOption Range(DWORD low, DWORD high) { return {low, high}; }
+constexpr RangeOption Range(DWORD low, DWORD high)
+{
+    return {low, high};
+}
 
 template <DWORD... Values>
 struct OneOfOption
@@ -254,7 +289,8 @@ struct OwnerOfMember<T O::*>
     using type = O;
 };
 template <auto Array, auto... Field>
-inline constexpr auto Element = [](typename OwnerOfMember<decltype(Array)>::type& object, unsigned turn) -> auto& {
+inline constexpr auto Element = [](typename OwnerOfMember<decltype(Array)>::type& object, unsigned turn) -> auto&
+{
     if constexpr (sizeof...(Field) == 0) {
         return (object.*Array)[turn];
     } else {
@@ -272,7 +308,8 @@ struct Setting
     Value fallback;
     Value constructed;
 
-    union {
+    union
+    {
         DWORD CRegKeyEx::*dword = nullptr;
         bool CRegKeyEx::*flag;
         CString CRegKeyEx::*string;
@@ -344,7 +381,7 @@ struct Setting
 
     // `accessor` is a lambda T&(Owner&, unsigned turn).
     template <class F, class... Options>
-        requires std::is_class_v<Signature<F>>
+    requires std::is_class_v<Signature<F>>
     constexpr Setting(Key k, const wchar_t* n, F, Value standard, const wchar_t* text, Options... options)
         : key(k), name(n), meaning(text), fallback(standard),
           type(kTypeOf<std::remove_reference_t<typename Signature<F>::Result>>), bound(true)

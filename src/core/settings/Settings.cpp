@@ -1,7 +1,7 @@
 #include "core/settings/Settings.h"
 
 #include "core/RegistryRoots.h"
-#include "core/RegistryValue.h"
+#include "platform/store/RegistryValue.h"
 
 #include <cstring>
 
@@ -91,7 +91,10 @@ void SetMember(const Setting& row, CRegKeyEx& object, unsigned turn, const Value
     }
 }
 
-DWORD DefaultNumber(const Setting& row, unsigned turn) { return row.perTurn ? row.perTurn[turn] : row.fallback.number; }
+DWORD DefaultNumber(const Setting& row, unsigned turn)
+{
+    return row.perTurn ? row.perTurn[turn] : row.fallback.number;
+}
 
 void ConstructRows(CRegKeyEx& object, std::span<const Setting> rows, unsigned turn)
 {
@@ -112,7 +115,10 @@ void ConstructRows(CRegKeyEx& object, std::span<const Setting> rows, unsigned tu
 
 } // namespace
 
-void Construct(CRegKeyEx& object, std::span<const Setting> rows) { ConstructRows(object, rows, 0); }
+void Construct(CRegKeyEx& object, std::span<const Setting> rows)
+{
+    ConstructRows(object, rows, 0);
+}
 
 // ---- Loading ----
 
@@ -150,7 +156,10 @@ bool Loading::Read(const Table& table)
     return ReadRows(table.rows, nullptr);
 }
 
-bool Loading::Read(std::span<const Setting> rows) { return ReadRows(rows, nullptr); }
+bool Loading::Read(std::span<const Setting> rows)
+{
+    return ReadRows(rows, nullptr);
+}
 
 bool Loading::ReadRows(std::span<const Setting> rows, const Turn* turn)
 {
@@ -200,7 +209,8 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
     if (row.type == Type::Dword || row.type == Type::Flag) {
         DWORD number = DefaultNumber(row, index);
         if (row.bound && (row.keep || given)) {
-            number = row.type == Type::Flag ? MemberOf<bool>(row, m_object, index) : MemberOf<DWORD>(row, m_object, index);
+            number =
+                row.type == Type::Flag ? MemberOf<bool>(row, m_object, index) : MemberOf<DWORD>(row, m_object, index);
         }
         bool found = false;
         if (!given) {
@@ -210,7 +220,7 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
             }
             found = Find(row, turn, number);
             if (!found && row.requiredLine != 0) {
-                PrintMissing(row);
+                PrintMissing(row, turn);
             }
         }
         if (row.correct != nullptr) {
@@ -244,7 +254,7 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
     if (!given) {
         const bool found = Find(row, turn, text);
         if (!found && row.requiredLine != 0) {
-            PrintMissing(row);
+            PrintMissing(row, turn);
         }
         if (row.correctText != nullptr) {
             row.correctText(m_object, text, found);
@@ -303,9 +313,15 @@ bool Loading::FindIn(const Setting& row, const Turn* turn, T& value)
     return row.elseSubkey != nullptr && ask({row.elseRoot, row.elseSubkey}, row.name);
 }
 
-bool Loading::Find(const Setting& row, const Turn* turn, DWORD& value) { return FindIn(row, turn, value); }
+bool Loading::Find(const Setting& row, const Turn* turn, DWORD& value)
+{
+    return FindIn(row, turn, value);
+}
 
-bool Loading::Find(const Setting& row, const Turn* turn, CString& value) { return FindIn(row, turn, value); }
+bool Loading::Find(const Setting& row, const Turn* turn, CString& value)
+{
+    return FindIn(row, turn, value);
+}
 
 bool Loading::Query(Key key, const CString& strName, DWORD& value)
 {
@@ -393,15 +409,15 @@ void Loading::PrintHeld(const Setting& row)
     }
 }
 
-void Loading::PrintMissing(const Setting& row)
+void Loading::PrintMissing(const Setting& row, const Turn* turn)
 {
     if (m_log == nullptr || m_table == nullptr) {
         return;
     }
     // The source file is named after the class without its leading C.
-    const auto format = std::wstring(L"<%s(%d) : %s> ReadRegedit Info Fail : ") + row.name;
-    m_log->Error(kLogCategory, format.c_str(), m_table->className + 1, row.requiredLine,
-                 std::wstring(m_table->className) + L"::Load");
+    const auto name = turn != nullptr ? ForTurn(row.name, turn->name, turn->number) : std::wstring(row.name);
+    m_log->Error(kLogCategory, L"<%s(%d) : %s> ReadRegedit Info Fail : %s", m_table->className + 1, row.requiredLine,
+                 std::wstring(m_table->className) + L"::Load", name);
 }
 
 // ---- Saving ----
@@ -411,8 +427,7 @@ Saving::Saving(CRegInfo& object)
       m_logicalName(object.m_strLogicalName)
 {}
 
-Saving::Saving(CRegKeyEx& object, const CString& strDeviceKeyName)
-    : m_object(object), m_deviceKeyName(strDeviceKeyName)
+Saving::Saving(CRegKeyEx& object, const CString& strDeviceKeyName) : m_object(object), m_deviceKeyName(strDeviceKeyName)
 {}
 
 void Saving::Write(const Table& table)
@@ -478,7 +493,7 @@ void Saving::WriteRow(const Setting& row, const wchar_t* turnName, unsigned turn
         Put(key, name, MemberOf<CString>(row, m_object, index));
         break;
     case Type::Char:
-        Put(key, name, CString(std::wstring_view(&MemberOf<wchar_t>(row, m_object, index), 1)));
+        Put(key, name, CString(std::wstring(1, MemberOf<wchar_t>(row, m_object, index)).c_str())); // NUL: empty
         break;
     case Type::None:
         break;

@@ -63,7 +63,7 @@ class WQSPCFG_API Loading
     bool FindIn(const Setting& row, const Turn* turn, T& value);
     Session::Key Open(Key key, const Turn* turn);
     void PrintRow(const Setting& row, const Turn* turn, const FormatArg& value);
-    void PrintMissing(const Setting& row);
+    void PrintMissing(const Setting& row, const Turn* turn);
 
     ReadScope m_scope;
     CRegKeyEx& m_object;
@@ -133,17 +133,11 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
     constinit const ClassEntry Class##Entry{&::Class::Settings, &CreateObject<::Class>};                               \
     }
 
-// Everything that a class whose table says it all needs besides the table `rows`: constructor, Load, Save, Settings and
-// the catalogue's entry. An order of saving that is not the table's follows as a further argument.
-#define WQSPCFG_SETTINGS(Class, Base, rows, ...)                                                                       \
-    const wqspcfg::Table& Class::Settings() noexcept                                                                   \
-    {                                                                                                                  \
-        static constexpr wqspcfg::Table kTable{L## #Class, &Base::Settings, nullptr, rows __VA_OPT__(, ) __VA_ARGS__}; \
-        return kTable;                                                                                                 \
-    }                                                                                                                  \
+// Constructor, Load and Save of a class whose table says it all, and the catalogue's entry.
+#define WQSPCFG_SETTINGS_MEMBERS(Class, Base)                                                                          \
     Class::Class(const CString& strName, bool bPhysicalName) : Base(strName, bPhysicalName)                            \
     {                                                                                                                  \
-        wqspcfg::Construct(*this, rows);                                                                               \
+        wqspcfg::Construct(*this, Class::Settings().rows);                                                             \
     }                                                                                                                  \
     bool Class::Load(CLog* pLog)                                                                                       \
     {                                                                                                                  \
@@ -158,3 +152,23 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
         saving.Write(Class::Settings());                                                                               \
     }                                                                                                                  \
     WQSPCFG_CATALOGUE_ENTRY(Class)
+
+// Everything that such a class needs besides its table `rows`. An order of saving that is not the table's follows as a
+// further argument.
+#define WQSPCFG_SETTINGS(Class, Base, rows, ...)                                                                       \
+    const wqspcfg::Table& Class::Settings() noexcept                                                                   \
+    {                                                                                                                  \
+        static constexpr wqspcfg::Table kTable{L## #Class, &Base::Settings, nullptr, rows __VA_OPT__(, ) __VA_ARGS__}; \
+        return kTable;                                                                                                 \
+    }                                                                                                                  \
+    WQSPCFG_SETTINGS_MEMBERS(Class, Base)
+
+// The same for a class base, which also names its XFS device class.
+#define WQSPCFG_CLASS_SETTINGS(Class, DeviceClass, rows, ...)                                                          \
+    const wqspcfg::Table& Class::Settings() noexcept                                                                   \
+    {                                                                                                                  \
+        static constexpr wqspcfg::Table kTable{L## #Class, &CRegInfo::Settings, DeviceClass,                           \
+                                               rows __VA_OPT__(, ) __VA_ARGS__};                                       \
+        return kTable;                                                                                                 \
+    }                                                                                                                  \
+    WQSPCFG_SETTINGS_MEMBERS(Class, CRegInfo)

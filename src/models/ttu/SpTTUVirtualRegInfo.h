@@ -1,6 +1,6 @@
 #pragma once
 
-#include "models/ttu/TextTerminal.h"
+#include "classes/TextTerminal.h"
 
 namespace wqspcfg {
 

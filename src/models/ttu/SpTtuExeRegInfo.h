@@ -1,6 +1,6 @@
 #pragma once
 
-#include "models/ttu/TextTerminal.h"
+#include "classes/TextTerminal.h"
 
 // The text terminal that a program of its own shows in a window.
 class WQSPCFG_API CSpTtuExeRegInfo : public wqspcfg::TextTerminal

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 namespace wqspcfg {
 
@@ -23,6 +24,26 @@ constexpr std::array<HiveEntry, 5> kHives = {{
     {'R', L"HKEY_CLASSES_ROOT"},
     {'F', L"HKEY_CURRENT_CONFIG"},
 }};
+
+// The upper case of an ASCII character, 0 for NUL and any other character.
+struct AsciiUpper
+{
+    std::array<char, 128> table{};
+
+    constexpr AsciiUpper()
+    {
+        for (std::size_t ch = 1; ch < table.size(); ++ch) {
+            table[ch] = static_cast<char>(ch >= 'a' && ch <= 'z' ? ch - ('a' - 'A') : ch);
+        }
+    }
+    char operator[](wchar_t ch) const
+    {
+        const auto code = static_cast<std::make_unsigned_t<wchar_t>>(ch);
+        return code < table.size() ? table[code] : '\0';
+    }
+};
+
+constexpr AsciiUpper kAsciiUpper;
 
 const HiveEntry& EntryOf(Hive hive)
 {
@@ -43,18 +64,46 @@ std::wstring_view HiveName(Hive hive) noexcept
 
 bool AppendFolded(std::wstring_view name, std::string& out)
 {
+    const auto start = out.size();
+    out.resize(start + name.size());
+    auto* to = out.data() + start;
     std::size_t pos = 0;
-    for (; pos < name.size() && static_cast<char32_t>(name[pos]) < 0x80; ++pos) {
-        if (name[pos] == L'\0') {
-            return false;
-        }
-        out.push_back(static_cast<char>(UpCase(name[pos])));
+    for (; pos < name.size() && kAsciiUpper[name[pos]] != 0; ++pos) {
+        to[pos] = kAsciiUpper[name[pos]];
     }
     if (pos == name.size()) {
         return true;
     }
+    out.resize(start + pos);
     const auto rest = UpCase(name.substr(pos));
     return rest.find(L'\0') == std::wstring::npos && AppendCesu8(rest, out);
+}
+
+bool AppendFoldedPath(Hive hive, std::wstring_view path, std::string& out)
+{
+    out.push_back(HiveLetter(hive));
+    const auto start = out.size();
+    out.resize(start + path.size());
+    auto* to = out.data() + start;
+    std::size_t length = 0;
+    for (std::size_t pos = 0; pos < path.size(); ++pos) {
+        const auto ch = kAsciiUpper[path[pos]];
+        if (ch == 0) {
+            FlatPath slow;
+            out.resize(start - 1);
+            return slow.Assign(hive, path) && (out.append(slow.Whole()), true);
+        }
+        // Empty components do not count.
+        if (ch == '\\' && (length == 0 || to[length - 1] == '\\')) {
+            continue;
+        }
+        to[length++] = ch;
+    }
+    if (length > 0 && to[length - 1] == '\\') {
+        --length;
+    }
+    out.resize(start + length);
+    return true;
 }
 
 bool FlatPath::Assign(Hive hive, std::wstring_view path)

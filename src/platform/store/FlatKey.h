@@ -31,6 +31,9 @@ std::wstring_view HiveName(Hive hive) noexcept;
 // Appends the upper-cased name. False when the registry can hold no such name: an embedded NUL, ill-formed text.
 bool AppendFolded(std::wstring_view name, std::string& out);
 
+// Appends the flat form of a path. False as above.
+bool AppendFoldedPath(Hive hive, std::wstring_view path, std::string& out);
+
 // A path split into its components.
 class FlatPath
 {

@@ -20,12 +20,19 @@ enum class Lookup : std::uint8_t
     Failed, // the engine's Failure() tells why
 };
 
+// Where a name may be expected: one after another in a key, or anywhere.
+enum class Locality : std::uint8_t
+{
+    Near,
+    Far,
+};
+
 // An engine has
 //   static constexpr bool kChecked              whether records carry check sums
 //   static constexpr std::size_t kMaxFlatName   the longest name it takes
 //   bool Usable()                               false, with Failure() set, when the transaction cannot go on
 //   bool CanWrite() const
-//   Lookup Get(name, record), Put(name, record), Erase(name), ErasePrefix(prefix), Commit(flush)
+//   Lookup Get(name, locality, record), Put(name, record), Erase(name), ErasePrefix(prefix), Commit(flush)
 //   Lookup Scan(prefix, visit)                  all names with the prefix in order, until visit(name, record) is false
 //   const Error& Failure() const, const std::string& Address() const
 template <class Engine>
@@ -35,6 +42,8 @@ class FlatTransaction final : public Transaction
     template <class... Args>
     explicit FlatTransaction(Args&&... args) : m_engine(std::forward<Args>(args)...)
     {}
+
+    Engine& GetEngine() noexcept { return m_engine; }
 
     Outcome OpenKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
@@ -74,7 +83,7 @@ class FlatTransaction final : public Transaction
         if (!AppendFolded(name, handle.name)) {
             return RefuseName(name);
         }
-        return GetValue(handle.name, handle.prefix, handle.sum, value);
+        return GetValue(handle.name, handle.prefix, handle.sum, Locality::Near, value);
     }
 
     Outcome QueryAt(Hive hive, std::wstring_view path, std::wstring_view name, ValueView& value) override
@@ -82,17 +91,19 @@ class FlatTransaction final : public Transaction
         if (!m_engine.Usable()) {
             return EngineFailed();
         }
-        if (!m_path.Assign(hive, path)) {
+        m_name.clear();
+        if (!AppendFoldedPath(hive, path, m_name)) {
             return RefusePath(hive, path);
         }
-        m_name.assign(m_path.Whole());
         m_name.append(kValueMark);
         const auto prefix = m_name.size();
         if (!AppendFolded(name, m_name)) {
             return RefuseName(name);
         }
-        return GetValue(m_name, prefix, Engine::kChecked ? NameSum({m_name.data(), prefix}) : 0, value);
+        return GetValue(m_name, prefix, Engine::kChecked ? NameSum({m_name.data(), prefix}) : 0, Locality::Far, value);
     }
+
+    bool HasPathQueries() const noexcept override { return true; }
 
     Outcome EnumKeys(KeyId key, const KeyVisitor& visit) override
     {
@@ -327,13 +338,13 @@ class FlatTransaction final : public Transaction
         return !Engine::kChecked || IsSealed(sum, name.substr(prefix), record);
     }
 
-    Outcome GetValue(std::string_view name, std::size_t prefix, std::uint64_t sum, ValueView& value)
+    Outcome GetValue(std::string_view name, std::size_t prefix, std::uint64_t sum, Locality locality, ValueView& value)
     {
         if (name.size() > Engine::kMaxFlatName) {
             return Outcome::Missing;
         }
         std::string_view record;
-        const auto found = m_engine.Get(name, record);
+        const auto found = m_engine.Get(name, locality, record);
         if (found != Lookup::Found) {
             return FromEngine(found);
         }
@@ -351,7 +362,8 @@ class FlatTransaction final : public Transaction
         m_path.SubkeyName(depth, m_name);
         const auto prefix = m_path.Prefix(depth - 1).size() + kSubkeyMark.size();
         ValueView ignored;
-        return GetValue(m_name, prefix, Engine::kChecked ? NameSum({m_name.data(), prefix}) : 0, ignored);
+        return GetValue(m_name, prefix, Engine::kChecked ? NameSum({m_name.data(), prefix}) : 0, Locality::Far,
+                        ignored);
     }
 
     template <class Visit>
@@ -383,14 +395,27 @@ class FlatTransaction final : public Transaction
         return damaged ? Outcome::Failed : FromEngine(scanned);
     }
 
-    // Writes the record of m_name.
+    // Writes the record of m_name. A name keeps the spelling that it was created with.
     Outcome Write(std::size_t prefix, std::uint64_t sum, std::uint32_t type, std::wstring_view writtenName,
                   std::span<const std::byte> data)
     {
         const auto name = std::string_view(m_name).substr(prefix);
+        std::string_view record;
+        RecordView existing;
+        const auto found = m_engine.Get(m_name, Locality::Near, record);
+        if (found == Lookup::Failed) {
+            return EngineFailed();
+        }
         m_written.clear();
-        AppendCesu8(writtenName, m_written);
-        BuildRecord(type, m_written == name ? std::string_view() : std::string_view(m_written), data, m_record);
+        if (found == Lookup::Found && IsIntact(m_name, prefix, sum, record) && ParseRecord(record, existing)) {
+            m_written = existing.writtenName;
+        } else {
+            AppendCesu8(writtenName, m_written);
+            if (m_written == name) {
+                m_written.clear();
+            }
+        }
+        BuildRecord(type, m_written, data, m_record);
         if (Engine::kChecked) {
             SealRecord(sum, name, m_record);
         }

@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <map>
 #include <pthread.h>
+#include <sys/resource.h>
+#include <sys/statvfs.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -176,6 +178,10 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
         return false;
     }
     for (const auto& meta : metas) {
+        if (meta.lastPage > lmdb::MostPages(size / pageSize)) {
+            error = DamagedFile(address, path, "a head gives an impossible length");
+            return false;
+        }
         for (const auto* tree : {&meta.freeList, &meta.main}) {
             if (tree->root != lmdb::kNoPage && (tree->root < 2 || tree->root > meta.lastPage)) {
                 error = DamagedFile(address, path, "a head points outside the store");
@@ -186,10 +192,39 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
     return true;
 }
 
+// Whether there is no room, or no leave, to make the file noticeably longer.
+bool IsNearlyFull(const std::string& path)
+{
+    constexpr std::uint64_t kLittle = std::uint64_t{4} << 20;
+    struct statvfs system = {};
+    struct stat file = {};
+    rlimit limit{};
+    if (statvfs(path.c_str(), &system) == 0 && std::uint64_t{system.f_bavail} * system.f_frsize < kLittle) {
+        return true;
+    }
+    return stat(path.c_str(), &file) == 0 && getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
+           static_cast<std::uint64_t>(file.st_size) + kLittle > limit.rlim_cur;
+}
+
 int Sync(const std::string& directory)
 {
     const FileDescriptor file(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     return file.Get() < 0 || fsync(file.Get()) != 0 ? errno : 0;
+}
+
+// LMDB writes to its lock file through memory: on a full file system that would end the process where the file has no
+// blocks yet. Only while this process has no environment on it, whose locks closing the file would drop.
+int ReserveLockFile(const std::string& directory)
+{
+    constexpr off_t kSize = 33 << 10; // for kMaxReaders
+    const auto path = directory + "/lock.mdb";
+    const FileDescriptor file(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0664));
+    struct stat status = {};
+    if (file.Get() < 0 || fstat(file.Get(), &status) != 0 || status.st_blocks * 512 >= kSize) {
+        return 0;
+    }
+    const auto result = fallocate(file.Get(), 0, 0, kSize) != 0 ? errno : 0;
+    return result == ENOSPC || result == EDQUOT || result == EFBIG ? result : 0;
 }
 
 // Writes an empty store into `directory`, which no one else uses.
@@ -322,7 +357,11 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
         return false;
     }
     m_whyReadOnly.clear();
-    int result = 0;
+    int result = ReserveLockFile(m_directory);
+    if (result != 0) {
+        error = MakeError(address, "open", m_directory + "/lock.mdb", result);
+        return false;
+    }
     for (const unsigned flags : {0U, unsigned{MDB_RDONLY}, unsigned{MDB_RDONLY} | unsigned{MDB_NOLOCK}}) {
         const auto needed = 2 * static_cast<std::size_t>(status.st_size) + kLeastMapSize;
         m_mapSize = std::max(m_mapSize, needed);
@@ -353,6 +392,7 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
     }
     m_device = status.st_dev;
     m_inode = status.st_ino;
+    m_fileSize = static_cast<std::size_t>(status.st_size);
     m_broken = false;
     m_full = false;
 
@@ -360,20 +400,19 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
     (void)mdb_reader_check(m_env, &dead);
 
     MDB_txn* txn = nullptr;
-    result = mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
-    bool good = false;
+    result = m_map.Open(m_dataPath.c_str(), m_mapSize);
+    if (result == 0) {
+        result = mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
+    }
     if (result == 0) {
         result = mdb_dbi_open(txn, nullptr, 0, &m_dbi);
-        good = result == 0 && CheckState(address, txn, mdb_txn_id(txn), error);
         mdb_txn_abort(txn);
     }
     if (result != 0) {
         error = MakeError(address, "read", m_dataPath, result);
-    }
-    if (!good) {
         CloseFiles();
     }
-    return good;
+    return result == 0;
 }
 
 void LmdbEnvironment::CloseFiles() noexcept
@@ -386,6 +425,8 @@ void LmdbEnvironment::CloseFiles() noexcept
         mdb_env_close(m_env);
         m_env = nullptr;
     }
+    m_map.Close();
+    m_verified = false;
 }
 
 int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi)
@@ -399,20 +440,19 @@ int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi)
     return mdb_put(txn, dbi, &name, &value, 0);
 }
 
-bool LmdbEnvironment::CheckState(const std::string& address, MDB_txn* txn, std::uint64_t last, Error& error) const
+bool LmdbEnvironment::CheckState(const std::string& address, LmdbTree& tree, std::uint64_t last, Error& error) const
 {
-    MDB_val name{kStateName.size(), const_cast<char*>(kStateName.data())};
-    MDB_val value{};
-    const auto result = mdb_get(txn, m_dbi, &name, &value);
-    if (result != 0 && result != MDB_NOTFOUND) {
-        error = MakeError(address, "read", m_dataPath, result);
-        return false;
-    }
-    if (result == MDB_NOTFOUND) {
+    std::string_view record;
+    switch (tree.Get(kStateName, Locality::Far, record)) {
+    case Lookup::Found:
+        break;
+    case Lookup::Absent:
         error = {ErrorKind::Damaged, address + ": " + m_dataPath + " is an LMDB file but holds no registry store"};
         return false;
+    case Lookup::Failed:
+        error = DescribeDamage(address, tree.Cause());
+        return false;
     }
-    const std::string_view record(static_cast<const char*>(value.mv_data), value.mv_size);
     RecordView view;
     if (!ParseRecord(record, view)) {
         error = DamagedFile(address, m_dataPath, "its state record is cut short");
@@ -440,7 +480,14 @@ bool LmdbEnvironment::CheckState(const std::string& address, MDB_txn* txn, std::
 
 Error LmdbEnvironment::Describe(const std::string& address, std::string_view action, int status) const
 {
-    return MakeError(address, action, m_dataPath, status);
+    // LMDB gives a write that came back short as an input/output error; mostly the file system was full.
+    const bool isFull = status == EIO && IsNearlyFull(m_dataPath);
+    return MakeError(address, action, m_dataPath, isFull ? ENOSPC : status);
+}
+
+Error LmdbEnvironment::DescribeDamage(const std::string& address, std::string_view cause) const
+{
+    return DamagedFile(address, m_dataPath, cause);
 }
 
 bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
@@ -452,6 +499,7 @@ bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
     }
     const bool replaced = status.st_dev != m_device || status.st_ino != m_inode;
     if (m_env != nullptr && !replaced && !m_broken) {
+        m_fileSize = static_cast<std::size_t>(status.st_size);
         return true;
     }
     if (m_active > 0) {
@@ -463,13 +511,17 @@ bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
     return OpenFiles(address, error);
 }
 
+// Only while no transaction of this process is active. 0 is the size that another process has chosen.
 int LmdbEnvironment::Grow(std::size_t size)
 {
-    const auto result = mdb_env_set_mapsize(m_env, size);
+    auto result = mdb_env_set_mapsize(m_env, size);
     if (result == 0) {
         MDB_envinfo info{};
         (void)mdb_env_info(m_env, &info);
         m_mapSize = info.me_mapsize;
+        m_map.Close();
+        result = m_map.Open(m_dataPath.c_str(), m_mapSize);
+        m_broken = result != 0;
     }
     return result;
 }
@@ -488,13 +540,8 @@ int LmdbEnvironment::Renew(MDB_txn*& txn)
     return result;
 }
 
-MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, Error& error)
+int LmdbEnvironment::BeginRenewed(MDB_txn*& txn)
 {
-    const std::lock_guard lock(m_mutex);
-    if (!Prepare(address, error)) {
-        return nullptr;
-    }
-    MDB_txn* txn = nullptr;
     auto result = Renew(txn);
     if (result == MDB_MAP_RESIZED && m_active == 0) {
         result = Grow(0);
@@ -507,12 +554,44 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, Error& error)
         (void)mdb_reader_check(m_env, &dead);
         result = Renew(txn);
     }
-    if (result != 0) {
-        error = MakeError(address, "read", m_dataPath, result);
+    return result;
+}
+
+MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, Error& error)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!Prepare(address, error)) {
         return nullptr;
     }
-    if (!CheckState(address, txn, mdb_txn_id(txn), error)) {
-        mdb_txn_abort(txn);
+    MDB_txn* txn = nullptr;
+    for (int tries = 0;; ++tries) {
+        auto result = BeginRenewed(txn);
+        if (result == MDB_PANIC) {
+            // A write failed so badly that LMDB wants its environment opened anew.
+            m_broken = true;
+            if (!Prepare(address, error)) {
+                return nullptr;
+            }
+            result = BeginRenewed(txn);
+        }
+        if (result != 0) {
+            error = MakeError(address, "read", m_dataPath, result);
+            return nullptr;
+        }
+        if (tree.Open(m_map, m_fileSize, mdb_txn_id(txn))) {
+            break;
+        }
+        // Writers may have gone on by two transactions between the two steps.
+        mdb_txn_reset(txn);
+        m_idle.push_back(txn);
+        if (tries == 3) {
+            error = DescribeDamage(address, tree.Cause());
+            return nullptr;
+        }
+    }
+    if (!CheckState(address, tree, mdb_txn_id(txn), error)) {
+        mdb_txn_reset(txn);
+        m_idle.push_back(txn);
         return nullptr;
     }
     ++m_active;
@@ -533,9 +612,9 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
         error = {ErrorKind::BadArgument, address + ": this thread is already writing to the store"};
         return nullptr;
     }
-    int result = MDB_MAP_RESIZED;
+    int result = 0;
     MDB_txn* txn = nullptr;
-    for (int tries = 0; tries < 3 && result == MDB_MAP_RESIZED; ++tries) {
+    for (int tries = 0; tries < 3; ++tries) {
         {
             const std::lock_guard lock(m_mutex);
             if (!Prepare(address, error)) {
@@ -545,38 +624,50 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
                 error = {ErrorKind::AccessDenied, address + ": cannot write " + m_dataPath + ": " + m_whyReadOnly};
                 return nullptr;
             }
+            int dead = 0;
+            (void)mdb_reader_check(m_env, &dead);
             if (m_active == 0) {
-                int dead = 0;
-                (void)mdb_reader_check(m_env, &dead);
                 MDB_envinfo info{};
-                (void)mdb_env_info(m_env, &info);
                 MDB_stat layout{};
+                (void)mdb_env_info(m_env, &info);
                 (void)mdb_env_stat(m_env, &layout);
                 const auto used = (info.me_last_pgno + 1) * layout.ms_psize;
-                if (tries > 0) {
-                    result = Grow(0);
+                if (result == MDB_MAP_RESIZED) {
+                    (void)Grow(0);
                 } else if (m_full || used > m_mapSize / 4 * 3) {
                     m_full = false;
-                    result = Grow(2 * std::max(m_mapSize, used));
+                    (void)Grow(2 * std::max(m_mapSize, used));
                 }
             }
             ++m_active;
         }
         // Waits for the writer of this or another process.
         result = mdb_txn_begin(m_env, nullptr, 0, &txn);
-        if (result != 0) {
-            Release(result);
+        if (result == 0) {
+            break;
+        }
+        Release(result);
+        if (result != MDB_MAP_RESIZED && result != MDB_PANIC) {
+            break;
         }
     }
     if (result != 0) {
         error = MakeError(address, "write", m_dataPath, result);
         return nullptr;
     }
-    if (!CheckState(address, txn, mdb_txn_id(txn) - 1, error)) {
+    LmdbTree tree;
+    const auto last = mdb_txn_id(txn) - 1;
+    bool sound = tree.Open(m_map, m_map.Size(), last) && (m_verified || tree.VerifyStructure());
+    if (!sound) {
+        error = DescribeDamage(address, tree.Cause());
+    }
+    sound = sound && CheckState(address, tree, last, error);
+    if (!sound) {
         mdb_txn_abort(txn);
         Release(0);
         return nullptr;
     }
+    m_verified = true;
     m_writer = std::this_thread::get_id();
     return txn;
 }
@@ -592,7 +683,7 @@ void LmdbEnvironment::Release(int status) noexcept
     const std::lock_guard lock(m_mutex);
     --m_active;
     m_full = m_full || status == MDB_MAP_FULL;
-    m_broken = m_broken || status == MDB_PANIC || status == EIO;
+    m_broken = m_broken || status == MDB_PANIC;
 }
 
 } // namespace wqspcfg

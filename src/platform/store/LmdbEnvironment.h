@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/base/Error.h"
+#include "platform/store/LmdbTree.h"
 
 #include <lmdb.h>
 
@@ -35,7 +36,8 @@ class LmdbEnvironment
     // False in a process forked after the environment was opened: LMDB allows no use of it there.
     bool IsOurs() const noexcept;
 
-    MDB_txn* BeginRead(const std::string& address, Error& error);
+    // The transaction keeps the state from being overwritten; it is read through `tree`.
+    MDB_txn* BeginRead(const std::string& address, LmdbTree& tree, Error& error);
     void EndRead(MDB_txn* txn) noexcept;
     MDB_txn* BeginWrite(const std::string& address, Error& error);
     // After the transaction was committed or aborted with `status`.
@@ -47,18 +49,20 @@ class LmdbEnvironment
     const std::string& DataPath() const noexcept { return m_dataPath; }
     // An LMDB or system error in words.
     Error Describe(const std::string& address, std::string_view action, int status) const;
+    Error DescribeDamage(const std::string& address, std::string_view cause) const;
 
   private:
     LmdbEnvironment(std::string directory, std::size_t mapSize);
 
     bool OpenFiles(const std::string& address, Error& error);
     void CloseFiles() noexcept;
-    // Both with m_mutex held.
+    // These four with m_mutex held.
     bool Prepare(const std::string& address, Error& error);
     int Renew(MDB_txn*& txn);
-    // That the transaction shows a whole store of a known format, as transaction number `last` left it.
-    bool CheckState(const std::string& address, MDB_txn* txn, std::uint64_t last, Error& error) const;
     int Grow(std::size_t size);
+    int BeginRenewed(MDB_txn*& txn);
+    // That `tree` shows a whole store of a known format, as transaction number `last` left it.
+    bool CheckState(const std::string& address, LmdbTree& tree, std::uint64_t last, Error& error) const;
     void Release(int status) noexcept;
 
     const std::string m_directory;
@@ -67,15 +71,18 @@ class LmdbEnvironment
     std::size_t m_mapSize;
     MDB_env* m_env = nullptr;
     MDB_dbi m_dbi = 0;
+    LmdbMap m_map;
     dev_t m_device = 0;
     ino_t m_inode = 0;
-    std::string m_whyReadOnly; // empty when it can be written
+    std::size_t m_fileSize = 0; // when last looked at
+    std::string m_whyReadOnly;  // empty when it can be written
 
     std::mutex m_mutex;
     std::vector<MDB_txn*> m_idle; // read transactions at rest, which keep their reader slots
     std::size_t m_active = 0;
-    bool m_full = false;   // a write found the map full
-    bool m_broken = false; // LMDB gave the environment up
+    bool m_full = false;                 // a write found the map full
+    bool m_broken = false;               // LMDB gave the environment up
+    std::atomic<bool> m_verified{false}; // the structure was found sound before the first write
     std::atomic<std::thread::id> m_writer{};
 };
 

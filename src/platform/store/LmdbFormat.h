@@ -74,4 +74,11 @@ struct Meta
 };
 static_assert(sizeof(Meta) == 136);
 
+// How many pages a file of that many may count. Pages that a transaction took and gave back are never written, so that
+// the file can be shorter than its head says.
+constexpr std::uint64_t MostPages(std::uint64_t filePages)
+{
+    return 4 * filePages + 65536;
+}
+
 } // namespace wqspcfg::lmdb

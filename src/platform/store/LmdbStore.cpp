@@ -27,9 +27,16 @@ class LmdbEngine
     static constexpr bool kChecked = true;
     static constexpr std::size_t kMaxFlatName = 511;
 
-    LmdbEngine(const LmdbStore& store, std::shared_ptr<LmdbEnvironment> environment, Access access, MDB_txn* txn)
-        : m_store(store), m_environment(std::move(environment)), m_txn(txn), m_write(access == Access::Write)
+    LmdbEngine(const LmdbStore& store, std::shared_ptr<LmdbEnvironment> environment, Access access)
+        : m_store(store), m_environment(std::move(environment)), m_write(access == Access::Write)
     {}
+
+    bool Begin(Error& error)
+    {
+        m_txn =
+            m_write ? m_environment->BeginWrite(Address(), error) : m_environment->BeginRead(Address(), m_tree, error);
+        return m_txn != nullptr;
+    }
 
     ~LmdbEngine()
     {
@@ -65,11 +72,17 @@ class LmdbEngine
         return false;
     }
 
-    Lookup Get(std::string_view name, std::string_view& record)
+    Lookup Get(std::string_view name, Locality locality, std::string_view& record)
     {
+        if (!m_write) {
+            return Checked(m_tree.Get(name, locality, record));
+        }
+        if (const auto opened = OpenCursor(); opened != Lookup::Found) {
+            return opened;
+        }
         auto key = ToValue(name);
         MDB_val value{};
-        const auto result = mdb_get(m_txn, m_environment->Dbi(), &key, &value);
+        const auto result = mdb_cursor_get(m_cursor, &key, &value, MDB_SET_KEY);
         record = ToView(value);
         return Result(result, "read");
     }
@@ -77,6 +90,9 @@ class LmdbEngine
     template <class Visit>
     Lookup Scan(std::string_view prefix, Visit visit)
     {
+        if (!m_write) {
+            return Checked(m_tree.Scan(prefix, visit));
+        }
         if (const auto opened = OpenCursor(); opened != Lookup::Found) {
             return opened;
         }
@@ -146,6 +162,14 @@ class LmdbEngine
     }
 
   private:
+    Lookup Checked(Lookup lookup)
+    {
+        if (lookup == Lookup::Failed) {
+            m_failure = m_environment->DescribeDamage(Address(), m_tree.Cause());
+        }
+        return lookup;
+    }
+
     Lookup OpenCursor()
     {
         return m_cursor != nullptr ? Lookup::Found
@@ -177,7 +201,8 @@ class LmdbEngine
 
     const LmdbStore& m_store;
     std::shared_ptr<LmdbEnvironment> m_environment;
-    MDB_txn* m_txn;
+    MDB_txn* m_txn = nullptr;
+    LmdbTree m_tree; // of a read transaction
     MDB_cursor* m_cursor = nullptr;
     Error m_failure;
     int m_status = 0;
@@ -221,10 +246,8 @@ std::unique_ptr<Transaction> LmdbStore::Begin(Access access, Error& error)
         error = {ErrorKind::AccessDenied, m_address + ": the store was opened for reading only"};
         return nullptr;
     }
-    auto* txn =
-        access == Access::Write ? environment->BeginWrite(m_address, error) : environment->BeginRead(m_address, error);
-    return txn != nullptr ? std::make_unique<FlatTransaction<LmdbEngine>>(*this, std::move(environment), access, txn)
-                          : nullptr;
+    auto transaction = std::make_unique<FlatTransaction<LmdbEngine>>(*this, std::move(environment), access);
+    return transaction->GetEngine().Begin(error) ? std::move(transaction) : nullptr;
 }
 
 } // namespace wqspcfg

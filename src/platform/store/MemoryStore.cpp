@@ -66,7 +66,7 @@ class MemoryEngine
         return !m_over;
     }
 
-    Lookup Get(std::string_view name, std::string_view& record) const
+    Lookup Get(std::string_view name, Locality, std::string_view& record) const
     {
         const auto at = Find(name);
         if (!at.exact) {

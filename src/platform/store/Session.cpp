@@ -31,7 +31,10 @@ bool IsUsersPath(std::wstring_view path)
     return first.size() == kDefaultUser.size() && CompareNoCase(first, kDefaultUser) == 0;
 }
 
-Hive HiveOf(std::wstring_view path) { return IsUsersPath(path) ? Hive::Users : Hive::LocalMachine; }
+Hive HiveOf(std::wstring_view path)
+{
+    return IsUsersPath(path) ? Hive::Users : Hive::LocalMachine;
+}
 
 } // namespace
 
@@ -51,9 +54,15 @@ std::shared_ptr<Store> CurrentStore(Error& error)
     return slot;
 }
 
-const Error& LastStoreError() noexcept { return t_error; }
+const Error& LastStoreError() noexcept
+{
+    return t_error;
+}
 
-void ClearStoreError() noexcept { t_error = {}; }
+void ClearStoreError() noexcept
+{
+    t_error = {};
+}
 
 Session::Session(Access access) : m_access(access)
 {
@@ -109,11 +118,11 @@ bool Session::Exists(Key key)
            });
 }
 
-const Session::WrittenValue* Session::FindWritten(Key key, std::wstring_view name) const
+const Session::WrittenValue* Session::FindWritten(std::wstring_view path, std::wstring_view name) const
 {
     // The last write wins.
     for (auto written = m_overlay.rbegin(); written != m_overlay.rend(); ++written) {
-        if (CompareNoCase(written->name, name) == 0 && CompareNoCase(written->path, m_keys[key].path) == 0) {
+        if (CompareNoCase(written->name, name) == 0 && CompareNoCase(written->path, path) == 0) {
             return &*written;
         }
     }
@@ -123,13 +132,30 @@ const Session::WrittenValue* Session::FindWritten(Key key, std::wstring_view nam
 Outcome Session::Query(Key key, std::wstring_view name, ValueView& value)
 {
     if (!m_overlay.empty()) {
-        if (const auto* written = FindWritten(key, name)) {
+        if (const auto* written = FindWritten(m_keys[key].path, name)) {
             value = {written->type, written->data};
             return Outcome::Found;
         }
     }
     const auto& opened = m_keys[key];
     return opened.exists ? Checked(m_transaction->Query(opened.id, name, value)) : Outcome::Missing;
+}
+
+Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueView& value)
+{
+    if (!m_overlay.empty()) {
+        if (const auto* written = FindWritten(path, name)) {
+            value = {written->type, written->data};
+            return Outcome::Found;
+        }
+    }
+    if (!m_transaction) {
+        return Outcome::Failed;
+    }
+    if (!m_transaction->HasPathQueries()) {
+        return Query(Open(path), name, value);
+    }
+    return Checked(m_transaction->QueryAt(HiveOf(path), path, name, value));
 }
 
 Outcome Session::EnumKeys(Key key, const KeyVisitor& visit)
@@ -199,9 +225,15 @@ WriteScope::WriteScope() : m_session(t_session), m_outer(t_session)
     }
 }
 
-WriteScope::~WriteScope() { Commit(); }
+WriteScope::~WriteScope()
+{
+    Commit();
+}
 
-void WriteScope::Flush() noexcept { m_session->m_flush = true; }
+void WriteScope::Flush() noexcept
+{
+    m_session->m_flush = true;
+}
 
 bool WriteScope::Commit()
 {

@@ -42,6 +42,8 @@ class WQSPCFG_API Session
     Key Open(std::wstring_view path);
     bool Exists(Key key);
     Outcome Query(Key key, std::wstring_view name, ValueView& value);
+    // One value without opening its key, where that is looked at once only.
+    Outcome QueryAt(std::wstring_view path, std::wstring_view name, ValueView& value);
     Outcome EnumKeys(Key key, const KeyVisitor& visit);
     Outcome EnumValues(Key key, const ValueVisitor& visit);
     Outcome Set(Key key, std::wstring_view name, const ValueView& value);
@@ -72,7 +74,7 @@ class WQSPCFG_API Session
 
     Outcome Fail(const Error& error);
     Outcome Checked(Outcome outcome);
-    const WrittenValue* FindWritten(Key key, std::wstring_view name) const;
+    const WrittenValue* FindWritten(std::wstring_view path, std::wstring_view name) const;
 
     std::shared_ptr<Store> m_store;
     std::unique_ptr<Transaction> m_transaction;

@@ -79,13 +79,14 @@ class Transaction
     virtual void CloseKey([[maybe_unused]] KeyId key) noexcept {}
     // The empty name is the key's default value.
     virtual Outcome Query(KeyId key, std::wstring_view name, ValueView& value) = 0;
-    // One value by its full path; cheaper than OpenKey and Query where a key is needed only once.
+    // One value by its full path, where that costs less than OpenKey and Query (HasPathQueries).
     virtual Outcome QueryAt(Hive hive, std::wstring_view path, std::wstring_view name, ValueView& value)
     {
         KeyId key = 0;
         const auto opened = OpenKey(hive, path, key);
         return opened == Outcome::Found ? Query(key, name, value) : opened;
     }
+    virtual bool HasPathQueries() const noexcept { return false; }
     // Direct subkeys in case-insensitive order of name. The visitor returns false to stop; it does not call this
     // transaction.
     virtual Outcome EnumKeys(KeyId key, const KeyVisitor& visit) = 0;

@@ -1,4 +1,4 @@
-#include "models/ttu/TextTerminal.h"
+#include "classes/TextTerminal.h"
 
 #include "core/settings/Settings.h"
 #include "platform/utility/StringUtility.h"
@@ -65,7 +65,7 @@ void ParseList(CArray<T>& out, const CString& strText, LPCWSTR lpszName, CLog* p
             out.Add(item);
         } else if (pLog != nullptr) {
             pLog->Error(kLogCategory, L"<%s(%d) : %s> %s has an entry that cannot be read : \"%s\"",
-                        L"models/ttu/TextTerminal.cpp", __LINE__, L"wqspcfg::TextTerminal::Load", lpszName, strEntry);
+                        L"classes/TextTerminal.cpp", __LINE__, L"wqspcfg::TextTerminal::Load", lpszName, strEntry);
         }
     }
 }

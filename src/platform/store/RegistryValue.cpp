@@ -1,4 +1,4 @@
-#include "core/RegistryValue.h"
+#include "platform/store/RegistryValue.h"
 
 #include "platform/text/Utf.h"
 

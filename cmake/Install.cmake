@@ -1,0 +1,40 @@
+# The installed package: headers below include/wqspcfg, both forms of the library, the program, and the files that let
+# CMake (find_package(WQSpCfg), targets WQSpCfg::static and WQSpCfg::shared) and pkg-config find them.
+include(CMakePackageConfigHelpers)
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/WQSpCfg)
+
+foreach(layer IN ITEMS platform core classes models catalogue)
+    if(IS_DIRECTORY "${PROJECT_SOURCE_DIR}/src/${layer}")
+        install(
+            DIRECTORY src/${layer}
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/wqspcfg
+            FILES_MATCHING
+            PATTERN "*.h"
+            PATTERN "*Lmdb*.h" EXCLUDE)
+    endif()
+endforeach()
+
+install(
+    TARGETS wqspcfg_static wqspcfg_shared
+    EXPORT WQSpCfgTargets
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+if(TARGET wqspcfg)
+    install(TARGETS wqspcfg RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
+
+install(EXPORT WQSpCfgTargets NAMESPACE WQSpCfg:: DESTINATION ${package_dir})
+configure_package_config_file(cmake/WQSpCfgConfig.cmake.in "${PROJECT_BINARY_DIR}/WQSpCfgConfig.cmake"
+                              INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/WQSpCfgConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/WQSpCfgConfig.cmake" "${PROJECT_BINARY_DIR}/WQSpCfgConfigVersion.cmake"
+              cmake/FindLMDB.cmake DESTINATION ${package_dir})
+
+if(WIN32)
+    set(private_libraries "-ladvapi32")
+else()
+    set(private_libraries "-llmdb -pthread")
+endif()
+configure_file(cmake/wqspcfg.pc.in "${PROJECT_BINARY_DIR}/wqspcfg.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/wqspcfg.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

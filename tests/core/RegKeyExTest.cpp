@@ -1,0 +1,135 @@
+#include "core/RegKeyEx.h"
+
+#include "platform/store/Session.h"
+#include "support/ConfigTest.h"
+
+namespace {
+
+using wqspcfg::ReadScope;
+using wqspcfg::WriteScope;
+using wqspcfg::test::ConfigTest;
+
+class RegKeyExTest : public ConfigTest
+{
+  protected:
+    static constexpr wchar_t kRoot[] = L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\";
+};
+
+TEST_F(RegKeyExTest, AMissingValueReturnsZeroAndLeavesTheOutput)
+{
+    DWORD number = 42;
+    CString text(L"kept");
+    EXPECT_EQ(CRegKeyEx::QueryValue(number, L"No", L"%s%s", kRoot, L"Nowhere"), 0);
+    EXPECT_EQ(CRegKeyEx::QueryValue(text, L"No", L"%s%s", kRoot, L"Nowhere"), 0);
+    // So does a value of the other type.
+    Set(Device(), L"Number", 1);
+    Set(Device(), L"Text", L"x");
+    EXPECT_EQ(CRegKeyEx::QueryValue(number, L"Text", L"%s%s", kRoot, L"Dev"), 0);
+    EXPECT_EQ(CRegKeyEx::QueryValue(text, L"Number", L"%s%s", kRoot, L"Dev"), 0);
+    EXPECT_EQ(number, 42U);
+    EXPECT_EQ(text, L"kept");
+}
+
+TEST_F(RegKeyExTest, NamesCompareWithoutCaseAndPathsMayEndWithABackslash)
+{
+    ASSERT_NE(CRegKeyEx::SetValue(7, L"Value", L"%s%s\\Control\\", kRoot, L"Dev"), 0);
+    DWORD number = 0;
+    EXPECT_NE(CRegKeyEx::QueryValue(number, L"VALUE", L"%s%s\\control", kRoot, L"dev"), 0);
+    EXPECT_EQ(number, 7U);
+    CStringArray names;
+    EXPECT_NE(CRegKeyEx::EnumSubKeyName(names, L"%s%s", kRoot, L"Dev"), 0);
+    ASSERT_EQ(names.GetSize(), 1);
+    EXPECT_EQ(names[0], L"Control");
+    EXPECT_EQ(CRegKeyEx::EnumSubKeyName(names, L"%s%s", kRoot, L"Nowhere"), 0);
+    EXPECT_EQ(names.GetSize(), 0);
+}
+
+TEST_F(RegKeyExTest, WholeKeysGoIntoMaps)
+{
+    CMapStringToString values;
+    values.SetAt(L"a", L"1");
+    values.SetAt(L"b", L"2");
+    ASSERT_NE(CRegKeyEx::SetValues(values, L"%s%s\\Map", kRoot, L"Dev"), 0);
+    Set(Device(L"Map"), L"n", 3);
+    CMapStringToString read;
+    read.SetAt(L"stays", L"x");
+    EXPECT_NE(CRegKeyEx::QueryValues(read, L"%s%s\\Map", kRoot, L"Dev"), 0);
+    EXPECT_EQ(read.GetCount(), 3);
+    CMap<CString, LPCWSTR, DWORD, DWORD> numbers;
+    EXPECT_NE(CRegKeyEx::QueryValues(numbers, L"%s%s\\Map", kRoot, L"Dev"), 0);
+    EXPECT_EQ(numbers.GetCount(), 1);
+    EXPECT_EQ(CRegKeyEx::QueryValues(read, L"%s%s\\NoMap", kRoot, L"Dev"), 0);
+}
+
+TEST_F(RegKeyExTest, AWriteScopeIsOneCommitThatNestedScopesJoin)
+{
+    ClearRecord();
+    {
+        const WriteScope outer;
+        CRegKeyEx::SetValue(1, L"A", L"%s%s", kRoot, L"Dev");
+        {
+            const WriteScope inner;
+            CRegKeyEx::SetValue(2, L"B", L"%s%s", kRoot, L"Dev");
+        }
+        EXPECT_EQ(Commits(), 0U);
+        EXPECT_EQ(Number(Device(), L"B"), 2U); // its own writes are seen
+    }
+    EXPECT_EQ(Commits(), 1U);
+    EXPECT_EQ(Number(Device(), L"A"), 1U);
+}
+
+TEST_F(RegKeyExTest, AReadScopeSeesOneStateAndWhatItsThreadWrites)
+{
+    Set(Device(), L"A", 1);
+    const ReadScope scope;
+    EXPECT_EQ(Number(Device(), L"A"), 1U);
+    wqspcfg::Error error;
+    {
+        auto other = m_store->Begin(wqspcfg::Access::Write, error);
+        wqspcfg::KeyId key = 0;
+        ASSERT_EQ(other->CreateKey(wqspcfg::Hive::LocalMachine, Device(), key), wqspcfg::Outcome::Found);
+        const std::byte two[4] = {std::byte{2}};
+        other->SetValue(key, L"A", {wqspcfg::ValueType::Dword, two});
+        other->Commit(false);
+    }
+    EXPECT_EQ(Number(Device(), L"A"), 1U); // another's write is not seen
+    Set(Device(L"New"), L"B", 5);
+    EXPECT_EQ(Number(Device(L"New"), L"B"), 5U); // its own is, in a key that did not exist too
+    EXPECT_EQ(Number(Device(L"new"), L"b"), 5U);
+}
+
+TEST_F(RegKeyExTest, IllFormedTextIsRefusedAndTheScopeWritesNothing)
+{
+    if (sizeof(wchar_t) == 2) {
+        GTEST_SKIP() << "every wide text is well-formed here";
+    }
+    const std::wstring bad = {wchar_t(0xD83D), wchar_t(0xDE00)};
+    {
+        const WriteScope scope;
+        Set(Device(), L"Good", 1);
+        EXPECT_EQ(CRegKeyEx::SetValue(CString(bad), L"Bad", L"%s%s", kRoot, L"Dev"), 0);
+    }
+    EXPECT_EQ(wqspcfg::LastStoreError().kind, wqspcfg::ErrorKind::BadText);
+    EXPECT_FALSE(Number(Device(), L"Good"));
+}
+
+#if !defined(_WIN32)
+TEST_F(RegKeyExTest, AStoreThatCannotBeOpenedIsToldApartFromMissingValues)
+{
+    wqspcfg::Error error;
+    wqspcfg::SetCurrentStore(nullptr);
+    ASSERT_EQ(setenv("WQSPCFG_STORE", "lmdb:/nonexistent/store", 1), 0);
+    DWORD number = 3;
+    EXPECT_EQ(CRegKeyEx::QueryValue(number, L"x", L"%s%s", kRoot, L"Dev"), 0);
+    EXPECT_EQ(number, 3U);
+    EXPECT_NE(wqspcfg::LastStoreError().message.find("/nonexistent/store"), std::string::npos);
+    CRegInfo config(L"Phys", true);
+    EXPECT_TRUE(config.Load(&m_log));
+    ASSERT_FALSE(m_log.Entries().empty());
+    EXPECT_EQ(m_log.Entries().back().severity, wqspcfg::Severity::Error);
+    EXPECT_NE(m_log.Entries().back().text.find(L"/nonexistent/store"), std::wstring::npos);
+    unsetenv("WQSPCFG_STORE");
+}
+#endif
+
+} // namespace
