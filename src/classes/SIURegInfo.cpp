@@ -2,7 +2,7 @@
 
 #include "classes/SIUPorts.h"
 #include "core/RegistryRoots.h"
-#include "core/RegistryValue.h"
+#include "platform/store/RegistryValue.h"
 #include "core/settings/Settings.h"
 #include "platform/utility/StringUtility.h"
 
