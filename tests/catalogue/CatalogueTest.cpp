@@ -12,6 +12,15 @@
 #include <map>
 #include <set>
 
+namespace wqspcfg {
+
+static void PrintTo(const DescribedValue& value, std::ostream* out)
+{
+    *out << value.number << " \"" << Utf8ForMessage(value.text) << '"';
+}
+
+} // namespace wqspcfg
+
 namespace wqspcfg::test {
 
 namespace {
@@ -87,7 +96,7 @@ DescribedValue Held(const DescribedSetting& setting, CRegKeyEx& object)
 // Models whose Save leaves out what their bases save.
 bool SavesOnlyItsOwn(const ClassEntry& entry)
 {
-    static const std::set<std::wstring_view> kNames{L"CSpMCRCF66RegInfo"};
+    static const std::set<std::wstring_view> kNames{L"CSpMCRCF66RegInfo", L"CSpIDCPrdFPCNormalRegInfo"};
     return kNames.contains(entry.table().className);
 }
 
@@ -100,8 +109,10 @@ bool IsText(Type type)
 bool IsPlain(const DescribedSetting& setting)
 {
     const auto& row = *setting.row;
+    // A switch without a polarity, which is read later, becomes 0.
+    const bool decidedLater = setting.key == L"Switches\\Index";
     return row.bound && !row.preloaded && row.step == nullptr && row.correct == nullptr && row.correctText == nullptr &&
-           !setting.conditional;
+           !setting.conditional && !decidedLater;
 }
 
 // A setting of one class, and which.
@@ -355,6 +366,7 @@ TEST_F(CatalogueTest, EverySavedValueSurvivesLoadAndSave)
         SCOPED_TRACE(NameOfClass(*entry));
         Wipe();
         AddRequiredKeys();
+        Set(Device(L"CAPABILITIES"), L"EnableRandSpecMix", 1U); // without it, the order of the mix is not written
         const auto settings = WithInherited(*entry);
         std::map<std::wstring, DescribedValue> written; // by path and name
         DWORD next = 3;
@@ -407,21 +419,22 @@ TEST_F(CatalogueTest, EverySavedValueSurvivesLoadAndSave)
             }
             if (IsText(setting.type)) {
                 const auto text = Text(path, name);
-                ASSERT_TRUE(text) << each.Name() << " is not written";
-                if (IsPlain(setting)) {
+                EXPECT_TRUE(text) << each.Name() << " is not written";
+                if (text && IsPlain(setting)) {
                     EXPECT_EQ(*text, written[UpCase(path + L"|" + setting.name)].text) << each.Name();
                 }
             } else {
                 const auto number = Number(path, name);
-                ASSERT_TRUE(number) << each.Name() << " is not written";
-                if (IsPlain(setting)) {
+                EXPECT_TRUE(number) << each.Name() << " is not written";
+                if (number && IsPlain(setting)) {
                     EXPECT_EQ(*number, written[UpCase(path + L"|" + setting.name)].number) << each.Name();
                 }
             }
         }
         // What was saved gives the same when it is loaded and saved again.
         ResetProcess();
-        AddRequiredKeys();
+        Set(Device(L"SNRData"), L"Present", 1U);
+        Set(Device(L"CAPABILITIES"), L"EnableRandSpecMix", 1U);
         const auto again = LoadAndSave(*entry, loaded);
         EXPECT_EQ(first.size(), again.size());
         for (const auto& [what, data] : first) {
@@ -477,11 +490,15 @@ TEST_F(CatalogueTest, HostileValuesDoNoHarm)
                 AddRequiredKeys();
                 {
                     const WriteScope scope; // one commit
+                    int plain = 0;
                     for (const auto& each : WithInherited(*entry)) {
                         const auto& setting = each.setting;
-                        // The bases' own turns show what very long text does to them.
-                        if ((value.text.size() > 100 && each.table != &entry->table()) ||
-                            setting.name.find(L'%') != std::wstring::npos) {
+                        // What its bases read is tried with the bases themselves.
+                        if (each.table != &entry->table() || setting.name.find(L'%') != std::wstring::npos) {
+                            continue;
+                        }
+                        // Plain rows take long text all in the same way.
+                        if (value.text.size() > 100 && IsPlain(setting) && (!IsText(setting.type) || ++plain > 1)) {
                             continue;
                         }
                         const bool asText = IsText(setting.type) != wrongType;
@@ -501,7 +518,7 @@ TEST_F(CatalogueTest, HostileValuesDoNoHarm)
                 EXPECT_FALSE(LastStoreError()) << LastStoreError().message;
                 if (wrongType) {
                     for (const auto& each : WithInherited(*entry)) {
-                        if (IsPlain(each.setting) && each.setting.row->elseSubkey == nullptr) {
+                        if (IsPlain(each.setting)) {
                             EXPECT_EQ(Held(each.setting, *object), each.setting.fallback) << each.Name();
                         }
                     }
