@@ -14,6 +14,8 @@ function(wqspcfg_compile_options target)
                 $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
                 -ffunction-sections -fdata-sections "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
     if(WIN32)
+        # As above, of short wide strings.
+        target_compile_options(${target} PRIVATE -Wno-array-bounds)
         target_compile_definitions(${target} PRIVATE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
     elseif(NOT WQSPCFG_SANITIZE)
         # Not _FORTIFY_SOURCE: GCC 12 takes moves of short wide strings for overflows.

@@ -249,9 +249,12 @@ class WindowsTransaction final : public Transaction
             opened.handle = RegistryKey(handle);
             opened.writable = true;
         }
+        // The registry adds a terminator to a text without one when a NUL happens to follow it in memory.
+        m_text.assign(value.data.begin(), value.data.end());
+        m_text.insert(m_text.end(), 2, std::byte{1});
         const auto status =
             RegSetValueExW(opened.handle.Get(), m_name.c_str(), 0, static_cast<DWORD>(value.type),
-                           reinterpret_cast<const BYTE*>(value.data.data()), static_cast<DWORD>(value.data.size()));
+                           reinterpret_cast<const BYTE*>(m_text.data()), static_cast<DWORD>(value.data.size()));
         if (status != ERROR_SUCCESS) {
             return Failure(status, what, opened.hive, opened.path);
         }
@@ -442,6 +445,7 @@ class WindowsTransaction final : public Transaction
     std::vector<OpenedKey> m_keys;
     std::vector<KeyId> m_closed;
     std::vector<std::byte> m_data = std::vector<std::byte>(256);
+    std::vector<std::byte> m_text;
     std::wstring m_path;
     std::wstring m_name;
 };

@@ -103,6 +103,7 @@ TEST_P(StoreContract, KeepsEveryTypeAndEveryByte)
         {ValueType::Sz, {}},
         {ValueType::Sz, SzBytes(L"\u65e0\u4eba \U0001F4B6")},
         {ValueType::Sz, ToBytes(std::string_view("a\0b", 3))},                     // odd length, no terminator
+        {ValueType::Sz, ToBytes(std::string_view("a\0b\0", 4))},                   // no terminator
         {ValueType::Sz, ToBytes(std::string_view("\x00\xd8\x01\x00\x00\x00", 6))}, // a lone surrogate
         {ValueType::ExpandSz, SzBytes(L"%SystemRoot%\\x")},
         {ValueType::Binary, ToBytes(std::string(100000, '\xA5'))},
@@ -124,8 +125,8 @@ TEST_P(StoreContract, KeepsEveryTypeAndEveryByte)
         EXPECT_EQ(Bytes(value.data.begin(), value.data.end()), data) << i;
     }
     // A value changes its type and length in place.
-    Put(L"types", L"13", DwordBytes(7), ValueType::Dword);
-    EXPECT_EQ(Get(L"types", L"13"), "4:07000000");
+    Put(L"types", L"14", DwordBytes(7), ValueType::Dword);
+    EXPECT_EQ(Get(L"types", L"14"), "4:07000000");
 }
 
 TEST_P(StoreContract, TellsMissingKeysAndValuesApartFromEmptyOnes)
