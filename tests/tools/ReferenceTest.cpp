@@ -82,7 +82,8 @@ TEST(ReferenceTest, OneClassComesWithWhatItInherits)
         std::istringstream in;
         std::ostringstream out;
         std::ostringstream err;
-        ASSERT_EQ(tools::Run({"reference", "cspcrdwqtym1200reginfo", "--format", format}, in, out, err), 0) << err.str();
+        ASSERT_EQ(tools::Run({"reference", "cspcrdwqtym1200reginfo", "--format", format}, in, out, err), 0)
+            << err.str();
         const auto own = out.str().find("MaxSupplyCard");
         const auto base = out.str().find("TemporaryRetainBin");
         const auto root = out.str().find("IsDeleteSensetiveInfo");
