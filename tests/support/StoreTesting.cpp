@@ -7,7 +7,7 @@
 
 namespace wqspcfg::test {
 
-TemporaryDirectory::TemporaryDirectory()
+TemporaryDirectory::TemporaryDirectory(const std::filesystem::path& parent)
 {
     static std::atomic<unsigned> count{0};
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
