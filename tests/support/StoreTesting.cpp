@@ -7,13 +7,12 @@
 
 namespace wqspcfg::test {
 
-TemporaryDirectory::TemporaryDirectory()
+TemporaryDirectory::TemporaryDirectory(const std::filesystem::path& parent)
 {
     static std::atomic<unsigned> count{0};
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
     do {
-        m_path =
-            std::filesystem::temp_directory_path() / ("wqspcfg-" + std::to_string(now) + '-' + std::to_string(++count));
+        m_path = parent / ("wqspcfg-" + std::to_string(now) + '-' + std::to_string(++count));
     } while (!std::filesystem::create_directory(m_path));
 }
 

@@ -45,7 +45,8 @@ inline Bytes SzBytes(std::wstring_view text)
 class TemporaryDirectory
 {
   public:
-    TemporaryDirectory();
+    TemporaryDirectory() : TemporaryDirectory(std::filesystem::temp_directory_path()) {}
+    explicit TemporaryDirectory(const std::filesystem::path& parent);
     ~TemporaryDirectory();
     TemporaryDirectory(const TemporaryDirectory&) = delete;
     TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;

@@ -9,6 +9,7 @@
 #include <condition_variable>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
 #include <map>
@@ -27,6 +28,17 @@ constexpr std::size_t kDefaultMapSize = std::size_t{64} << 30;
 constexpr std::size_t kLeastMapSize = std::size_t{1} << 20;
 constexpr unsigned kMaxReaders = 512;
 constexpr std::string_view kStateName{"\0state", 6};
+
+// How long readers may go on with a file that has been removed or replaced before they notice; looking costs more than
+// many a read. Writers look every time.
+constexpr std::int64_t kLookInterval = 50;
+
+std::int64_t CoarseMilliseconds()
+{
+    timespec now{};
+    (void)clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return std::int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1000000;
+}
 
 std::atomic<unsigned> g_forks{0};
 
@@ -490,8 +502,13 @@ Error LmdbEnvironment::DescribeDamage(const std::string& address, std::string_vi
     return DamagedFile(address, m_dataPath, cause);
 }
 
-bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
+bool LmdbEnvironment::Prepare(const std::string& address, Access access, Error& error)
 {
+    const auto now = CoarseMilliseconds();
+    if (access == Access::Read && m_env != nullptr && !m_broken && now < m_nextLook) {
+        return true;
+    }
+    m_nextLook = 0;
     struct stat status = {};
     if (stat(m_dataPath.c_str(), &status) != 0) {
         error = MakeError(address, "use", m_dataPath, errno);
@@ -500,6 +517,7 @@ bool LmdbEnvironment::Prepare(const std::string& address, Error& error)
     const bool replaced = status.st_dev != m_device || status.st_ino != m_inode;
     if (m_env != nullptr && !replaced && !m_broken) {
         m_fileSize = static_cast<std::size_t>(status.st_size);
+        m_nextLook = now + kLookInterval;
         return true;
     }
     if (m_active > 0) {
@@ -560,7 +578,7 @@ int LmdbEnvironment::BeginRenewed(MDB_txn*& txn)
 MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, Error& error)
 {
     const std::lock_guard lock(m_mutex);
-    if (!Prepare(address, error)) {
+    if (!Prepare(address, Access::Read, error)) {
         return nullptr;
     }
     MDB_txn* txn = nullptr;
@@ -569,7 +587,7 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
         if (result == MDB_PANIC) {
             // A write failed so badly that LMDB wants its environment opened anew.
             m_broken = true;
-            if (!Prepare(address, error)) {
+            if (!Prepare(address, Access::Read, error)) {
                 return nullptr;
             }
             result = BeginRenewed(txn);
@@ -617,7 +635,7 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
     for (int tries = 0; tries < 3; ++tries) {
         {
             const std::lock_guard lock(m_mutex);
-            if (!Prepare(address, error)) {
+            if (!Prepare(address, Access::Write, error)) {
                 return nullptr;
             }
             if (!m_whyReadOnly.empty()) {

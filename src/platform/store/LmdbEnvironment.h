@@ -57,7 +57,7 @@ class LmdbEnvironment
     bool OpenFiles(const std::string& address, Error& error);
     void CloseFiles() noexcept;
     // These four with m_mutex held.
-    bool Prepare(const std::string& address, Error& error);
+    bool Prepare(const std::string& address, Access access, Error& error);
     int Renew(MDB_txn*& txn);
     int Grow(std::size_t size);
     int BeginRenewed(MDB_txn*& txn);
@@ -75,7 +75,8 @@ class LmdbEnvironment
     dev_t m_device = 0;
     ino_t m_inode = 0;
     std::size_t m_fileSize = 0; // when last looked at
-    std::string m_whyReadOnly;  // empty when it can be written
+    std::int64_t m_nextLook = 0;
+    std::string m_whyReadOnly; // empty when it can be written
 
     std::mutex m_mutex;
     std::vector<MDB_txn*> m_idle; // read transactions at rest, which keep their reader slots
