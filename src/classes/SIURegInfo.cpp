@@ -2,8 +2,8 @@
 
 #include "classes/SIUPorts.h"
 #include "core/RegistryRoots.h"
-#include "platform/store/RegistryValue.h"
 #include "core/settings/Settings.h"
+#include "platform/store/RegistryValue.h"
 #include "platform/utility/StringUtility.h"
 
 #include <algorithm>
