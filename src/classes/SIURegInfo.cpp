@@ -2,9 +2,8 @@
 
 #include "classes/SIUPorts.h"
 #include "core/RegistryRoots.h"
-#include "core/RegistryValue.h"
 #include "core/settings/Settings.h"
-#include "platform/text/CaseFold.h"
+#include "platform/store/RegistryValue.h"
 #include "platform/utility/StringUtility.h"
 
 #include <algorithm>
@@ -35,6 +34,9 @@ constexpr Key kKeyboardMapping = key::Absolute(L"SOFTWARE\\TARNO\\Driver\\WQDrOK
 
 constexpr wchar_t kPortThere[] = L"the port is there: 0 no; nonzero yes";
 constexpr wchar_t kPortMissing[] = L"the port is not there, whatever else is set: 0 no; nonzero yes";
+constexpr wchar_t kDoorMissing[] =
+    L"the door is not there, whatever else is set: 0 no; nonzero yes; a door that is there "
+    L"needs the value 0, for without it the value read before stands in its place";
 constexpr wchar_t kState[] = L"the port can report or take this state: 0 no; nonzero yes";
 
 // Capabilities and flags are read and written by the functions below; their rows document them.
@@ -77,7 +79,7 @@ constexpr Setting kReadSensorRows[] = {
     {kSensorKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, kByCode},
 };
 constexpr Setting kBoltedDoorRows[] = {
-    {kDoorKey, kNotAvailable,       DwordValue, 0, kPortMissing, NotLogged, kByCode, Saved},
+    {kDoorKey, kNotAvailable,       DwordValue, 0, kDoorMissing, NotLogged, kByCode, Saved},
     {kDoorKey, L"WFS_SIU_BOLTED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
     {kDoorKey, L"WFS_SIU_CLOSED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
     {kDoorKey, L"WFS_SIU_LOCKED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
@@ -86,7 +88,7 @@ constexpr Setting kBoltedDoorRows[] = {
     {kDoorKey, L"WFS_SIU_SERVICE",  DwordValue, 0, kState, NotLogged, kByCode},
 };
 constexpr Setting kVandalShieldRows[] = {
-    {kDoorKey, kNotAvailable,       DwordValue, 0, kPortMissing, NotLogged, kByCode, Saved},
+    {kDoorKey, kNotAvailable,       DwordValue, 0, kDoorMissing, NotLogged, kByCode, Saved},
     {kDoorKey, L"WFS_SIU_BOLTED",   DwordValue, 0, kState, NotLogged, kByCode},
     {kDoorKey, L"WFS_SIU_CLOSED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
     {kDoorKey, L"WFS_SIU_LOCKED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},

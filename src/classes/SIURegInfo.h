@@ -21,9 +21,9 @@ class WQSPCFG_API CSIURegInfo : public CRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    _wfs_siu_caps m_stSiuCaps = {};
-    CMapStringToString m_mapKeyboardMapping; // by the number of the key, "1" to "24" at least
-    DWORD m_dwCanpostKeyEvent = 0;           // nonzero: PC key presses are simulated
+    alignas(void*) _wfs_siu_caps m_stSiuCaps = {}; // packed: it would stand at an odd address
+    CMapStringToString m_mapKeyboardMapping;       // by the number of the key, "1" to "24" at least
+    DWORD m_dwCanpostKeyEvent = 0;                 // nonzero: PC key presses are simulated
     BYTE m_byReserved[512] = {};
     DWORD m_dwThinkOfDevStatusWhenEnableEvents;
     // 1: the port's events are enabled automatically. Load sets flags and never clears one.

@@ -38,13 +38,21 @@ bool EndsWith(const CString& strText, std::wstring_view ending)
     return text.size() >= ending.size() && EqualNoCase(text.substr(text.size() - ending.size()), ending);
 }
 
-// `query` fills the cache when it is empty.
+// `query` fills the cache when it is empty. It may ask for other cached results, so the lock is not held meanwhile.
 template <class F>
 CString Cached(CString& strCache, F query)
 {
+    {
+        const std::lock_guard lock(CacheMutex());
+        if (!strCache.IsEmpty()) {
+            return strCache;
+        }
+    }
+    CString strResult;
+    query(strResult);
     const std::lock_guard lock(CacheMutex());
     if (strCache.IsEmpty()) {
-        query(strCache);
+        strCache = strResult;
     }
     return strCache;
 }

@@ -72,21 +72,22 @@ TEST_F(CRDRegInfoTest, UnitsLoadInTheOrderOfTheirKeysAndOnlyWithANumber)
     Set(Device(L"CardUnit"), L"CurNumber", 4);
     Config config;
     ASSERT_TRUE(config.Load(&m_log));
+    ASSERT_EQ(config.m_arCardUnit.GetSize(), 2);
+    config.m_arCardUnit[1].SetHopper(nullptr);
     ASSERT_TRUE(config.Load(&m_log)); // the units are rebuilt
     EXPECT_EQ(config.m_dwCurNumber, 4U);
     ASSERT_EQ(config.m_arCardUnit.GetSize(), 2);
     EXPECT_EQ(+config.m_arCardUnit[0].usNumber, 9);
     EXPECT_EQ(+config.m_arCardUnit[0].usType, 2);
-    EXPECT_STREQ(config.m_arCardUnit[0].lpszCardName, "");
-    EXPECT_EQ(config.m_arCardUnit[0].lpszHopper + 0, nullptr);
+    EXPECT_STREQ(+config.m_arCardUnit[0].lpszCardName, "");
+    EXPECT_EQ(+config.m_arCardUnit[0].lpszHopper, nullptr);
     EXPECT_EQ(+config.m_arCardUnit[1].usNumber, 9);
-    EXPECT_EQ(config.m_arCardUnit[1].lpszCardName + 0, nullptr);
-    EXPECT_STREQ(config.m_arCardUnit[1].lpszHopper, "upper");
+    EXPECT_EQ(+config.m_arCardUnit[1].lpszCardName, nullptr);
+    EXPECT_STREQ(+config.m_arCardUnit[1].lpszHopper, "upper");
     EXPECT_EQ(+config.m_arCardUnit[1].ulCount, 0U);
     EXPECT_EQ(std::count_if(m_log.Entries().begin(), m_log.Entries().end(),
                             [](const auto& entry) { return entry.text.starts_with(L"[CST]"); }),
               2);
-    config.m_arCardUnit[1].SetHopper(nullptr);
 }
 
 TEST_F(CRDRegInfoTest, SkippedUnitsAreNotReadFurther)

@@ -41,14 +41,14 @@ TEST(CardUnitEx, CopiesAreDeepAndNullStaysNull)
     Unit original(MakeUnit());
     Unit copy{tagCardUnitEx(original)};
     EXPECT_TRUE(copy == original);
-    EXPECT_NE(copy.lpszCardName, original.lpszCardName);
-    EXPECT_NE(copy.lpszHopper, original.lpszHopper);
+    EXPECT_NE(+copy.lpszCardName, +original.lpszCardName);
+    EXPECT_NE(+copy.lpszHopper, +original.lpszHopper);
 
     tagCardUnitEx unnamed;
     copy.SetHopper(nullptr);
     static_cast<tagCardUnitEx&>(copy) = unnamed;
-    EXPECT_EQ(copy.lpszCardName, nullptr);
-    EXPECT_EQ(copy.lpszHopper, nullptr);
+    EXPECT_EQ(+copy.lpszCardName, nullptr);
+    EXPECT_EQ(+copy.lpszHopper, nullptr);
 }
 
 TEST(CardUnitEx, AssigningReleasesNoHopper)
@@ -66,9 +66,9 @@ TEST(CardUnitEx, AssigningAUnitToItselfKeepsIt)
     tagCardUnitEx& same = unit;
     char* const name = unit.lpszCardName;
     static_cast<tagCardUnitEx&>(unit) = same;
-    EXPECT_EQ(unit.lpszCardName, name);
+    EXPECT_EQ(+unit.lpszCardName, name);
     unit.SetCardName(unit.lpszCardName + 1); // a piece of its own name
-    EXPECT_STREQ(unit.lpszCardName, "old");
+    EXPECT_STREQ(+unit.lpszCardName, "old");
 }
 
 TEST(CardUnitEx, EqualityLooksAtEveryFieldAndTellsNullFromEmpty)
@@ -121,8 +121,8 @@ TEST(CardUnitEx, AGrowingArrayKeepsTheBuffers)
     for (int i = 0; i < 100; ++i) {
         units.Add(tagCardUnitEx());
     }
-    EXPECT_EQ(static_cast<const char*>(units[0].lpszCardName), name);
-    EXPECT_EQ(static_cast<const char*>(units[0].lpszHopper), hopper);
+    EXPECT_EQ(+units[0].lpszCardName, name);
+    EXPECT_EQ(+units[0].lpszHopper, hopper);
     units[0].SetHopper(nullptr);
 }
 

@@ -59,8 +59,8 @@ TEST_F(IDCRegInfoTest, TheNearlyFullCountStaysBelowTheCapacity)
     EXPECT_EQ(LoadedRetainBinHigh(10, 10), 7U);
     EXPECT_EQ(LoadedRetainBinHigh(10, 0), 7U);
     EXPECT_EQ(LoadedRetainBinHigh(10, 9), 9U);
-    EXPECT_EQ(LoadedRetainBinHigh(1, 1), 0U);
-    EXPECT_EQ(LoadedRetainBinHigh(0, 5), 0U);
+    EXPECT_EQ(LoadedRetainBinHigh(1, 1), DWORD{0});
+    EXPECT_EQ(LoadedRetainBinHigh(0, 5), DWORD{0});
     Set(Device(L"RetainCardSet"), L"RetainBinHigh", L"text"); // missing
     Set(Device(L"RetainCardSet"), L"MaxRetainCard", 101);
     CIDCRegInfo config(L"Svc", false);
@@ -71,7 +71,7 @@ TEST_F(IDCRegInfoTest, TheNearlyFullCountStaysBelowTheCapacity)
 
 TEST_F(IDCRegInfoTest, AZeroPollingIntervalIsReplacedAndItsLineStaysOpen)
 {
-    Set(Device(L"IdleInterval"), L"WaitCardTaken", 0U);
+    Set(Device(L"IdleInterval"), L"WaitCardTaken", DWORD{0});
     CIDCRegInfo config(L"Svc", false);
     config.Load(&m_log);
     EXPECT_EQ(config.m_dwWaitCardTaken, 500U);
@@ -117,7 +117,7 @@ TEST_F(IDCRegInfoTest, OptimisationDrawsItsOffsetAndFillsItsPeriods)
     {
         CIDCRegInfo config(L"Svc", false);
         config.Load(&m_log);
-        EXPECT_EQ(config.m_dwOptmDelay, 0U);
+        EXPECT_EQ(config.m_dwOptmDelay, DWORD{0});
         EXPECT_EQ(config.m_strProc1Start, L"");
         EXPECT_TRUE(Line(L"OffsetSec").empty());
     }
@@ -155,7 +155,7 @@ TEST_F(IDCRegInfoTest, OptimisationDrawsItsOffsetAndFillsItsPeriods)
 TEST_F(IDCRegInfoTest, SaveHasAnOrderOfItsOwn)
 {
     Set(Device(), L"CancelReadRawDataWhenNewReq", 4);
-    Set(Device(L"Control"), L"CancelReadRawDataWhenNewReq", 0U);
+    Set(Device(L"Control"), L"CancelReadRawDataWhenNewReq", DWORD{0});
     CIDCRegInfo config(L"Svc", false);
     config.Load(nullptr);
     EXPECT_TRUE(config.m_bCancelReadRawDataWhenNewReq);

@@ -28,7 +28,7 @@ TEST_F(MCRRegInfoTest, TheNearlyFullCountFollowsTheCapacity)
 
 TEST_F(MCRRegInfoTest, OrderOfReadingAndWriting)
 {
-    Set(Device(L"IdleInterval"), L"WaitCardTaken", 0U);
+    Set(Device(L"IdleInterval"), L"WaitCardTaken", DWORD{0});
     CMCRRegInfo config(L"Svc", false);
     config.Load(&m_log);
     EXPECT_EQ(config.m_dwWaitCardTaken, 500U);

@@ -93,12 +93,14 @@ TEST_F(PINRegInfoTest, LinesAreHexadecimalWhereTheyHaveAlwaysBeen)
 
 TEST_F(PINRegInfoTest, LoadAndSaveHaveTheirOwnOrders)
 {
-    m_config.Load(&m_log);
+    Set(Device(), L"BankID", 8); // the store is asked only of keys that it has
+    Set(Device(L"SM\\SM4"), L"SM4MacLen", 8);
     ClearRecord();
     m_config.Load(nullptr);
     const auto reads = Reads();
     const auto at = [&](const std::wstring& read) { return std::find(reads.begin(), reads.end(), read); };
-    EXPECT_LT(at(Device() + L"|ForceUseSM"), at(Device(L"SM") + L"|SMUseValue"));
+    EXPECT_LT(at(Device() + L"|CheckInputParam"), at(Device() + L"|IsAutomaticForceUseSM"));
+    EXPECT_LT(at(Device() + L"|ForceUseSM"), at(Device(L"SM\\SM4") + L"|SM4MacLen"));
     EXPECT_LT(at(Device(L"SM\\SM4") + L"|SM4MacLen"), at(Device() + L"|CheckPinLength"));
     EXPECT_NE(at(Device() + L"|CheckPinLength"), reads.end());
 

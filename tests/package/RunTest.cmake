@@ -18,6 +18,18 @@ run(${CMAKE_COMMAND} -G Ninja -S "${CMAKE_CURRENT_LIST_DIR}" -B "${work}/cmake" 
 run(${CMAKE_COMMAND} --build "${work}/cmake")
 run(${CMAKE_CTEST_COMMAND} --test-dir "${work}/cmake" --output-on-failure)
 
+# Who links the archive and uses one model carries no other.
+find_program(nm nm)
+if(nm AND NOT toolchain)
+    execute_process(COMMAND ${nm} --demangle "${work}/cmake/consumer_static" OUTPUT_VARIABLE symbols
+                    COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCHALL "CSp[A-Z][A-Za-z0-9]*RegInfo" models "${symbols}")
+    list(REMOVE_DUPLICATES models)
+    if(NOT models STREQUAL "CSpCRDWQTYM1200RegInfo")
+        message(FATAL_ERROR "the static consumer carries the models ${models}")
+    endif()
+endif()
+
 find_program(pkg_config pkg-config)
 if(pkg_config AND NOT toolchain)
     file(GLOB_RECURSE pc_file "${prefix}/*/wqspcfg.pc")

@@ -59,7 +59,7 @@ std::wstring ConfigTest::Common(const std::wstring& subkey)
     return Below(L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\WQCmnCfg", subkey);
 }
 
-void ConfigTest::Set(const std::wstring& path, const std::wstring& name, DWORD value)
+void ConfigTest::SetNumber(const std::wstring& path, const std::wstring& name, DWORD value)
 {
     ASSERT_NE(CRegKeyEx::SetValue(value, CString(name), L"%s", path), 0) << LastStoreError().message;
 }

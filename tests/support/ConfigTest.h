@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <concepts>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,8 +26,13 @@ class ConfigTest : public ::testing::Test
     static std::wstring Service(const std::wstring& subkey = {});
     static std::wstring Common(const std::wstring& subkey);
 
-    static void Set(const std::wstring& path, const std::wstring& name, DWORD value);
+    template <std::integral T>
+    static void Set(const std::wstring& path, const std::wstring& name, T value)
+    {
+        SetNumber(path, name, static_cast<DWORD>(value));
+    }
     static void Set(const std::wstring& path, const std::wstring& name, const wchar_t* value);
+    static void SetNumber(const std::wstring& path, const std::wstring& name, DWORD value);
     static std::optional<DWORD> Number(const std::wstring& path, const std::wstring& name);
     static std::optional<std::wstring> Text(const std::wstring& path, const std::wstring& name);
 

@@ -21,9 +21,7 @@ inline constexpr wchar_t kLogicalNameOfIDCReader[] =
     L"logical name of the card reader that the device opens through the XFS API; empty none";
 
 // Card readers.
-inline constexpr wchar_t kCommunicationType[] = L"communication type: 0 serial; 1 USB";
 inline constexpr wchar_t kPolicyOfSetMediaEntering[] = L"policy for setting the media status to entering";
-inline constexpr wchar_t kSkimOfInsertCard[] = L"anti-skimming when a card is inserted: 0 no; nonzero yes";
 inline constexpr wchar_t kUnPresentOfMoveCardManual[] =
     L"a card that is moved by hand is reported as not present: 0 no; nonzero yes";
 inline constexpr wchar_t kNeedResetOfRecoverSkimmerSt[] =
@@ -162,8 +160,7 @@ inline constexpr wchar_t kClearAndBackspace[] =
     L"BACKSPACE; 1 treat it as CLEAR";
 inline constexpr wchar_t kReportErrOnPressMultiKey[] = L"several keys pressed at once are an error: 0 no; 1 yes";
 inline constexpr wchar_t kReportLongKeyPressErr[] = L"a long key press is an error: 0 no; nonzero yes";
-inline constexpr wchar_t kKeyPressInteval[] =
-    L"how long a key is held down before it counts as a long press";
+inline constexpr wchar_t kKeyPressInteval[] = L"how long a key is held down before it counts as a long press";
 inline constexpr wchar_t kClearAsBackspaceInGetData[] =
     L"the Clear key acts as Backspace in plain-text entry: 0 no; 1 yes";
 inline constexpr wchar_t kClearAsBackspaceInGetPin[] = L"the Clear key acts as Backspace in PIN entry: 0 no; 1 yes";
@@ -204,58 +201,95 @@ inline constexpr wchar_t kIDKey[] =
     L"use of the ID key reported as fwIDKey: 0 none; 0x0001 WFS_PIN_IDKEYINITIALIZATION; 0x0002 WFS_PIN_IDKEYIMPORT";
 
 // Cash recyclers and coin devices.
-inline constexpr wchar_t kInnerShutterCantClose[] = L"the inner shutter cannot close at the end of a deposit: 0 no error; 1 to 99 a hardware error; from 100 this number is reported as the error code instead";
+inline constexpr wchar_t kInnerShutterCantClose[] =
+    L"the inner shutter cannot close at the end of a deposit: 0 no error; 1 to 99 a hardware error; from 100 this "
+    L"number is reported as the error code instead";
 inline constexpr wchar_t kHwInitCount[] = L"most hardware initialisations by remote control: 0 unlimited";
 inline constexpr wchar_t kRollbackDelayTimeout[] = L"rollback delay in ms";
-inline constexpr wchar_t kTryRetract2CasE[] = L"when the retract cassette is full, retracts go to cassette E: 0 no; nonzero yes";
+inline constexpr wchar_t kTryRetract2CasE[] =
+    L"when the retract cassette is full, retracts go to cassette E: 0 no; nonzero yes";
 inline constexpr wchar_t kForceRetract2CasE[] = L"retracts always go to cassette E: 0 no; nonzero yes";
-inline constexpr wchar_t kSetPOSNULLPosition[] = L"what a null position from the application means: 0 the input slot; 1 the output slot; 2 both";
-inline constexpr wchar_t kStoreFirstCollect[] = L"deposit order of the cassettes: 0 E to A; 1 A to E; 2 adjusted by which cassettes are closed";
-inline constexpr wchar_t kDispenseFirstDepart[] = L"dispense order of the cassettes: 0 A to E; 1 the priorities change when the first cassette cannot cover the amount, so that one dispense does not use several cassettes";
+inline constexpr wchar_t kSetPOSNULLPosition[] =
+    L"what a null position from the application means: 0 the input slot; 1 the output slot; 2 both";
+inline constexpr wchar_t kStoreFirstCollect[] =
+    L"deposit order of the cassettes: 0 E to A; 1 A to E; 2 adjusted by which cassettes are closed";
+inline constexpr wchar_t kDispenseFirstDepart[] =
+    L"dispense order of the cassettes: 0 A to E; 1 the priorities change when the first cassette cannot cover the "
+    L"amount, so that one dispense does not use several cassettes";
 inline constexpr wchar_t kTryCloseOutSht[] = L"interval between attempts to close the outer shutter, in ms";
-inline constexpr wchar_t kDepartClose[] = L"a cassette that is pulled or plugged, and the non-15-note reject case, may close separation physically: 0 no; nonzero yes";
-inline constexpr wchar_t kCollectClose[] = L"a cassette that is pulled or plugged may close collection physically: 0 no; 1 yes; 2 also when the separation of a dispense closes";
+inline constexpr wchar_t kDepartClose[] = L"a cassette that is pulled or plugged, and the non-15-note reject case, may "
+                                          L"close separation physically: 0 no; nonzero yes";
+inline constexpr wchar_t kCollectClose[] = L"a cassette that is pulled or plugged may close collection physically: 0 "
+                                           L"no; 1 yes; 2 also when the separation of a dispense closes";
 inline constexpr wchar_t kCasTypeFollowSlot[] = L"the cassette type belongs to: 0 the cassette; 1 the slot";
-inline constexpr wchar_t kAddCasDataType[] = L"additions to the counts of a mixed cassette by denomination: 0 no; 1 yes";
-inline constexpr wchar_t kUnitPhyPosName[] = L"names of the physical positions: 0 CassetteA and so on; 1 Cassette1 and so on";
-inline constexpr wchar_t kUseCassetteF[] = L"cassette F is the reject cassette and retracts are not supported: 0 no; nonzero yes";
-inline constexpr wchar_t kUseCassetteE[] = L"cassette E, which must be a mixed one, is the reject cassette: 0 no; nonzero yes";
-inline constexpr wchar_t kSlotType[] = L"cassette type: high word the group (0x0004 group 4), low word the use: 0x0030 recycle; 0x0010 dispense only; 0x0020 deposit only; 0x0040 mixed deposit";
+inline constexpr wchar_t kAddCasDataType[] =
+    L"additions to the counts of a mixed cassette by denomination: 0 no; 1 yes";
+inline constexpr wchar_t kUnitPhyPosName[] =
+    L"names of the physical positions: 0 CassetteA and so on; 1 Cassette1 and so on";
+inline constexpr wchar_t kUseCassetteF[] =
+    L"cassette F is the reject cassette and retracts are not supported: 0 no; nonzero yes";
+inline constexpr wchar_t kUseCassetteE[] =
+    L"cassette E, which must be a mixed one, is the reject cassette: 0 no; nonzero yes";
+inline constexpr wchar_t kSlotType[] = L"cassette type: high word the group (0x0004 group 4), low word the use: 0x0030 "
+                                       L"recycle; 0x0010 dispense only; 0x0020 deposit only; 0x0040 mixed deposit";
 inline constexpr wchar_t kSlotCasFull[] = L"distance to full as a code: 0 to 9 mean 50 x (code + 1) notes";
-inline constexpr wchar_t kSlotCasNearEmpty[] = L"distance to nearly empty as a code: 0 to 9 mean 50 x (code + 1) notes; 80 to 89 mean 10 x (code - 79) notes";
-inline constexpr wchar_t kOutShutterType[] = L"outer shutter: 0 ATM shutter; 1 VTM shutter valve, which must open before the inner shutter; 2 VTM outer shutter made by Tarno; 3 outer shutter of an intelligent low counter; other numbers a virtual shutter";
+inline constexpr wchar_t kSlotCasNearEmpty[] =
+    L"distance to nearly empty as a code: 0 to 9 mean 50 x (code + 1) notes; 80 to 89 mean 10 x (code - 79) notes";
+inline constexpr wchar_t kOutShutterType[] =
+    L"outer shutter: 0 ATM shutter; 1 VTM shutter valve, which must open before the inner shutter; 2 VTM outer shutter "
+    L"made by Tarno; 3 outer shutter of an intelligent low counter; other numbers a virtual shutter";
 inline constexpr wchar_t kVtmOutShtPort[] = L"port of the VTM shutter valve on the sensors-and-indicators device";
-inline constexpr wchar_t kVtmOutShtCtrlIndex[] = L"index for opening and closing the VTM shutter valve on the sensors-and-indicators device: 0 to 15; any other number becomes 10";
-inline constexpr wchar_t kVtmOutShtSafeDoorIndex[] = L"index of the safe door on the sensors-and-indicators device: 0 to 7; any other number is kept, and VtmOutShtCtrlIndex becomes 5";
-inline constexpr wchar_t kVtmOutShtStIndex[] = L"index of the status of the VTM shutter valve on the sensors-and-indicators device: 0 to 7; any other number becomes 4";
+inline constexpr wchar_t kVtmOutShtCtrlIndex[] = L"index for opening and closing the VTM shutter valve on the "
+                                                 L"sensors-and-indicators device: 0 to 15; any other number becomes 10";
+inline constexpr wchar_t kVtmOutShtSafeDoorIndex[] =
+    L"index of the safe door on the sensors-and-indicators device: 0 to 7; any other number is kept, and "
+    L"VtmOutShtCtrlIndex becomes 5";
+inline constexpr wchar_t kVtmOutShtStIndex[] = L"index of the status of the VTM shutter valve on the "
+                                               L"sensors-and-indicators device: 0 to 7; any other number becomes 4";
 inline constexpr wchar_t kVtmPolOfSafeDoor[] = L"polarity of the safe door: 0 as the hardware has it; 1 inverted";
-inline constexpr wchar_t kInitType[] = L"initialisation: 0 chosen from the context; 1 normal; 2 maintenance; 3 remote; 4 forced";
+inline constexpr wchar_t kInitType[] =
+    L"initialisation: 0 chosen from the context; 1 normal; 2 maintenance; 3 remote; 4 forced";
 inline constexpr wchar_t kWQVtmOutShtPort[] = L"port of the VTM shutter valve made by Tarno";
 inline constexpr wchar_t kMaxItemsOfEscrow[] = L"capacity of the escrow in notes: 0 there is no escrow";
-inline constexpr wchar_t kUseRestrictAmountByAPP[] = L"the amount limit of a deposit that the application publishes is used: 0 no; nonzero yes";
+inline constexpr wchar_t kUseRestrictAmountByAPP[] =
+    L"the amount limit of a deposit that the application publishes is used: 0 no; nonzero yes";
 inline constexpr wchar_t kDisableCIMRetract[] = L"CIM retracts are disabled: 0 no; nonzero yes";
 inline constexpr wchar_t kDisableCDMRetract[] = L"CDM retracts are disabled: 0 no; nonzero yes";
 inline constexpr wchar_t kOutShutterLockType[] = L"type of the lock of the outer shutter";
 inline constexpr wchar_t kRetractCashOfShutterIn[] = L"notes inside the shutter are retracted: 0 no; nonzero yes";
-inline constexpr wchar_t kEnableAccountWhenVerifyFailed[] = L"notes are accounted when their validation failed: 0 no; nonzero yes";
-inline constexpr wchar_t kContainerCanAsCashInOut[] = L"the transfer container after automatic replenishment: 0 takes no part in transactions, reported as a container; 1 takes part, reported as a container; 2 takes part, reported as a recycle cassette";
-inline constexpr wchar_t kCanRejectCash[] = L"automatic clear-out and replenishment may produce rejects, bit set: 1 counting; 2 replenishing";
+inline constexpr wchar_t kEnableAccountWhenVerifyFailed[] =
+    L"notes are accounted when their validation failed: 0 no; nonzero yes";
+inline constexpr wchar_t kContainerCanAsCashInOut[] =
+    L"the transfer container after automatic replenishment: 0 takes no part in transactions, reported as a container; "
+    L"1 takes part, reported as a container; 2 takes part, reported as a recycle cassette";
+inline constexpr wchar_t kCanRejectCash[] =
+    L"automatic clear-out and replenishment may produce rejects, bit set: 1 counting; 2 replenishing";
 inline constexpr wchar_t kRetryWhenDepartBad[] = L"a note move is tried again when separation fails: 0 no; nonzero yes";
 inline constexpr wchar_t kExtraMoveTimes[] = L"retries of a note move when rejects left the target with too few notes";
-inline constexpr wchar_t kHandleBillNotMatch[] = L"denomination of a moved note does not match the cassette: 0 is ignored; 1 stops the move with an error; 2 stops the cassette";
-inline constexpr wchar_t kRtNoItemIfNoCash[] = L"cash-in end without an accepted note returns no-items: 0 no; nonzero yes";
-inline constexpr wchar_t kCheckEmptyOnOutSht[] = L"before validation the outer shutter is checked for notes left over, which takes effect only where the input shutter stays open: 0 no; nonzero yes";
-inline constexpr wchar_t kRestrictDepCntPath[] = L"registry path of the count limit of a deposit that the application publishes; the value may be a number or a text";
-inline constexpr wchar_t kRestrictDepCntKey[] = L"value name of the count limit of a deposit that the application publishes";
-inline constexpr wchar_t kRestrictDepAmtPath[] = L"registry path of the amount limit of a deposit that the application publishes; the value may be a number or a text";
-inline constexpr wchar_t kRestrictDepAmtKey[] = L"value name of the amount limit of a deposit that the application publishes";
+inline constexpr wchar_t kHandleBillNotMatch[] = L"denomination of a moved note does not match the cassette: 0 is "
+                                                 L"ignored; 1 stops the move with an error; 2 stops the cassette";
+inline constexpr wchar_t kRtNoItemIfNoCash[] =
+    L"cash-in end without an accepted note returns no-items: 0 no; nonzero yes";
+inline constexpr wchar_t kCheckEmptyOnOutSht[] =
+    L"before validation the outer shutter is checked for notes left over, which takes effect only where the input "
+    L"shutter stays open: 0 no; nonzero yes";
+inline constexpr wchar_t kRestrictDepCntPath[] = L"registry path of the count limit of a deposit that the application "
+                                                 L"publishes; the value may be a number or a text";
+inline constexpr wchar_t kRestrictDepCntKey[] =
+    L"value name of the count limit of a deposit that the application publishes";
+inline constexpr wchar_t kRestrictDepAmtPath[] = L"registry path of the amount limit of a deposit that the application "
+                                                 L"publishes; the value may be a number or a text";
+inline constexpr wchar_t kRestrictDepAmtKey[] =
+    L"value name of the amount limit of a deposit that the application publishes";
 inline constexpr wchar_t kRetractWhenResetInputNull[] = L"a reset whose input is null retracts: 0 no; nonzero yes";
-inline constexpr wchar_t kHandleDepRestrict0[] = L"a limit of 0 from the application: 0 the limits of the provider are used; 1 too-many-items is returned";
+inline constexpr wchar_t kHandleDepRestrict0[] =
+    L"a limit of 0 from the application: 0 the limits of the provider are used; 1 too-many-items is returned";
 inline constexpr wchar_t kCoinCasFull[] = L"coins at which the hopper is full";
 inline constexpr wchar_t kCoinCasNearFull[] = L"coins at which the hopper is nearly full";
 inline constexpr wchar_t kCoinCasEmpty[] = L"coins at which the hopper is empty";
 inline constexpr wchar_t kCoinCasNearEmpty[] = L"coins at which the hopper is nearly empty";
-inline constexpr wchar_t kCoinType[] = L"denomination of the hopper: 0x100 recycle for 1 yuan; 0x050 recycle for 5 jiao; 0x010 recycle for 1 jiao; 0x000 none";
+inline constexpr wchar_t kCoinType[] = L"denomination of the hopper: 0x100 recycle for 1 yuan; 0x050 recycle for 5 "
+                                       L"jiao; 0x010 recycle for 1 jiao; 0x000 none";
 inline constexpr wchar_t kCoinDispenseTimeOut[] = L"time-out of a dispense in ms";
 inline constexpr wchar_t kAutoRecoverCount[] = L"most automatic recoveries after a fault";
 
@@ -275,11 +309,14 @@ inline constexpr wchar_t kSupplyBinCount[] = L"number of supply bins";
 inline constexpr wchar_t kRetainBinCount[] = L"number of retain bins";
 inline constexpr wchar_t kSupplyBinMax[] = L"count at which a supply bin is full";
 inline constexpr wchar_t kTimesToTryWhenFail[] = L"number of attempts when an operation fails";
-inline constexpr wchar_t kAllowResetWithRetainOnFull[] = L"a reset that retains is allowed while the retain bin is full: 0 no; nonzero yes";
+inline constexpr wchar_t kAllowResetWithRetainOnFull[] =
+    L"a reset that retains is allowed while the retain bin is full: 0 no; nonzero yes";
 inline constexpr wchar_t kDispenseBin3[] = L"card-unit number of physical bin 3";
-inline constexpr wchar_t kAllowRetainOfRetainBinErr[] = L"retaining allowed while the retain bin is faulty: 0 no; nonzero yes";
+inline constexpr wchar_t kAllowRetainOfRetainBinErr[] =
+    L"retaining allowed while the retain bin is faulty: 0 no; nonzero yes";
 inline constexpr wchar_t kMoveTransPortCardOptionWhenReset[] = L"where a card in the transport goes at a reset";
-inline constexpr wchar_t kMoveTransPortCardOptionWhenIDCDispense[] = L"where a card in the transport goes when dispensing through the card reader";
+inline constexpr wchar_t kMoveTransPortCardOptionWhenIDCDispense[] =
+    L"where a card in the transport goes when dispensing through the card reader";
 inline constexpr wchar_t kType[] = L"communication type";
 inline constexpr wchar_t kMaxRetainCard[] = L"capacity of the retain bin, in cards";
 inline constexpr wchar_t kRetainBinHigh[] = L"retain count at which the retain bin is nearly full";
@@ -288,23 +325,30 @@ inline constexpr wchar_t kZEntryOfInsertCard[] = L"Z entry option when a card is
 inline constexpr wchar_t kCheckModeOfInsertCard[] = L"check mode when a card is inserted";
 inline constexpr wchar_t kCheckMode[] = L"check mode";
 inline constexpr wchar_t kShutterActionOfInit[] = L"action of the shutter at initialisation";
-inline constexpr wchar_t kConnectAfterHWError[] = L"the connection is made again after a hardware error: 0 no; nonzero yes";
+inline constexpr wchar_t kConnectAfterHWError[] =
+    L"the connection is made again after a hardware error: 0 no; nonzero yes";
 inline constexpr wchar_t kOpenOption[] = L"what happens to a card in the device when the SP opens";
 inline constexpr wchar_t kPolicyOfExtraSuppBinST[] = L"policy of the extra supply-bin status";
 inline constexpr wchar_t kResetAndAgain[] = L"the device is reset and the operation tried again: 0 no; nonzero yes";
 inline constexpr wchar_t kMaxSendUkeyCount[] = L"largest number of USB keys to send";
-inline constexpr wchar_t kAllowDisWithRetainBinPhyFull[] = L"dispensing allowed while the retain bin is physically full: 0 no; nonzero yes";
-inline constexpr wchar_t kAllowDisWithRetainBinLogicFull[] = L"dispensing allowed while the retain bin is full by its logical count: 0 no; nonzero yes";
+inline constexpr wchar_t kAllowDisWithRetainBinPhyFull[] =
+    L"dispensing allowed while the retain bin is physically full: 0 no; nonzero yes";
+inline constexpr wchar_t kAllowDisWithRetainBinLogicFull[] =
+    L"dispensing allowed while the retain bin is full by its logical count: 0 no; nonzero yes";
 inline constexpr wchar_t kSupplyBinIniCount[] = L"initial count of a supply bin";
 inline constexpr wchar_t kRetainBinNumber[] = L"number of the retain bin";
 inline constexpr wchar_t kSupplyBin1Number[] = L"number of supply bin 1";
 inline constexpr wchar_t kDispenseBin1Number[] = L"number of dispense bin 1";
 inline constexpr wchar_t kTreatyOfAp[] = L"protocol of the application";
 inline constexpr wchar_t kDispenseTo[] = L"where a card is dispensed to";
-inline constexpr wchar_t kReConnectSuccessOption[] = L"card in the reader after a successful reconnection: 0 eject; 1 retain; 2 leave";
-inline constexpr wchar_t kAllowDispenseOfRetainBinErr[] = L"dispensing allowed while the retain bin is faulty: 0 no; nonzero yes";
-inline constexpr wchar_t kReturnHardErrWhenSuppBinMiss[] = L"a missing supply bin: 0 gives the real result; 1 is reported as a hardware error";
-inline constexpr wchar_t kChangeIDCStatusToBusy[] = L"while dispensing through the card reader: 0 real states; 1 the reader is reported busy and the dispenser online";
+inline constexpr wchar_t kReConnectSuccessOption[] =
+    L"card in the reader after a successful reconnection: 0 eject; 1 retain; 2 leave";
+inline constexpr wchar_t kAllowDispenseOfRetainBinErr[] =
+    L"dispensing allowed while the retain bin is faulty: 0 no; nonzero yes";
+inline constexpr wchar_t kReturnHardErrWhenSuppBinMiss[] =
+    L"a missing supply bin: 0 gives the real result; 1 is reported as a hardware error";
+inline constexpr wchar_t kChangeIDCStatusToBusy[] =
+    L"while dispensing through the card reader: 0 real states; 1 the reader is reported busy and the dispenser online";
 
 } // namespace wqspcfg::meaning::crd
 // printers

@@ -19,7 +19,7 @@ class WQSPCFG_API CSpCardReaderRegInfo : public CIDCRegInfo
     DWORD m_dwSpCloseOption;
     DWORD m_dwPowerOnOption;
     DWORD m_dwPolicyOfSetMediaEntering;
-    bool m_bSkimOfInsertCard;
+    DWORD m_dwSkimOfInsertCard;
     bool m_bUnPresentOfMoveCardManual;
     bool m_bNeedResetOfRecoverSkimmerSt;
     bool m_bIsUseSLE4442;

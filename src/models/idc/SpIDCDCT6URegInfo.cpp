@@ -10,7 +10,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"Type", &C::m_dwType, 0, meaning::kCommunicationType, Saved, OneOf<0, 1>},
+    {key::Comm, L"Type", &C::m_dwType, 0, meaning::crd::kType, Saved},
     {key::Comm, L"Port", &C::m_dwPort, 1, meaning::kPort, Saved},
 };
 // clang-format on

@@ -12,7 +12,7 @@ namespace {
 constexpr Setting kSettings[] = {
     {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
     {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved},
-    {key::Comm, L"Type",     &C::m_dwType,     0,    meaning::kCommunicationType, Saved, OneOf<0, 1>},
+    {key::Comm, L"Type",     &C::m_dwType,     0,    meaning::crd::kType, Saved},
 };
 // clang-format on
 

@@ -19,7 +19,7 @@ class WQSPCFG_API CSpIDCOmronV2GRegInfo : public CIDCRegInfo
     DWORD m_dwBaudRate;
     DWORD m_dwVendorID;
     DWORD m_dwProductID;
-    bool m_bSkimOfInsertCard;
+    DWORD m_dwSkimOfInsertCard;
     bool m_bNeedResetOfRecoverSkimmerSt;
     bool m_bIsUseSLE4442;
     DWORD m_dwPolicyOfSetMediaEntering;

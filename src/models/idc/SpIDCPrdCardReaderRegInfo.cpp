@@ -14,7 +14,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,   meaning::kPowerOffOption, Saved, OneOf<0, 1, 2>},
     {key::Control, L"SpCloseOption",                 &C::m_dwSpCloseOption,                2,   meaning::kCloseOption, Saved, OneOf<0, 1, 2>},
     {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,   meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
-    {key::Control, L"SkimOfInsertCard",              &C::m_bSkimOfInsertCard,              0,   meaning::kSkimOfInsertCard, Saved},
+    {key::Control, L"SkimOfInsertCard",              &C::m_dwSkimOfInsertCard,             0,   meaning::crd::kSkimOfInsertCard, Saved},
     {key::Control, L"UnPresentOfMoveCardManual",     &C::m_bUnPresentOfMoveCardManual,     0,   meaning::kUnPresentOfMoveCardManual, Saved},
     {key::Control, L"NeedResetOfRecoverSkimmerSt",   &C::m_bNeedResetOfRecoverSkimmerSt,   0,   meaning::kNeedResetOfRecoverSkimmerSt, Saved},
     {key::Control, L"ToReadPositionIfNoActionReset", &C::m_bToReadPositionIfNoActionReset, 0,   meaning::kToReadPositionIfNoActionReset, Saved},

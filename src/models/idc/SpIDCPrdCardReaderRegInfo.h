@@ -16,7 +16,7 @@ class WQSPCFG_API CSpIDCPrdCardReaderRegInfo : public CIDCRegInfo
     DWORD m_dwPowerOffOption;
     DWORD m_dwSpCloseOption;
     DWORD m_dwPowerOnOption;
-    bool m_bSkimOfInsertCard;
+    DWORD m_dwSkimOfInsertCard;
     bool m_bUnPresentOfMoveCardManual;
     bool m_bNeedResetOfRecoverSkimmerSt;
     bool m_bToReadPositionIfNoActionReset;

@@ -15,7 +15,7 @@ class WQSPCFG_API CSpIDCTTCEM100RegInfo : public CIDCRegInfo
     DWORD m_dwPort;
     DWORD m_dwBaudRate;
     DWORD m_dwPolicyOfSetMediaEntering;
-    bool m_bSkimOfInsertCard;
+    DWORD m_dwSkimOfInsertCard;
     DWORD m_dwPowerOffOption;
     DWORD m_dwPowerOnOption;
 };

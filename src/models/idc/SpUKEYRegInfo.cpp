@@ -12,9 +12,9 @@ namespace {
 constexpr Setting kSettings[] = {
     {key::Comm,    L"Port",          &C::m_dwPort,          1,    meaning::kPort, Saved},
     {key::Comm,    L"BaudRate",      &C::m_dwBaudRate,      9600, meaning::kBaudRate, Saved},
-    {key::Control, L"MaxUKeyCount",  &C::m_dwMaxUKeyCount,  100,  L"capacity in USB keys", Saved},
-    {key::Control, L"NumOfConfUKey", &C::m_dwNumOfConfUKey, 100,  L"number of USB keys that is configured", Saved},
-    {key::Control, L"UKeyType",      &C::m_dwUKeyType,      0,    L"type of the USB key, as the device's driver numbers it", Saved},
+    {key::Control, L"MaxUKeyCount",  &C::m_dwMaxUKeyCount,  100,  L"largest number of USB keys", Saved},
+    {key::Control, L"NumOfConfUKey", &C::m_dwNumOfConfUKey, 1,    L"number of configured USB keys", Saved},
+    {key::Control, L"UKeyType",      &C::m_dwUKeyType,      0,    L"type of the USB key", Saved},
 };
 // clang-format on
 

@@ -3,8 +3,8 @@
 #include "classes/PINRegInfo.h"
 
 // The XZSE 8098B keypad.
-// The capability values of the model stand in place of those of the class, which have their own key.
-// Loaded and saved through its base.
+// The capability values of the model hide those of the class, which come from the Capabilities key.
+// Load and Save are private: they are called through CPINRegInfo.
 class WQSPCFG_API CSpPINXZSE8098BRegInfo : public CPINRegInfo
 {
   public:

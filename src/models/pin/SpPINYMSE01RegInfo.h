@@ -3,7 +3,7 @@
 #include "classes/PINRegInfo.h"
 
 // The YMSE01 keypad, with SM2 curve parameters and checks that depend on the version of the keypad.
-// The capability values of the model stand in place of those of the class, which have their own key.
+// The capability values of the model hide those of the class, which come from the Capabilities key.
 class WQSPCFG_API CSpPINYMSE01RegInfo : public CPINRegInfo
 {
   public:
