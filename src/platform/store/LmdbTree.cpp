@@ -1,6 +1,7 @@
 #include "platform/store/LmdbTree.h"
 
 #include <algorithm>
+#include <bit>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -23,6 +24,29 @@ T ReadAt(const char* from)
 constexpr std::size_t kPageHeader = sizeof(lmdb::PageHeader);
 constexpr std::size_t kNodeHeader = sizeof(lmdb::NodeHeader);
 constexpr std::size_t kFirstPage = 2; // behind the two heads
+
+// Compares two names that begin with the same `same` bytes, and leaves in it how many they do have in common.
+int CompareFrom(std::string_view left, std::string_view right, std::size_t& same)
+{
+    const auto size = std::min(left.size(), right.size());
+    auto at = std::min(same, size);
+    while (at + 8 <= size) {
+        const auto differing = ReadAt<std::uint64_t>(left.data() + at) ^ ReadAt<std::uint64_t>(right.data() + at);
+        if (differing != 0) {
+            at += static_cast<std::size_t>(std::countr_zero(differing)) / 8;
+            break;
+        }
+        at += 8;
+    }
+    while (at < size && left[at] == right[at]) {
+        ++at;
+    }
+    same = at;
+    if (at < size) {
+        return static_cast<unsigned char>(left[at]) < static_cast<unsigned char>(right[at]) ? -1 : 1;
+    }
+    return left.size() == right.size() ? 0 : (left.size() < right.size() ? -1 : 1);
+}
 
 std::size_t Even(std::size_t size)
 {
@@ -218,8 +242,11 @@ bool LmdbTree::ReadRecord(const Page& page, const Node& node, std::string_view& 
     return true;
 }
 
-// The first node from `from` on whose name is not less.
-bool LmdbTree::Search(const Page& page, std::size_t from, std::string_view name, std::size_t& index, bool& exact)
+// The first node from `from` on whose name is not less. What the names on both sides of a place have in common with the
+// one that is looked for, every name between them has too, and it is not compared again. (On a damaged page that may be
+// wrong; the record's check sum is over the name that is looked for.)
+bool LmdbTree::Search(const Page& page, std::size_t from, std::string_view name, Common& common, std::size_t& index,
+                      bool& exact)
 {
     auto low = from;
     auto high = page.count;
@@ -230,15 +257,19 @@ bool LmdbTree::Search(const Page& page, std::size_t from, std::string_view name,
         if (!ReadNode(page, middle, node)) {
             return false;
         }
-        const auto order = node.name.compare(name);
+        auto same = std::min(common.below, common.above);
+        const auto order = CompareFrom(node.name, name, same);
         if (order < 0) {
             low = middle + 1;
+            common.below = same;
         } else {
             high = middle;
             exact = order == 0;
             if (exact) {
+                common.below = same;
                 break;
             }
+            common.above = same;
         }
     }
     index = high;
@@ -250,11 +281,12 @@ bool LmdbTree::Descend(std::string_view name, bool& exact)
 {
     m_placed = false;
     auto number = m_meta.main.root;
+    Common common;
     for (std::size_t depth = 0;; ++depth) {
         auto& level = m_levels[depth];
         const bool isLeaf = depth + 1 == m_depth;
         if (!Load(number, isLeaf ? lmdb::kLeafPage : lmdb::kBranchPage, level.page) ||
-            !Search(level.page, isLeaf ? 0 : 1, name, level.index, exact)) {
+            !Search(level.page, isLeaf ? 0 : 1, name, common, level.index, exact)) {
             return false;
         }
         if (isLeaf) {
@@ -421,7 +453,8 @@ Lookup LmdbTree::Get(std::string_view name, Locality locality, std::string_view&
         }
         if (first.name <= name && name <= last.name) {
             isHere = true;
-            if (!Search(leaf.page, 0, name, leaf.index, exact)) {
+            Common common;
+            if (!Search(leaf.page, 0, name, common, leaf.index, exact)) {
                 return Lookup::Failed;
             }
         }

@@ -112,13 +112,21 @@ class LmdbTree
         std::string_view end;
     };
 
+    // How many bytes the nearest known names on either side of a place share with the name that is looked for.
+    struct Common
+    {
+        std::size_t below = 0;
+        std::size_t above = 0;
+    };
+
     bool Damaged(std::string cause);
     bool DamagedPage(std::uint64_t number, std::string_view cause);
     const char* Locate(std::uint64_t number, std::uint64_t count);
     bool Load(std::uint64_t number, std::uint16_t kind, Page& page);
     bool ReadNode(const Page& page, std::size_t index, Node& node);
     bool ReadRecord(const Page& page, const Node& node, std::string_view& record, std::uint64_t* overflow = nullptr);
-    bool Search(const Page& page, std::size_t from, std::string_view name, std::size_t& index, bool& exact);
+    bool Search(const Page& page, std::size_t from, std::string_view name, Common& common, std::size_t& index,
+                bool& exact);
     bool Descend(std::string_view name, bool& exact);
     bool DescendToEdge(std::size_t level, bool toLast);
     bool BoundsOf(std::size_t level, Bounds& bounds);
