@@ -1,9 +1,17 @@
-// Rules that card readers and card return modules have in common.
+// Rules that devices which retain cards have in common.
 #pragma once
 
 #include "core/RegInfo.h"
 
 namespace wqspcfg {
+
+namespace meaning {
+
+inline constexpr wchar_t kRetainBinHighOfMaxRetainCard[] =
+    L"retain count at which the retain bin is nearly full; missing, 0 or not below MaxRetainCard: three quarters of "
+    L"MaxRetainCard";
+
+} // namespace meaning
 
 // The retain count at which a bin is nearly full: what is configured, or three quarters of the bin's capacity where
 // that is missing, 0 or not below the capacity.

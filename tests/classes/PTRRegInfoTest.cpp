@@ -53,6 +53,8 @@ TEST_F(PTRRegInfoTest, ASeparatorIsTheFirstCharacterOfItsText)
     EXPECT_EQ(config.m_chReadFormFieldDivCharLeft, L'[');
     EXPECT_EQ(config.m_chReadFormFieldDivCharRight, L'\0');
     EXPECT_NE(Line(L"ReadFormFieldDivCharLeft").find(L"ReadFormFieldDivCharLeft : [["), std::wstring::npos);
+    // None prints as nothing: a NUL would cut the line short and make the log file binary.
+    EXPECT_NE(Line(L"ReadFormFieldDivCharRight").find(L"ReadFormFieldDivCharRight : [sep"), std::wstring::npos);
 }
 
 TEST_F(PTRRegInfoTest, SwitchesAreHeldAsTruthAndLoggedAsRead)

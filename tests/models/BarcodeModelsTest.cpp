@@ -3,6 +3,7 @@
 #include "models/bcr/SpBCRMotoScannerRegInfo.h"
 #include "models/bcr/SpBCRNewLandRegInfo.h"
 #include "models/bcr/SpBCRPrdScannerRegInfo.h"
+#include "models/idc/SpIDCMotoScannerRegInfo.h"
 #include "support/ConfigTest.h"
 
 namespace {
@@ -33,11 +34,13 @@ class BarcodeModelsTest : public ConfigTest
     }
 };
 
-TEST_F(BarcodeModelsTest, BothMotoScannersLoadTheSameAndSaveNothing)
+TEST_F(BarcodeModelsTest, TheMotoScannersLoadTheSameAndSaveNothing)
 {
     CheckMoto<CSpBCRMotoRegInfo>();
     CheckMoto<CSpBCRMotoScannerRegInfo>();
+    CheckMoto<CSpIDCMotoScannerRegInfo>();
     EXPECT_EQ(&CBCRRegInfo::Settings(), &CSpBCRMotoScannerRegInfo::Settings().base());
+    EXPECT_EQ(&CBCRRegInfo::Settings(), &CSpIDCMotoScannerRegInfo::Settings().base());
     EXPECT_EQ(&CBCRRegInfo::Settings(), &CSpBCRMotoRegInfo::Settings().base());
 }
 

@@ -1,5 +1,6 @@
 #include "models/cam/SpCAMEm27585RegInfo.h"
 #include "models/cam/SpCAMPrdMNCCameraRegInfo.h"
+#include "models/cam/SpCAMPrdYGBRegInfo.h"
 #include "models/cam/SpCAMWQTJWI300RegInfo.h"
 
 #include "support/ConfigTest.h"
@@ -46,11 +47,15 @@ TEST_F(CameraModelsTest, EveryCameraPositionHasItsOwnValues)
 {
     Set(Device(L"PosIDMap"), L"Cam_2", L"usb2");
     Set(Device(L"Pics"), L"CurPicCntOfCam3", 8);
+    Set(Device(L"Control"), L"CurPicIndex", 9);
+    Set(Device(L"Control"), L"dwAvailCamCount", 3);
     CSpCAMEm27585RegInfo grabber(L"Svc", false);
     grabber.Load(nullptr);
     EXPECT_EQ(grabber.m_strCam[0], L"**NoDevice**");
     EXPECT_EQ(grabber.m_strCam[2], L"usb2");
     EXPECT_EQ(grabber.m_dwCurPicCntOfCam[3], 8U);
+    EXPECT_EQ(grabber.m_dwCurPicIndex, 9U); // of all cameras together
+    EXPECT_EQ(grabber.m_dwAvailCamCount, 3U);
 
     Set(Device(L"CAPABILITIES\\PERSON"), L"WFS_CAM_AVAILABLE", 1);
     Set(Device(), L"DN.CAM_MNC.EXTRA", L"dev");
@@ -65,6 +70,17 @@ TEST_F(CameraModelsTest, EveryCameraPositionHasItsOwnValues)
     EXPECT_EQ(Number(Device(L"CAPABILITIES\\EXITSLOT"), L"PictureNumber"), 6U);
     EXPECT_EQ(Text(Device(), L"DN.CAM_MNC.EXTRA"), L"dev");
     EXPECT_EQ(mnc.m_strPreTextFontName, L"\u5fae\u8f6f\u96c5\u9ed1");
+}
+
+TEST_F(CameraModelsTest, ASignaturePadHasWhatItWritesBelowTheSignaturesKey)
+{
+    CSpCAMPrdYGBRegInfo config(L"Svc", false);
+    config.m_strSignPicPath = L"D:\\sign.png";
+    config.m_dwPosX = 4; // of the tip text, not of the preview window
+    config.Save();
+    EXPECT_EQ(Text(Device(L"SignAttribute"), L"SignPicPath"), L"D:\\sign.png");
+    EXPECT_EQ(Number(Device(L"SignAttribute"), L"PosX"), 4U);
+    EXPECT_EQ(Number(Device(L"Camera"), L"PosX"), DWORD{0});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "models/crd/SpCRDACTF55540RegInfo.h"
 #include "models/crd/SpCRDKoreaTLD1000RegInfo.h"
 #include "models/crd/SpCRDTD2001GetRegInfo.h"
+#include "models/crd/SpCRDWQTKoreaTLD1000RegInfo.h"
 #include "models/crd/SpCRDWQTSankyo3A7230RegInfo.h"
 #include "models/crd/SpCRDWQTYRM3800RegInfo.h"
 #include "support/ConfigTest.h"
@@ -60,6 +61,22 @@ TEST_F(CardDispenserModelsTest, TheBluetoothDispenserCanBePairedWithoutConfigura
     EXPECT_EQ(config.m_dwIdleRefreshStatusOption, 1U);
     EXPECT_TRUE(config.m_bRemoveDispenseCardUnit);
     EXPECT_EQ(config.m_dwMaxCount, 20U);
+}
+
+TEST_F(CardDispenserModelsTest, BothTLD1000KeepTheirNearlyFullCountBelowTheCapacity)
+{
+    Set(Device(L"RetainCardSet"), L"MaxRetainCard", 8);
+    CSpCRDKoreaTLD1000RegInfo reader(L"Svc", false);
+    CSpCRDWQTKoreaTLD1000RegInfo dispenser(L"Svc", false);
+    for (const DWORD stored : {0U, 6U, 7U, 8U}) { // 0: nothing stored yet
+        if (stored != 0) {
+            Set(Device(L"RetainCardSet"), L"RetainBinHigh", stored);
+        }
+        reader.Load(nullptr);
+        dispenser.Load(nullptr);
+        EXPECT_EQ(dispenser.m_dwRetainBinHigh, stored == 7 ? 7U : 6U) << stored;
+        EXPECT_EQ(dispenser.m_dwRetainBinHigh, reader.m_dwRetainBinHigh) << stored;
+    }
 }
 
 TEST_F(CardDispenserModelsTest, OneLineOfTheSankyoHasItsTagLeftOpen)

@@ -2,7 +2,6 @@
 #include "core/settings/Settings.h"
 #include "models/idc/SpIDCDCT10NRegInfo.h"
 #include "models/idc/SpIDCMT4DPR312RegInfo.h"
-#include "models/idc/SpIDCMotoScannerRegInfo.h"
 #include "models/idc/SpIDCPrdFPCNormalRegInfo.h"
 #include "models/idc/SpIDCTTD2001RegInfo.h"
 #include "models/idc/SpRCMDlpRegInfo.h"
@@ -73,16 +72,6 @@ TEST_F(CardReadersTest, TheirOwnSpellingsAndKeys)
     CSpRCMDlpRegInfo dlp(L"Svc", false);
     dlp.Load(nullptr);
     EXPECT_EQ(dlp.m_dwReconnectCount, 9U);
-}
-
-TEST_F(CardReadersTest, TheMotoScannerHasOnlyWhatEveryBarcodeReaderHas)
-{
-    CSpIDCMotoScannerRegInfo config(L"Svc", false);
-    ASSERT_TRUE(config.Load(&m_log));
-    EXPECT_TRUE(Line(L"ActionOnFull").empty());
-    ClearRecord();
-    config.Save();
-    EXPECT_EQ(Writes(), Texts{Device(L"Policy") + L"|IsDeleteSensetiveInfo"});
 }
 
 TEST_F(CardReadersTest, AFingerprintCollectorIsLoadedAfterTheCardReaderAndBeforeItsModel)

@@ -1,8 +1,10 @@
+#include "models/idc/SpIDCPrdIDFMotorRegInfo.h"
 #include "models/ptr/SpJOURNALPTREXERegInfo.h"
 #include "models/ptr/SpPTRBrotherHL5595DNRegInfo.h"
 #include "models/ptr/SpPTRJT58RegInfo.h"
 #include "models/ptr/SpPTRMP512RegInfo.h"
 #include "models/ptr/SpPTRPrdFPCNormalRegInfo.h"
+#include "models/ptr/SpPTRPrdIDFMotorRegInfo.h"
 #include "models/ptr/SpPTRPrdRPRRegInfo.h"
 #include "models/ptr/SpPTRRID100RegInfo.h"
 #include "models/ptr/SpPTRRSV100RegInfo.h"
@@ -237,6 +239,18 @@ TEST_F(PTRModelsTest, APagePrinterSharesASettingWithItsClassBase)
     const CPTRRegInfo& base = config;
     EXPECT_EQ(base.m_dwCheckInputParam, 3U);
     EXPECT_EQ(&base.m_dwCheckInputParam, &config.m_dwCheckInputParam);
+}
+
+// One device, served as a card reader or as a printer: what it does by itself does not hang on which.
+TEST_F(PTRModelsTest, TheIdentityCardReaderEjectsByTheSameDefaultsInBothClasses)
+{
+    CSpIDCPrdIDFMotorRegInfo reader(L"Svc", false);
+    CSpPTRPrdIDFMotorRegInfo printer(L"Svc", false);
+    ASSERT_TRUE(reader.Load(nullptr));
+    ASSERT_TRUE(printer.Load(nullptr));
+    EXPECT_EQ(printer.m_bIsEjectAfterScan, reader.m_bIsEjectAfterScan);
+    EXPECT_EQ(printer.m_dwEjectAfterScanTime, reader.m_dwEjectAfterScanTime);
+    EXPECT_EQ(printer.m_dwOpenAction, reader.m_dwOpenAction);
 }
 
 // ---- fingerprint collectors ----

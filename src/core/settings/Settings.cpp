@@ -91,6 +91,12 @@ void SetMember(const Setting& row, CRegKeyEx& object, unsigned turn, const Value
     }
 }
 
+// A character as text; none (NUL) is an empty text, in the registry and in a line, which it would cut short.
+CString TextOf(wchar_t character)
+{
+    return character != 0 ? CString(character) : CString();
+}
+
 DWORD DefaultNumber(const Setting& row, unsigned turn)
 {
     return row.perTurn ? row.perTurn[turn] : row.fallback.number;
@@ -248,7 +254,7 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
     }
     CString text(row.fallback.text);
     if (row.bound && (row.keep || given)) {
-        text = row.type == Type::Char ? CString(std::wstring(1, MemberOf<wchar_t>(row, m_object, index)).c_str())
+        text = row.type == Type::Char ? TextOf(MemberOf<wchar_t>(row, m_object, index))
                                       : MemberOf<CString>(row, m_object, index);
     }
     if (!given) {
@@ -266,7 +272,7 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
             MemberOf<wchar_t>(row, m_object, index) = first;
         }
         if (row.logged && m_log != nullptr) {
-            PrintRow(row, turn, first);
+            PrintRow(row, turn, TextOf(first));
         }
         return;
     }
@@ -402,7 +408,7 @@ void Loading::PrintHeld(const Setting& row)
         Print(row, MemberOf<CString>(row, m_object, 0));
         break;
     case Type::Char:
-        Print(row, CString(MemberOf<wchar_t>(row, m_object, 0)));
+        Print(row, TextOf(MemberOf<wchar_t>(row, m_object, 0)));
         break;
     case Type::None:
         break;
@@ -493,7 +499,7 @@ void Saving::WriteRow(const Setting& row, const wchar_t* turnName, unsigned turn
         Put(key, name, MemberOf<CString>(row, m_object, index));
         break;
     case Type::Char:
-        Put(key, name, CString(std::wstring(1, MemberOf<wchar_t>(row, m_object, index)).c_str())); // NUL: empty
+        Put(key, name, TextOf(MemberOf<wchar_t>(row, m_object, index)));
         break;
     case Type::None:
         break;

@@ -19,7 +19,7 @@ constexpr Setting kSettings[] = {
     {key::Control,      L"FontSize",           &C::m_dwFontSize,           20,              L"size of the text printed on the picture", Saved},
     {key::Control,      L"MaxPictures",        &C::m_dwMaxPictures,        1000,            L"maximum number of pictures kept in the folder", Saved},
     {key::Capabilities, L"MaxDataLength",      &C::m_dwMaxDataLength,      64,              L"longest text that can be printed on a picture, in characters", Saved},
-    {key::Capabilities, L"HighCamRotateAngle", &C::m_dwHighCamRotateAngle, 0,               L"rotation of the document camera, in degrees", Saved, OneOf<0, 90, 180, 270>},
+    {key::Capabilities, L"HighCamRotateAngle", &C::m_dwHighCamRotateAngle, 0,               L"rotation of the document camera, in degrees", Saved},
     {key::Capabilities, L"HighCamResolution",  &C::m_dwHighCamResolution,  0,               L"resolution of the document camera", Saved},
 };
 // clang-format on

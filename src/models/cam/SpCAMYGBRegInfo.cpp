@@ -23,7 +23,7 @@ constexpr Setting kSettings[] = {
     {kTip,         L"PosX",            &C::m_dwPosX,           10,              L"X position of the tip text", Saved},
     {kTip,         L"PosY",            &C::m_dwPosY,           10,              L"Y position of the tip text", Saved},
     {kTip,         L"FontName",        &C::m_strFontName,      L"Arial",        L"font of the tip text", Saved},
-    {kTip,         L"FontSize",        &C::m_dwFontSize,       20,              L"size of the text printed on the picture", Saved},
+    {kTip,         L"FontSize",        &C::m_dwFontSize,       20,              L"size of the tip text", Saved},
     {kTip,         L"TextColor",       &C::m_dwTextColor,      0,               L"colour of the tip text, as an RGB number", Saved},
     {key::Control, L"DevType",         &C::m_dwDevType,        0,               L"device type", Saved},
     {key::Control, L"BGTextData",      &C::m_strBGTextData,    L"",             L"text in the background of the signature", Saved},

@@ -1,5 +1,6 @@
 #include "models/crd/SpCRDKoreaTLD1000RegInfo.h"
 
+#include "classes/CardRetention.h"
 #include "core/settings/Meanings.h"
 #include "core/settings/Settings.h"
 
@@ -18,7 +19,7 @@ constexpr Setting kSettings[] = {
     {key::Control,   L"PowerOffOption",        &C::m_dwPowerOffOption,        0,    meaning::kPowerOffOption, OneOf<0, 1, 2>},
     {key::Control,   L"PowerOnOption",         &C::m_dwPowerOnOption,         1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
     {kRetainCardSet, L"MaxRetainCard",         &C::m_dwMaxRetainCard,         20,   meaning::crd::kMaxRetainCard, Saved, Preloaded},
-    {kRetainCardSet, L"RetainBinHigh",         &C::m_dwRetainBinHigh,         15,   meaning::crd::kRetainBinHigh, Saved, Preloaded},
+    {kRetainCardSet, L"RetainBinHigh",         &C::m_dwRetainBinHigh,         15,   meaning::kRetainBinHighOfMaxRetainCard, Saved, Preloaded},
     {key::Control,   L"SkimOfInsertCard",      &C::m_dwSkimOfInsertCard,      0,    meaning::crd::kSkimOfInsertCard, Saved},
     {key::Control,   L"ZEntryOfInsertCard",    &C::m_dwZEntryOfInsertCard,    0,    meaning::crd::kZEntryOfInsertCard, Saved},
     {key::Control,   L"CheckModeOfInsertCard", &C::m_dwCheckModeOfInsertCard, 0,    meaning::crd::kCheckModeOfInsertCard, Saved},

@@ -1,5 +1,6 @@
 #include "models/crd/SpCRDWQTKoreaTLD1000RegInfo.h"
 
+#include "classes/CardRetention.h"
 #include "core/settings/Meanings.h"
 #include "core/settings/Settings.h"
 
@@ -19,7 +20,7 @@ constexpr Setting kSettings[] = {
     {key::Control,   L"PowerOnOption",         &C::m_dwPowerOnOption,         1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
     {key::Control,   L"SupplyThreshold",       &C::m_dwSupplyThreshold,       5,    L"threshold of the supply bin, in cards", Saved},
     {kRetainCardSet, L"MaxRetainCard",         &C::m_dwMaxRetainCard,         20,   meaning::crd::kMaxRetainCard, Saved},
-    {kRetainCardSet, L"RetainBinHigh",         &C::m_dwRetainBinHigh,         15,   meaning::crd::kRetainBinHigh, Saved},
+    {kRetainCardSet, L"RetainBinHigh",         &C::m_dwRetainBinHigh,         15,   meaning::kRetainBinHighOfMaxRetainCard, Saved, Correct([](C& c, DWORD dwHigh, bool bFound) { return RetainBinHigh(dwHigh, bFound, c.m_dwMaxRetainCard); })},
     {key::Control,   L"SkimOfInsertCard",      &C::m_dwSkimOfInsertCard,      0,    meaning::crd::kSkimOfInsertCard, Saved},
     {key::Control,   L"ZEntryOfInsertCard",    &C::m_dwZEntryOfInsertCard,    0,    meaning::crd::kZEntryOfInsertCard, Saved},
     {key::Control,   L"CheckModeOfInsertCard", &C::m_dwCheckModeOfInsertCard, 0,    meaning::crd::kCheckModeOfInsertCard, Saved},

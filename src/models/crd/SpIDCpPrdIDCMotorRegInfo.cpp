@@ -12,8 +12,8 @@ constexpr Key kTransport = key::Below(L"TansPort");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Device,  L"DN.IDC_MOTOR",                       &C::m_strDN_IDC_MOTOR,                      L"", L"the vendor's device name of the card reader", Saved},
-    {key::Device,  L"DN.CRD_MOTOR",                       &C::m_strDN_CRD_MOTOR,                      L"", L"the vendor's device name of the card dispenser", Saved},
+    {key::Device,  L"DN.IDC_MOTOR",                       &C::m_strDN_IDC_MOTOR,                      L"", L"name of the device driver module of the motorised card reader", Saved},
+    {key::Device,  L"DN.CRD_MOTOR",                       &C::m_strDN_CRD_MOTOR,                      L"", L"name of the device driver module of the card dispenser", Saved},
     {key::Control, L"Adaptor",                            &C::m_dwAdaptor,                            0,   L"adaptor of the device", Saved},
     {key::Control, L"PowerOnOption",                      &C::m_dwPowerOnOption,                      1,   meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
     {key::Control, L"PowerOffOption",                     &C::m_dwPowerOffOption,                     0,   meaning::kPowerOffOption, OneOf<0, 1, 2>},

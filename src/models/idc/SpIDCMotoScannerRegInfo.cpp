@@ -6,12 +6,12 @@ using namespace wqspcfg;
 
 const Table& CSpIDCMotoScannerRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSpIDCMotoScannerRegInfo", &CBCRRegInfo::Settings, nullptr, {}};
+    static const Table kTable{L"CSpIDCMotoScannerRegInfo", &CBCRRegInfo::Settings, nullptr, Rows()};
     return kTable;
 }
 
 CSpIDCMotoScannerRegInfo::CSpIDCMotoScannerRegInfo(const CString& strName, bool bPhysicalName)
-    : CBCRRegInfo(strName, bPhysicalName)
+    : MotoScanner(strName, bPhysicalName)
 {}
 
 WQSPCFG_CATALOGUE_ENTRY(CSpIDCMotoScannerRegInfo)

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "classes/BCRRegInfo.h"
+#include "classes/MotoScanner.h"
 
-// The Moto barcode scanner where it is served as a card reader. It has the settings of every barcode reader and none of
-// its own: Load and Save are those of its base.
-class WQSPCFG_API CSpIDCMotoScannerRegInfo : public CBCRRegInfo
+// The Moto scanner where it is served as a card reader. It is configured as a barcode reader: it has none of the
+// settings that card readers share.
+class WQSPCFG_API CSpIDCMotoScannerRegInfo : public wqspcfg::MotoScanner
 {
   public:
     CSpIDCMotoScannerRegInfo(const CString& strName, bool bPhysicalName);
