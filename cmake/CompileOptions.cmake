@@ -15,7 +15,7 @@ function(wqspcfg_compile_options target)
                 -ffunction-sections -fdata-sections "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
     if(WIN32)
         # As above, of short wide strings.
-        target_compile_options(${target} PRIVATE -Wno-array-bounds)
+        target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overread)
         target_compile_definitions(${target} PRIVATE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
     elseif(NOT WQSPCFG_SANITIZE)
         # Not _FORTIFY_SOURCE: GCC 12 takes moves of short wide strings for overflows.
@@ -52,7 +52,7 @@ if(WQSPCFG_SANITIZE)
     add_link_options(-fsanitize=${WQSPCFG_SANITIZE})
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         # The instrumentation hides initialisations from these.
-        add_compile_options(-Wno-maybe-uninitialized -Wno-stringop-overflow -Wno-array-bounds)
+        add_compile_options(-Wno-maybe-uninitialized -Wno-stringop-overflow -Wno-array-bounds -Wno-stringop-overread)
         if(WQSPCFG_SANITIZE MATCHES "thread")
             # It does not model fences; the one that there is orders reads of pages that other processes write.
             add_compile_options(-Wno-tsan)

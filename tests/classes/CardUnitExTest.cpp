@@ -8,7 +8,7 @@
 #include <utility>
 
 // Nothing but SetHopper releases a hopper's buffer: records that end with one leave it.
-extern "C" const char* __lsan_default_suppressions();
+extern "C" [[gnu::visibility("default"), gnu::used]] const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions()
 {
     return "leak:Duplicate<*Nobody\nleak:Duplicate<*)1>\n";
