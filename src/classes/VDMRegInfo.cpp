@@ -15,7 +15,9 @@ void CompletePath(C&, CString& strPath, bool)
         strPath = L"WQVDA.exe";
     }
     if (strPath.Find(L':') < 0) {
-        strPath = CUtility::GetModuleDir(strPath[0] != L'\\', ThisModule(), true) + strPath;
+        // Without its backslash cut here, the root of a drive would keep it before a path that begins with one.
+        const CString strDirectory = CUtility::GetModuleDir(1, ThisModule(), true);
+        strPath = strDirectory.Left(strDirectory.GetLength() - (strPath[0] == L'\\' ? 1 : 0)) + strPath;
     }
 }
 

@@ -28,7 +28,7 @@ long g_refCount = 0;
 // Guards the results that getters cache for the process: service providers call them from several threads.
 std::recursive_mutex& CacheMutex()
 {
-    static std::recursive_mutex mutex; // a path may need another path
+    static std::recursive_mutex mutex; // the name of the device key may need a cached path
     return mutex;
 }
 
@@ -403,12 +403,12 @@ DWORD CRegInfo::GetOnlyOpenReSetTimeout() const
 
 DWORD CRegInfo::GetReSetTimeout(const CString& strCommand, UINT nIndex) const
 {
-    CString strLower(strCommand);
-    strLower.MakeLower();
-    if (GetOnlyOpenReSetTimeout() != 0 && strLower.Find(L"open") < 0) {
+    CString strUpper(strCommand);
+    strUpper.MakeUpper(); // not lower: that is the locale's, and a Turkish one would not find "inf" in "INFO"
+    if (GetOnlyOpenReSetTimeout() != 0 && strUpper.Find(L"OPEN") < 0) {
         return 0;
     }
-    const bool bIndexed = strLower.Find(L"exe") >= 0 || strLower.Find(L"inf") >= 0;
+    const bool bIndexed = strUpper.Find(L"EXE") >= 0 || strUpper.Find(L"INF") >= 0;
     const CString strName(bIndexed ? wqspcfg::FormatString(L"%s%d", strCommand, nIndex) : strCommand.Std());
     DWORD dwTimeout = 0;
     QueryValue(dwTimeout, strName, L"%s%s\\ReSetTimeout", kDeviceRoot, GetExeDllMother(1, nullptr));

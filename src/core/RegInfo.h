@@ -16,9 +16,10 @@ struct Table;
 // while it runs, and calls Save where it changed a value that is persisted. The object lives as long as the provider.
 //
 // Objects are constructed, loaded and destroyed by one thread at a time; the static members are shared by all objects
-// of the process. Getters may be called by several threads once the object is loaded. Nothing throws. Failures of the
-// store are not results of Load or Save: a missing value takes its default, and wqspcfg::LastStoreError tells of a
-// store that could not be read or written (Load then also writes an error line).
+// of the process. Getters may be called by several threads once the object is loaded and its physical name known,
+// except GetPhysicalName with another service's name, which changes the object. Nothing throws. Failures of the store
+// are not results of Load or Save: a missing value takes its default, and wqspcfg::LastStoreError tells of a store that
+// could not be read or written (Load then also writes an error line).
 class WQSPCFG_API CRegInfo : public CRegKeyEx
 {
   public:

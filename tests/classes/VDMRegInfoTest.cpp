@@ -1,5 +1,6 @@
 #include "classes/VDMRegInfo.h"
 
+#include "platform/utility/Utility.h"
 #include "support/ConfigTest.h"
 
 namespace {
@@ -24,6 +25,9 @@ TEST_F(VDMRegInfoTest, APathWithoutADriveIsRelativeToTheLibrary)
     EXPECT_EQ(PathFrom(L"VDA.exe"), L"C:\\vexo\\sp\\bin\\VDA.exe");
     EXPECT_EQ(PathFrom(L"\\tools\\VDA.exe"), L"C:\\vexo\\sp\\bin\\tools\\VDA.exe");
     EXPECT_EQ(PathFrom(L""), L"C:\\vexo\\sp\\bin\\WQVDA.exe");
+    wqspcfg::OverrideModuleDir(L"D:\\");
+    EXPECT_EQ(PathFrom(L"\\tools\\VDA.exe"), L"D:\\tools\\VDA.exe");
+    EXPECT_EQ(PathFrom(L"VDA.exe"), L"D:\\VDA.exe");
 }
 
 TEST_F(VDMRegInfoTest, MissingValuesHaveTheirDefaultsAndNothingIsWritten)

@@ -78,6 +78,21 @@ TEST_F(RegKeyExTest, AWriteScopeIsOneCommitThatNestedScopesJoin)
     EXPECT_EQ(Number(Device(), L"A"), 1U);
 }
 
+TEST_F(RegKeyExTest, AWriteScopeFindsAKeyThatItMissedAndThenCreated)
+{
+    Set(Device(), L"A", 1);
+    const WriteScope scope;
+    CStringArray names;
+    CMap<CString, LPCWSTR, DWORD, DWORD> values;
+    EXPECT_EQ(CRegKeyEx::EnumSubKeyName(names, L"%s%s\\Units", kRoot, L"Dev"), 0);
+    EXPECT_EQ(CRegKeyEx::QueryValues(values, L"%s%s\\units\\ONE\\", kRoot, L"Dev"), 0);
+    Set(Device(L"Units\\One"), L"Count", 5);
+    EXPECT_NE(CRegKeyEx::EnumSubKeyName(names, L"%s%s\\Units", kRoot, L"Dev"), 0);
+    EXPECT_EQ(names.GetSize(), 1);
+    EXPECT_NE(CRegKeyEx::QueryValues(values, L"%s%s\\units\\ONE\\", kRoot, L"Dev"), 0);
+    EXPECT_EQ(values.GetCount(), 1);
+}
+
 TEST_F(RegKeyExTest, AReadScopeSeesOneStateAndWhatItsThreadWrites)
 {
     Set(Device(), L"A", 1);

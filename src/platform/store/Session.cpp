@@ -103,6 +103,7 @@ Session::Key Session::Open(std::wstring_view path)
     const Key key = m_keys.size();
     auto& opened = m_keys.emplace_back();
     opened.path = path;
+    opened.created = m_created;
     m_byPath.emplace(opened.path, key);
     if (m_transaction) {
         opened.exists = Checked(m_transaction->OpenKey(HiveOf(path), path, opened.id)) == Outcome::Found;
@@ -110,10 +111,19 @@ Session::Key Session::Open(std::wstring_view path)
     return key;
 }
 
+bool Session::Find(OpenedKey& opened)
+{
+    if (!opened.exists && opened.created != m_created && m_transaction) {
+        opened.created = m_created;
+        opened.exists = Checked(m_transaction->OpenKey(HiveOf(opened.path), opened.path, opened.id)) == Outcome::Found;
+    }
+    return opened.exists && m_transaction;
+}
+
 bool Session::Exists(Key key)
 {
-    const auto& opened = m_keys[key];
-    return opened.exists || std::any_of(m_overlay.begin(), m_overlay.end(), [&](const WrittenValue& written) {
+    auto& opened = m_keys[key];
+    return Find(opened) || std::any_of(m_overlay.begin(), m_overlay.end(), [&](const WrittenValue& written) {
                return CompareNoCase(written.path, opened.path) == 0;
            });
 }
@@ -137,8 +147,8 @@ Outcome Session::Query(Key key, std::wstring_view name, ValueView& value)
             return Outcome::Found;
         }
     }
-    const auto& opened = m_keys[key];
-    return opened.exists ? Checked(m_transaction->Query(opened.id, name, value)) : Outcome::Missing;
+    auto& opened = m_keys[key];
+    return Find(opened) ? Checked(m_transaction->Query(opened.id, name, value)) : Outcome::Missing;
 }
 
 Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueView& value)
@@ -160,14 +170,14 @@ Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueVi
 
 Outcome Session::EnumKeys(Key key, const KeyVisitor& visit)
 {
-    const auto& opened = m_keys[key];
-    return opened.exists ? Checked(m_transaction->EnumKeys(opened.id, visit)) : Outcome::Missing;
+    auto& opened = m_keys[key];
+    return Find(opened) ? Checked(m_transaction->EnumKeys(opened.id, visit)) : Outcome::Missing;
 }
 
 Outcome Session::EnumValues(Key key, const ValueVisitor& visit)
 {
-    const auto& opened = m_keys[key];
-    return opened.exists ? Checked(m_transaction->EnumValues(opened.id, visit)) : Outcome::Missing;
+    auto& opened = m_keys[key];
+    return Find(opened) ? Checked(m_transaction->EnumValues(opened.id, visit)) : Outcome::Missing;
 }
 
 Outcome Session::Set(Key key, std::wstring_view name, const ValueView& value)
@@ -182,6 +192,7 @@ Outcome Session::Set(Key key, std::wstring_view name, const ValueView& value)
             return created;
         }
         opened.exists = true;
+        ++m_created;
     }
     const auto outcome = Checked(m_transaction->SetValue(opened.id, name, value));
     if (outcome == Outcome::Found && m_recordWrites) {

@@ -63,6 +63,7 @@ class WQSPCFG_API Session
         std::wstring path;
         KeyId id = 0;
         bool exists = false;
+        std::size_t created = 0; // m_created when it was last looked for
     };
     struct WrittenValue
     {
@@ -74,6 +75,8 @@ class WQSPCFG_API Session
 
     Outcome Fail(const Error& error);
     Outcome Checked(Outcome outcome);
+    // Looks again for a missing key once another was created: that may be its subkey, or the same in another spelling.
+    bool Find(OpenedKey& opened);
     const WrittenValue* FindWritten(std::wstring_view path, std::wstring_view name) const;
 
     std::shared_ptr<Store> m_store;
@@ -85,6 +88,7 @@ class WQSPCFG_API Session
     std::vector<WrittenValue> m_written; // for the overlay of the read session around this write session
     Error m_failure;
     Access m_access;
+    std::size_t m_created = 0; // how many keys this session has created
     bool m_recordWrites = false;
     bool m_flush = false;
 };
