@@ -129,9 +129,11 @@ TEST_F(CRMRegInfoTest, MissingValuesTakeTheirOwnKindOfDefault)
     EXPECT_EQ(config.m_chAppBlackSymbol, L'*');
     Set(Device(L"CAPABILITIES"), L"AppBlackSymbol", L"?x");
     Set(Device(L"CAPABILITIES"), L"DevBlackSymbol", L"");
-    ASSERT_TRUE(config.Load(nullptr));
+    ASSERT_TRUE(config.Load(&m_log));
     EXPECT_EQ(config.m_chAppBlackSymbol, L'?');
     EXPECT_EQ(config.m_chDevBlackSymbol, L'\0');
+    EXPECT_EQ(LinesLike(L" AppBlackSymbol : ?["), 1U);
+    EXPECT_EQ(LinesLike(L" DevBlackSymbol : ["), 1U);
     config.Save();
     EXPECT_EQ(Text(Device(L"CAPABILITIES"), L"AppBlackSymbol"), L"?");
     EXPECT_EQ(Text(Device(L"CAPABILITIES"), L"DevBlackSymbol"), L"");

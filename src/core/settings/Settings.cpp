@@ -266,7 +266,8 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
             MemberOf<wchar_t>(row, m_object, index) = first;
         }
         if (row.logged && m_log != nullptr) {
-            PrintRow(row, turn, first);
+            // A NUL would make the log a binary file to the tools that search it.
+            PrintRow(row, turn, first != L'\0' ? FormatArg(first) : FormatArg(L""));
         }
         return;
     }
