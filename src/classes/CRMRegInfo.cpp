@@ -434,13 +434,26 @@ class NoteTypeKeys
     explicit NoteTypeKeys(const C& c)
         : m_path(FormatString(L"%s%s\\NoteType", kDeviceRoot, c.GetExeDllMother(1, nullptr)))
     {
-        Query(m_scope->Open(m_path), L"Count", m_count);
+        ValueView view;
+        const auto outcome = m_scope->QueryAt(m_path, L"Count", view);
+        m_failed = outcome == Outcome::Failed;
+        if (outcome == Outcome::Found) {
+            ToValue(view, m_count);
+        }
         m_path += L"\\NoteType";
     }
 
+    // The registry could not be asked, which says nothing about how many there are.
+    bool Failed() const noexcept { return m_failed; }
     DWORD Count() const noexcept { return m_count; }
     std::wstring Path(DWORD dwNumber) const { return m_path + std::to_wstring(dwNumber); }
     Session::Key Open(DWORD dwNumber) { return m_scope->Open(Path(dwNumber)); }
+
+    bool QueryNoteID(DWORD dwNumber, DWORD& dwNoteID)
+    {
+        ValueView view;
+        return m_scope->QueryAt(Path(dwNumber), L"NoteID", view) == Outcome::Found && ToValue(view, dwNoteID);
+    }
 
     template <class T>
     bool Query(Session::Key key, std::wstring_view name, T& value)
@@ -453,6 +466,7 @@ class NoteTypeKeys
     ReadScope m_scope;
     std::wstring m_path;
     DWORD m_count = 0;
+    bool m_failed = false;
 };
 
 bool ReadNoteType(NoteTypeKeys& keys, DWORD dwNumber, _wfs_cim_note_type& type)
@@ -525,9 +539,12 @@ LONG CCRMRegInfo::GetNoteIDArray(CArray<WORD, WORD>& ids) const
 {
     ids.RemoveAll();
     NoteTypeKeys keys(*this);
+    if (keys.Failed()) {
+        return WFS_ERR_INTERNAL_ERROR;
+    }
     for (DWORD i = 0; i < keys.Count(); ++i) {
         DWORD dwNoteID = 0;
-        if (!keys.Query(keys.Open(i + 1), L"NoteID", dwNoteID)) {
+        if (!keys.QueryNoteID(i + 1, dwNoteID)) {
             return WFS_ERR_INTERNAL_ERROR;
         }
         ids.Add(LOWORD(dwNoteID));
@@ -560,6 +577,9 @@ LONG CCRMRegInfo::GetBankNoteTypes(NoteTypes& types) const
 {
     NoteTypeKeys keys(*this);
     types.RemoveAll();
+    if (keys.Failed()) {
+        return WFS_ERR_INTERNAL_ERROR;
+    }
     for (DWORD i = 0; i < keys.Count(); ++i) {
         _wfs_cim_note_type type{};
         if (!ReadNoteType(keys, i + 1, type)) {
@@ -574,6 +594,9 @@ LONG CCRMRegInfo::ConfigureNoteTypes(const NoteTypes& types)
 {
     WriteScope scope;
     NoteTypeKeys keys(*this);
+    if (keys.Failed()) {
+        return WFS_ERR_INTERNAL_ERROR;
+    }
     if (keys.Count() == 0) {
         return WFS_ERR_UNSUPP_DATA;
     }
@@ -584,18 +607,19 @@ LONG CCRMRegInfo::ConfigureNoteTypes(const NoteTypes& types)
         configured.emplace(dwNoteID, bConfigured); // the first of an ID
     }
     for (DWORD i = 0; i < keys.Count(); ++i) {
-        const auto key = keys.Open(i + 1);
         DWORD dwNoteID = 0;
-        if (!keys.Query(key, L"NoteID", dwNoteID)) {
+        if (!keys.QueryNoteID(i + 1, dwNoteID)) {
             return WFS_ERR_INTERNAL_ERROR;
         }
         if (const auto found = configured.find(dwNoteID); found != configured.end()) {
             const DwordBytes bytes(static_cast<DWORD>(found->second));
-            scope->Set(key, L"Config", bytes.View());
+            scope->Set(keys.Open(i + 1), L"Config", bytes.View());
         }
     }
+    // The member is to hold what the registry does, also where that could not be written.
+    const bool bWritten = scope.Commit();
     GetBankNoteTypes(m_arNoteType);
-    return WFS_SUCCESS;
+    return bWritten ? WFS_SUCCESS : WFS_ERR_INTERNAL_ERROR;
 }
 
 bool CCRMRegInfo::NeedAddCashInCountAtCIM(int nOccasion) const

@@ -14,8 +14,9 @@
 //
 // The note types are in the subkeys NoteType1, NoteType2, ... of the device key's subkey NoteType, whose value Count
 // tells how many there are. The operations on them return 0, WFS_ERR_INTERNAL_ERROR where a note type lacks a value or
-// has a currency that is not exactly 3 characters, or WFS_ERR_UNSUPP_DATA; they log nothing. Each reads one consistent
-// state of the registry, afresh: only Load and ConfigureNoteTypes touch the member m_arNoteType.
+// has a currency that is not exactly 3 characters or where the registry fails, or WFS_ERR_UNSUPP_DATA; they log
+// nothing. Each reads one consistent state of the registry, afresh: only Load and ConfigureNoteTypes touch the member
+// m_arNoteType.
 class WQSPCFG_API CCRMRegInfo : public CRegInfo
 {
   public:
@@ -37,8 +38,8 @@ class WQSPCFG_API CCRMRegInfo : public CRegInfo
     // The note types in the order of the subkeys; on an error, those before it.
     LONG GetBankNoteTypes(NoteTypes& types) const;
     // Stores bConfigured of those note types whose ID the registry holds and reads m_arNoteType again. Of records with
-    // the same ID the first one counts. WFS_ERR_UNSUPP_DATA when there are no note types; on an internal error, the
-    // subkeys before it are written.
+    // the same ID the first one counts. WFS_ERR_UNSUPP_DATA when there are no note types; where a subkey lacks its ID,
+    // those before it are written.
     LONG ConfigureNoteTypes(const NoteTypes& types);
 
     // Whether a retract on that occasion, a bit of AddCashInCountAtCIMRetract or AddCashInCountAtCDMRetract, raises the

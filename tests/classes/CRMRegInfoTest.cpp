@@ -129,9 +129,11 @@ TEST_F(CRMRegInfoTest, MissingValuesTakeTheirOwnKindOfDefault)
     EXPECT_EQ(config.m_chAppBlackSymbol, L'*');
     Set(Device(L"CAPABILITIES"), L"AppBlackSymbol", L"?x");
     Set(Device(L"CAPABILITIES"), L"DevBlackSymbol", L"");
-    ASSERT_TRUE(config.Load(nullptr));
+    ASSERT_TRUE(config.Load(&m_log));
     EXPECT_EQ(config.m_chAppBlackSymbol, L'?');
     EXPECT_EQ(config.m_chDevBlackSymbol, L'\0');
+    EXPECT_EQ(LinesLike(L" AppBlackSymbol : ?["), 1U);
+    EXPECT_EQ(LinesLike(L" DevBlackSymbol : ["), 1U);
     config.Save();
     EXPECT_EQ(Text(Device(L"CAPABILITIES"), L"AppBlackSymbol"), L"?");
     EXPECT_EQ(Text(Device(L"CAPABILITIES"), L"DevBlackSymbol"), L"");
@@ -309,6 +311,50 @@ TEST_F(CRMRegInfoTest, ConfigureNoteTypesWritesTheFlagsOfKnownTypesAtOnce)
     add(21, FALSE);
     EXPECT_EQ(config.ConfigureNoteTypes(types), WFS_ERR_INTERNAL_ERROR);
     EXPECT_EQ(Number(Device(L"NoteType\\NoteType1"), L"Config"), 0U);
+}
+
+// What missing rights do.
+class RefusingStore final : public wqspcfg::Store
+{
+  public:
+    RefusingStore(std::shared_ptr<wqspcfg::Store> inner, bool refusesReads)
+        : m_inner(std::move(inner)), m_refusesReads(refusesReads)
+    {}
+
+    std::unique_ptr<wqspcfg::Transaction> Begin(wqspcfg::Access access, wqspcfg::Error& error) override
+    {
+        if (access == wqspcfg::Access::Read && !m_refusesReads) {
+            return m_inner->Begin(access, error);
+        }
+        error = {wqspcfg::ErrorKind::AccessDenied, Address() + ": refused"};
+        return nullptr;
+    }
+    const std::string& Address() const noexcept override { return m_inner->Address(); }
+
+  private:
+    std::shared_ptr<wqspcfg::Store> m_inner;
+    bool m_refusesReads;
+};
+
+TEST_F(CRMRegInfoTest, AFailingRegistryIsNotTakenForOneWithoutNoteTypes)
+{
+    SetCount(1);
+    SetNoteType(1, 21, L"CNY", 50, 0);
+    CCRMRegInfo config(L"Svc", false);
+    ASSERT_TRUE(config.Load(nullptr));
+    CCRMRegInfo::NoteTypes types = config.m_arNoteType;
+    types[0].bConfigured = TRUE;
+
+    wqspcfg::SetCurrentStore(std::make_shared<RefusingStore>(m_store, false));
+    EXPECT_EQ(config.ConfigureNoteTypes(types), WFS_ERR_INTERNAL_ERROR);
+    ASSERT_EQ(config.m_arNoteType.GetSize(), 1);
+    EXPECT_EQ(+config.m_arNoteType[0].bConfigured, FALSE); // as in the registry
+
+    wqspcfg::SetCurrentStore(std::make_shared<RefusingStore>(m_store, true));
+    CArray<WORD, WORD> ids;
+    EXPECT_EQ(config.GetNoteIDArray(ids), WFS_ERR_INTERNAL_ERROR);
+    EXPECT_EQ(config.GetBankNoteTypes(types), WFS_ERR_INTERNAL_ERROR);
+    EXPECT_EQ(config.ConfigureNoteTypes(config.m_arNoteType), WFS_ERR_INTERNAL_ERROR);
 }
 
 TEST_F(CRMRegInfoTest, HugeNoteTypeTablesAreNoHarm)
