@@ -272,12 +272,7 @@ void Loading::ReadRow(const Setting& row, const Turn* turn)
             MemberOf<wchar_t>(row, m_object, index) = first;
         }
         if (row.logged && m_log != nullptr) {
-<<<<<<< HEAD
             PrintRow(row, turn, TextOf(first));
-=======
-            // A NUL would make the log a binary file to the tools that search it.
-            PrintRow(row, turn, first != L'\0' ? FormatArg(first) : FormatArg(L""));
->>>>>>> refs/heads/a2
         }
         return;
     }
