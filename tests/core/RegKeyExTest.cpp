@@ -113,6 +113,29 @@ TEST_F(RegKeyExTest, AReadScopeSeesOneStateAndWhatItsThreadWrites)
     EXPECT_EQ(Number(Device(L"new"), L"b"), 5U);
 }
 
+TEST_F(RegKeyExTest, AnExceptionEndsAWriteScopeWithoutAWrite)
+{
+    try {
+        const WriteScope scope;
+        Set(Device(), L"Half", 1);
+        throw 1;
+    } catch (int) {
+    }
+    EXPECT_FALSE(Number(Device(), L"Half"));
+    EXPECT_TRUE(wqspcfg::LastStoreError());
+    wqspcfg::ClearStoreError();
+    Set(Device(), L"Whole", 2);
+    EXPECT_EQ(Number(Device(), L"Whole"), 2U);
+}
+
+TEST_F(RegKeyExTest, AFailedWriteCountsForTheReadScopeAroundIt)
+{
+    const ReadScope scope;
+    const CString name(std::wstring_view(L"a\0b", 3)); // no store can keep this name
+    EXPECT_EQ(CRegKeyEx::SetValue(1, name, L"%s%s", kRoot, L"Dev"), 0);
+    EXPECT_TRUE(scope->Failure());
+}
+
 TEST_F(RegKeyExTest, IllFormedTextIsRefusedAndTheScopeWritesNothing)
 {
     if (sizeof(wchar_t) == 2) {

@@ -3,8 +3,6 @@
 #include "core/RegistryRoots.h"
 #include "platform/store/RegistryValue.h"
 
-#include <cstring>
-
 namespace wqspcfg {
 
 namespace {
@@ -151,7 +149,7 @@ Loading::~Loading()
 {
     t_loading = m_outer;
     if (m_outer == nullptr && m_log != nullptr && m_scope->Failure()) {
-        m_log->Error(kLogCategory, L"<%s(%d) : %s> The configuration could not be read, defaults stand in : %s",
+        m_log->Error(kLogCategory, L"<%s(%d) : %s> The store failed while the configuration was loaded : %s",
                      L"core/settings/Settings.cpp", __LINE__, L"wqspcfg::Loading", m_scope->Failure().message);
     }
 }
@@ -352,25 +350,19 @@ void Loading::PrintRow(const Setting& row, const Turn* turn, const FormatArg& va
         label = name;
     }
     if (row.qualifiedLabel) {
-        std::wstring_view subkey(row.key.subkey);
+        std::wstring subkey = turn != nullptr ? ForTurn(row.key.subkey, turn->name, turn->number) : row.key.subkey;
         while (!subkey.empty() && subkey.back() == L'\\') {
-            subkey.remove_suffix(1);
+            subkey.pop_back();
         }
-        label = std::wstring(subkey) + L'\\' + label;
+        label = subkey + L'\\' + label;
     }
     m_text.clear();
     FormatTo(m_text, row.head != nullptr ? row.head : kHead, label.empty() ? name : label.c_str());
-    if (row.conversion != nullptr) {
-        const FormatArg args[] = {value};
-        FormatTo(m_text, row.conversion, std::span<const FormatArg>(args));
-    } else {
-        const FormatArg args[] = {value};
-        FormatTo(m_text,
-                 row.type == Type::String ? L"%s"
-                 : row.type == Type::Char ? L"%c"
-                                          : L"%d",
-                 std::span<const FormatArg>(args));
+    const wchar_t* conversion = row.conversion;
+    if (conversion == nullptr) {
+        conversion = row.type == Type::String ? L"%s" : row.type == Type::Char ? L"%c" : L"%d";
     }
+    FormatTo(m_text, conversion, std::span<const FormatArg>(&value, 1));
     if (row.described) {
         m_text += L'[';
         m_text += row.meaning;

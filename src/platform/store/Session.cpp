@@ -3,6 +3,8 @@
 #include "platform/text/CaseFold.h"
 
 #include <algorithm>
+#include <exception>
+#include <iterator>
 #include <mutex>
 
 namespace wqspcfg {
@@ -227,7 +229,7 @@ ReadScope::~ReadScope()
     }
 }
 
-WriteScope::WriteScope() : m_session(t_session), m_outer(t_session)
+WriteScope::WriteScope() : m_session(t_session), m_outer(t_session), m_exceptions(std::uncaught_exceptions())
 {
     if (!m_session || m_session->GetAccess() == Access::Read) {
         m_session = &m_own.emplace(Access::Write);
@@ -238,6 +240,9 @@ WriteScope::WriteScope() : m_session(t_session), m_outer(t_session)
 
 WriteScope::~WriteScope()
 {
+    if (std::uncaught_exceptions() > m_exceptions) {
+        m_session->Refuse({ErrorKind::Io, "the write was given up half-way"});
+    }
     Commit();
 }
 
@@ -254,9 +259,16 @@ bool WriteScope::Commit()
     if (!m_done) {
         m_done = true;
         t_session = m_outer;
-        if (!m_own->Failure() && m_own->Commit(m_own->m_flush) == Outcome::Found && m_outer) {
-            auto& written = m_own->m_written;
-            std::move(written.begin(), written.end(), std::back_inserter(m_outer->m_overlay));
+        if (!m_own->Failure()) {
+            m_own->Commit(m_own->m_flush);
+        }
+        if (m_outer) {
+            if (m_own->Failure()) {
+                m_outer->Fail(m_own->Failure());
+            } else {
+                auto& written = m_own->m_written;
+                std::move(written.begin(), written.end(), std::back_inserter(m_outer->m_overlay));
+            }
         }
     }
     return !m_own->Failure();

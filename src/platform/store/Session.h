@@ -111,7 +111,8 @@ class WQSPCFG_API ReadScope
 };
 
 // Everything that this thread writes while the scope lives becomes visible and durable together when the outermost
-// write scope ends; reads inside it see the writes. When any of the writes failed, none is kept.
+// write scope ends; reads inside it see the writes. When any of the writes failed, or an exception ends the scope, none
+// is kept. A failure counts for a read scope around it, too.
 class WQSPCFG_API WriteScope
 {
   public:
@@ -131,6 +132,7 @@ class WQSPCFG_API WriteScope
     std::optional<Session> m_own;
     Session* m_session;
     Session* m_outer;
+    int m_exceptions; // in flight when the scope began
     bool m_done = false;
 };
 
