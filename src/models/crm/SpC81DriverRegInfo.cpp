@@ -1,5 +1,6 @@
 #include "models/crm/SpC81DriverRegInfo.h"
 
+#include "classes/VtmShutter.h"
 #include "core/settings/Meanings.h"
 #include "core/settings/Settings.h"
 
@@ -18,15 +19,6 @@ constexpr Key kSlot = key::Below(L"Cassette\\Hopper\\%c");
 
 constexpr const wchar_t* kSlots[] = {L"A", L"B", L"C", L"D", L"E", L"F", L"R"};
 constexpr DWORD kTypes[] = {0x00040030, 0x00040030, 0x00040030, 0x40, 0xF0, 0xF0, 0};
-
-// An index out of range changes the control index instead; installed terminals rely on it.
-DWORD AcceptSafeDoorIndex(C& c, DWORD dwIndex)
-{
-    if (dwIndex >= 8) {
-        c.m_dwVtmOutShtCtrlIndex = 5;
-    }
-    return dwIndex;
-}
 
 // clang-format off
 constexpr Setting kSlotRows[] = {
@@ -52,9 +44,9 @@ constexpr Setting kSettings[] = {
     Repeat(kSlots, kSlotRows),
     {key::Capabilities, L"OutShutterType",                     &C::m_dwOutShutterType,                     0,   meaning::kOutShutterType, Saved},
     {key::Comm,         L"VtmOutShtPort",                      &C::m_dwVtmOutShtPort,                      3,   meaning::kVtmOutShtPort, Saved},
-    {key::Comm,         L"VtmOutShtCtrlIndex",                 &C::m_dwVtmOutShtCtrlIndex,                 2,   meaning::kVtmOutShtCtrlIndex, Saved, Range(0, 15), Correct([](C&, DWORD dwValue, bool) -> DWORD { return dwValue < 16 ? dwValue : 10; })},
-    {key::Comm,         L"VtmOutShtSafeDoorIndex",             &C::m_dwVtmOutShtSafeDoorIndex,             3,   meaning::kVtmOutShtSafeDoorIndex, Saved, Range(0, 7), Correct([](C& c, DWORD dwValue, bool) -> DWORD { return AcceptSafeDoorIndex(c, dwValue); })},
-    {key::Comm,         L"VtmOutShtStIndex",                   &C::m_dwVtmOutShtStIndex,                   2,   meaning::kVtmOutShtStIndex, Saved, Range(0, 7), Correct([](C&, DWORD dwValue, bool) -> DWORD { return dwValue < 8 ? dwValue : 4; })},
+    {key::Comm,         L"VtmOutShtCtrlIndex",                 &C::m_dwVtmOutShtCtrlIndex,                 2,   meaning::kVtmOutShtCtrlIndex, Saved, Range(0, 15), vtm::kControlIndex<C>},
+    {key::Comm,         L"VtmOutShtSafeDoorIndex",             &C::m_dwVtmOutShtSafeDoorIndex,             3,   meaning::kVtmOutShtSafeDoorIndex, Saved, Range(0, 7), vtm::kSafeDoorIndex<C>},
+    {key::Comm,         L"VtmOutShtStIndex",                   &C::m_dwVtmOutShtStIndex,                   2,   meaning::kVtmOutShtStIndex, Saved, Range(0, 7), vtm::kStatusIndex<C>},
     {key::Capabilities, L"InitType",                           &C::m_dwInitType,                           0,   meaning::kInitType, Saved, OneOf<0, 1, 2, 3, 4>},
     {kShutter,          L"WQVtmOutShtPort",                    &C::m_dwWQVtmOutShtPort,                    1,   meaning::kWQVtmOutShtPort, Saved},
     {kCassette,         L"UDCID",                              &C::m_dwUDCID,                              0,   L"UDCID of the mechanism", Saved},
