@@ -47,7 +47,8 @@ tagCardUnitEx& tagCardUnitEx::operator=(const tagCardUnitEx& other)
     char* const cardName = Duplicate<Owner::Record>(other.lpszCardName);
     char* const hopper = Duplicate<Owner::Nobody>(other.lpszHopper);
     delete[] lpszCardName;
-    static_cast<_wfs_crd_cardunit&>(*this) = other;
+    // The XFS part only: the rest follows.
+    static_cast<_wfs_crd_cardunit&>(*this) = other; // NOLINT(cppcoreguidelines-slicing)
     lpszCardName = cardName;
     ulMaxCount = other.ulMaxCount;
     ulMinCount = other.ulMinCount;
@@ -61,7 +62,8 @@ tagCardUnitEx& tagCardUnitEx::operator=(tagCardUnitEx&& other) noexcept
         return *this;
     }
     delete[] lpszCardName;
-    static_cast<_wfs_crd_cardunit&>(*this) = other;
+    // The XFS part only: the rest follows.
+    static_cast<_wfs_crd_cardunit&>(*this) = other; // NOLINT(cppcoreguidelines-slicing)
     ulMaxCount = other.ulMaxCount;
     ulMinCount = other.ulMinCount;
     lpszHopper = other.lpszHopper;

@@ -67,7 +67,7 @@ std::string DefaultText(const DescribedSetting& setting)
 // The key as a person would look for it: below the device key by its subkey, elsewhere by its root.
 std::string KeyText(const DescribedSetting& setting)
 {
-    const auto key = Utf8(setting.key);
+    auto key = Utf8(setting.key);
     switch (setting.root) {
     case Root::Device:
         return key.empty() ? "(device key)" : key;

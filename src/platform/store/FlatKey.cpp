@@ -39,7 +39,7 @@ struct AsciiUpper
     char operator[](wchar_t ch) const
     {
         const auto code = static_cast<std::make_unsigned_t<wchar_t>>(ch);
-        return code < table.size() ? table[code] : '\0';
+        return code < table.size() ? table[code] : '\0'; // NOLINT(bugprone-signed-char-misuse)
     }
 };
 

@@ -92,7 +92,7 @@ KeyReader::KeyReader(HKEY key, std::wstring_view subkey)
 #endif
 }
 
-KeyReader::~KeyReader()
+KeyReader::~KeyReader() // NOLINT(modernize-use-equals-default): on Windows there is something to close
 {
 #if defined(_WIN32)
     if (m_native != nullptr) {
@@ -158,7 +158,7 @@ KeyWriter::KeyWriter(HKEY key, std::wstring_view subkey)
     m_failed = true;
 }
 
-KeyWriter::~KeyWriter()
+KeyWriter::~KeyWriter() // NOLINT(modernize-use-equals-default): on Windows there is something to close
 {
 #if defined(_WIN32)
     if (m_native != nullptr) {

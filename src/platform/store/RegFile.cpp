@@ -18,6 +18,7 @@
 #include <memory>
 #include <ostream>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace wqspcfg {
@@ -128,7 +129,7 @@ class RegFileParser::Impl
             if (m_head.size() < 3) {
                 return true;
             }
-            const auto head = std::move(m_head);
+            const auto head = std::exchange(m_head, {});
             return Detect(head) && Decode(head) && ParseLines(false);
         }
         return Decode(bytes) && ParseLines(false);
@@ -137,7 +138,7 @@ class RegFileParser::Impl
     bool Finish()
     {
         if (m_encoding == Encoding::Unknown) {
-            const auto head = std::move(m_head);
+            const auto head = std::exchange(m_head, {});
             if (!Detect(head) || !Decode(head)) {
                 return false;
             }
