@@ -38,8 +38,8 @@ struct AsciiUpper
     }
     char operator[](wchar_t ch) const
     {
-        const auto code = static_cast<std::make_unsigned_t<wchar_t>>(ch);
-        return code < table.size() ? table[code] : '\0'; // NOLINT(bugprone-signed-char-misuse)
+        const auto code = static_cast<std::make_unsigned_t<wchar_t>>(ch); // NOLINT(bugprone-signed-char-misuse)
+        return code < table.size() ? table[code] : '\0';
     }
 };
 
