@@ -203,16 +203,17 @@ class CapabilityReader
 {
   public:
     CapabilityReader(const CString& strDevice, LPCWSTR lpszArray, CLog* pLog)
-        : m_strDevice(strDevice), m_lpszArray(lpszArray), m_log(pLog)
+        : m_path(FormatString(L"%s%s\\CAPABILITIES", kDeviceRoot, strDevice)), m_lpszArray(lpszArray), m_log(pLog)
     {}
 
     // False when the array is not configured: its gate is missing or 0.
     bool ReadGate(LPCWSTR lpszGate, LPCWSTR lpszLegend = nullptr)
     {
-        m_key = m_scope->Open(FormatString(L"%s%s\\CAPABILITIES", kDeviceRoot, m_strDevice));
         if (!IsSet(lpszGate)) {
             return false;
         }
+        m_path = m_path + L'\\' + m_lpszArray + L'\\';
+        m_arrayPath = m_path.size();
         if (lpszLegend != nullptr) {
             PrintHeader(lpszLegend);
         }
@@ -223,13 +224,13 @@ class CapabilityReader
     void OpenPort(LPCWSTR lpszPort)
     {
         m_lpszPort = lpszPort;
-        m_key =
-            m_scope->Open(FormatString(L"%s%s\\CAPABILITIES\\%s\\%s", kDeviceRoot, m_strDevice, m_lpszArray, lpszPort));
+        m_path.resize(m_arrayPath);
+        m_path += lpszPort;
     }
     bool IsPresent(LPCWSTR lpszValue)
     {
-        ValueView view;
-        return m_scope->Query(m_key, lpszValue, view) == Outcome::Found && ToValue(view, m_dwHolder);
+        ValueView view; // of most ports one value is asked
+        return m_scope->QueryAt(m_path, lpszValue, view) == Outcome::Found && ToValue(view, m_dwHolder);
     }
     bool IsSet(LPCWSTR lpszValue) { return IsPresent(lpszValue) && m_dwHolder != 0; }
     DWORD Holder() const noexcept { return m_dwHolder; }
@@ -247,11 +248,11 @@ class CapabilityReader
     }
 
     ReadScope m_scope;
-    const CString& m_strDevice;
+    std::wstring m_path;
+    std::size_t m_arrayPath = 0; // how much of m_path is the array's
     LPCWSTR m_lpszArray;
     LPCWSTR m_lpszPort = L"";
     CLog* m_log;
-    Session::Key m_key = 0;
     DWORD m_dwHolder = 0;
 };
 

@@ -100,10 +100,22 @@ class FlatTransaction final : public Transaction
         if (!AppendFolded(name, m_name)) {
             return RefuseName(name);
         }
-        return GetValue(m_name, prefix, Engine::kChecked ? NameSum({m_name.data(), prefix}) : 0, Locality::Far, value);
+        return GetValue(m_name, prefix, Engine::kChecked ? NameSum({m_name.data(), prefix}) : 0, Locality::Near, value);
     }
 
     bool HasPathQueries() const noexcept override { return true; }
+
+    Outcome NameKey(Hive hive, std::wstring_view path, KeyId& key) override
+    {
+        if (!m_engine.Usable()) {
+            return EngineFailed();
+        }
+        if (!m_path.Assign(hive, path)) {
+            return RefusePath(hive, path);
+        }
+        key = AddHandle(m_path.Whole());
+        return Outcome::Found;
+    }
 
     Outcome EnumKeys(KeyId key, const KeyVisitor& visit) override
     {

@@ -53,12 +53,27 @@ std::size_t Even(std::size_t size)
     return (size + 1) & ~std::size_t{1};
 }
 
-bool IsSealedRecord(std::string_view name, std::string_view record)
+// Checks the sums of records whose names come in order: most share what their sums begin with, the key's path.
+class SumChecker
 {
-    const auto mark = name.find('\0');
-    const auto prefix = mark == 0 || mark == std::string_view::npos ? name.size() : std::min(mark + 2, name.size());
-    return IsSealed(NameSum(name.substr(0, prefix)), name.substr(prefix), record);
-}
+  public:
+    bool IsSealed(std::string_view name, std::string_view record)
+    {
+        if (m_prefix.empty() || !name.starts_with(m_prefix)) {
+            const auto mark = name.find('\0');
+            if (mark == 0 || mark == std::string_view::npos) {
+                return wqspcfg::IsSealed(NameSum(name), {}, record); // no value or key
+            }
+            m_prefix = name.substr(0, mark + 2);
+            m_sum = NameSum(m_prefix);
+        }
+        return wqspcfg::IsSealed(m_sum, name.substr(m_prefix.size()), record);
+    }
+
+  private:
+    std::string_view m_prefix;
+    std::uint64_t m_sum = 0;
+};
 
 } // namespace
 
@@ -125,9 +140,7 @@ bool LmdbTree::Open(const LmdbMap& map, std::size_t size, std::uint64_t transact
     m_map = &map;
     m_size = std::min(size, map.Room());
     m_placed = false;
-    for (auto& level : m_levels) {
-        level.verified = 0;
-    }
+    m_verified.fill({});
     if (m_size < kPageHeader + sizeof m_meta) {
         return Damaged("it is cut short");
     }
@@ -349,8 +362,10 @@ bool LmdbTree::BoundsOf(std::size_t level, Bounds& bounds)
 
 bool LmdbTree::VerifyPage(const Page& page, bool isLeaf, const Bounds& bounds, bool checkSums)
 {
+    const std::size_t first = isLeaf ? 0 : 1; // a branch's first name does not count
     std::size_t used = 0;
     std::string_view previous;
+    SumChecker sums;
     for (std::size_t i = 0; i < page.count; ++i) {
         Node node;
         if (!ReadNode(page, i, node)) {
@@ -362,33 +377,40 @@ bool LmdbTree::VerifyPage(const Page& page, bool isLeaf, const Bounds& bounds, b
         }
         const auto dataSize = isLeaf ? (node.flags == 0 ? record.size() : sizeof(std::uint64_t)) : 0;
         used += Even(kNodeHeader + node.name.size() + dataSize);
-        if (isLeaf || i > 0) {
-            if ((i > (isLeaf ? 0U : 1U) && node.name <= previous) || node.name < bounds.first ||
-                (!bounds.end.empty() && node.name >= bounds.end)) {
+        if (i >= first) {
+            if (i > first ? node.name <= previous : node.name < bounds.first) {
                 return DamagedPage(page.number, "has names out of order");
             }
             previous = node.name;
         }
-        if (checkSums && isLeaf && !IsSealedRecord(node.name, record)) {
+        if (checkSums && isLeaf && !sums.IsSealed(node.name, record)) {
             return DamagedPage(page.number, "has a record whose check sum is wrong");
         }
+    }
+    if (!bounds.end.empty() && page.count > first && previous >= bounds.end) {
+        return DamagedPage(page.number, "has names out of order");
     }
     return used == m_pageSize - page.upper || DamagedPage(page.number, "has lost or gained nodes");
 }
 
-// The pages from the root to the current leaf. Each is looked through once while the reader stays on it.
+// The pages from the root to the current leaf. A page does not change while this state is read: it is looked through
+// once, as long as its place in the list of those that were is not taken by another.
 bool LmdbTree::VerifyPath()
 {
+    Verified path;
     for (std::size_t level = 0; level < m_depth; ++level) {
         const auto& page = m_levels[level].page;
-        if (m_levels[level].verified == page.number) {
-            continue;
+        path.number = page.number;
+        auto& known = m_verified[page.number % m_verified.size()];
+        if (known != path) {
+            Bounds bounds;
+            if (!BoundsOf(level, bounds) || !VerifyPage(page, level + 1 == m_depth, bounds, true)) {
+                return false;
+            }
+            known = path;
         }
-        Bounds bounds;
-        if (!BoundsOf(level, bounds) || !VerifyPage(page, level + 1 == m_depth, bounds, true)) {
-            return false;
-        }
-        m_levels[level].verified = page.number;
+        path.above = page.number;
+        path.index = m_levels[level].index;
     }
     return true;
 }

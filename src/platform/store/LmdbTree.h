@@ -90,7 +90,15 @@ class LmdbTree
     {
         Page page;
         std::size_t index = 0;
-        std::uint64_t verified = 0; // the page that was last found whole at this level
+    };
+
+    // A page that was found whole, with the place above that leads to it and gives it its bounds.
+    struct Verified
+    {
+        std::uint64_t number = 0;
+        std::uint64_t above = 0;
+        std::size_t index = 0;
+        bool operator==(const Verified&) const = default;
     };
 
     struct Node
@@ -147,7 +155,8 @@ class LmdbTree
     lmdb::Meta m_meta{};
     std::size_t m_depth = 0;
     std::array<Level, kMaxDepth> m_levels;
-    bool m_placed = false; // m_levels lead to a leaf
+    std::array<Verified, 64> m_verified; // by the low bits of the page's number
+    bool m_placed = false;               // m_levels lead to a leaf
     std::string m_cause;
 };
 

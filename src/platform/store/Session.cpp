@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <functional>
 #include <iterator>
 #include <mutex>
 
@@ -98,28 +99,33 @@ Outcome Session::Checked(Outcome outcome)
 
 Session::Key Session::Open(std::wstring_view path)
 {
-    const auto known = m_byPath.find(path);
+    const auto hash = std::hash<std::wstring_view>{}(path);
+    const auto known = m_byPath.find({hash, path});
     if (known != m_byPath.end()) {
         return known->second;
     }
     const Key key = m_keys.size();
     auto& opened = m_keys.emplace_back();
     opened.path = path;
-    opened.created = m_created;
-    m_byPath.emplace(opened.path, key);
-    if (m_transaction) {
-        opened.exists = Checked(m_transaction->OpenKey(HiveOf(path), path, opened.id)) == Outcome::Found;
-    }
+    m_byPath.emplace(PathHash{hash, opened.path}, key);
     return key;
 }
 
 bool Session::Find(OpenedKey& opened)
 {
-    if (!opened.exists && opened.created != m_created && m_transaction) {
-        opened.created = m_created;
-        opened.exists = Checked(m_transaction->OpenKey(HiveOf(opened.path), opened.path, opened.id)) == Outcome::Found;
+    if (!m_transaction) {
+        return false;
     }
-    return opened.exists && m_transaction;
+    if (opened.state == State::Present || (opened.state == State::Missing && opened.created == m_created)) {
+        return opened.state == State::Present;
+    }
+    if (opened.state == State::Named) {
+        m_transaction->CloseKey(opened.id);
+    }
+    const auto found = Checked(m_transaction->OpenKey(HiveOf(opened.path), opened.path, opened.id));
+    opened.state = found == Outcome::Found ? State::Present : State::Missing;
+    opened.created = m_created;
+    return found == Outcome::Found;
 }
 
 bool Session::Exists(Key key)
@@ -150,6 +156,20 @@ Outcome Session::Query(Key key, std::wstring_view name, ValueView& value)
         }
     }
     auto& opened = m_keys[key];
+    if (opened.state == State::New && m_transaction && m_transaction->HasPathQueries()) {
+        const auto named = Checked(m_transaction->NameKey(HiveOf(opened.path), opened.path, opened.id));
+        opened.state = named == Outcome::Found ? State::Named : State::Missing;
+        opened.created = m_created;
+    }
+    if (opened.state == State::Named) {
+        const auto outcome = Checked(m_transaction->Query(opened.id, name, value));
+        if (outcome == Outcome::Found) {
+            opened.state = State::Present;
+        } else if (outcome == Outcome::Missing) {
+            Find(opened); // a key that does not exist is not asked again
+        }
+        return outcome;
+    }
     return Find(opened) ? Checked(m_transaction->Query(opened.id, name, value)) : Outcome::Missing;
 }
 
@@ -188,12 +208,12 @@ Outcome Session::Set(Key key, std::wstring_view name, const ValueView& value)
         return Outcome::Failed;
     }
     auto& opened = m_keys[key];
-    if (!opened.exists) {
+    if (opened.state != State::Present) {
         const auto created = Checked(m_transaction->CreateKey(HiveOf(opened.path), opened.path, opened.id));
         if (created != Outcome::Found) {
             return created;
         }
-        opened.exists = true;
+        opened.state = State::Present;
         ++m_created;
     }
     const auto outcome = Checked(m_transaction->SetValue(opened.id, name, value));

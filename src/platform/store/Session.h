@@ -3,6 +3,7 @@
 
 #include "platform/store/Store.h"
 
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <optional>
@@ -29,7 +30,8 @@ WQSPCFG_API void ClearStoreError() noexcept;
 class WQSPCFG_API Session
 {
   public:
-    // A key of this session; it stays valid until the session ends, whether the key exists or not.
+    // A key of this session; it stays valid until the session ends, whether the key exists or not. The store is asked
+    // when the key is first used.
     using Key = std::size_t;
 
     explicit Session(Access access);
@@ -58,12 +60,29 @@ class WQSPCFG_API Session
   private:
     friend class ReadScope;
     friend class WriteScope;
+    enum class State : std::uint8_t
+    {
+        New,
+        Named, // by NameKey: it may exist
+        Missing,
+        Present,
+    };
     struct OpenedKey
     {
         std::wstring path;
         KeyId id = 0;
-        bool exists = false;
+        State state = State::New;
         std::size_t created = 0; // m_created when it was last looked for
+    };
+    struct PathHash // of a path whose hash is known
+    {
+        std::size_t hash;
+        std::wstring_view path;
+        bool operator==(const PathHash& other) const noexcept { return path == other.path; }
+    };
+    struct TakeHash
+    {
+        std::size_t operator()(const PathHash& path) const noexcept { return path.hash; }
     };
     struct WrittenValue
     {
@@ -75,14 +94,15 @@ class WQSPCFG_API Session
 
     Outcome Fail(const Error& error);
     Outcome Checked(Outcome outcome);
-    // Looks again for a missing key once another was created: that may be its subkey, or the same in another spelling.
+    // Whether the key exists. Looks again for a missing one once another was created: that may be its subkey, or the
+    // same in another spelling.
     bool Find(OpenedKey& opened);
     const WrittenValue* FindWritten(std::wstring_view path, std::wstring_view name) const;
 
     std::shared_ptr<Store> m_store;
     std::unique_ptr<Transaction> m_transaction;
     std::deque<OpenedKey> m_keys; // a deque: m_byPath holds views of the paths
-    std::unordered_map<std::wstring_view, Key> m_byPath;
+    std::unordered_map<PathHash, Key, TakeHash> m_byPath;
     // What this thread has committed while this read session was open: a Load sees what it wrote itself.
     std::vector<WrittenValue> m_overlay;
     std::vector<WrittenValue> m_written; // for the overlay of the read session around this write session

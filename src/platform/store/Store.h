@@ -87,6 +87,8 @@ class Transaction
         return opened == Outcome::Found ? Query(key, name, value) : opened;
     }
     virtual bool HasPathQueries() const noexcept { return false; }
+    // A key for Query alone, which may not exist: with HasPathQueries, without a look at the store.
+    virtual Outcome NameKey(Hive hive, std::wstring_view path, KeyId& key) { return OpenKey(hive, path, key); }
     // Direct subkeys in case-insensitive order of name. The visitor returns false to stop; it does not call this
     // transaction.
     virtual Outcome EnumKeys(KeyId key, const KeyVisitor& visit) = 0;
