@@ -184,7 +184,7 @@ constexpr auto SerialRows()
     (std::make_index_sequence<Fields.size()>());
     for (auto& row : rows) {
         const auto standsIn = [&](const wchar_t* name, const wchar_t* path) {
-            if (SameText(row.name, name)) {
+            if (row.name == name) {
                 row.constructed = row.fallback;
                 row.hasConstructed = true;
                 row.fallback = path;

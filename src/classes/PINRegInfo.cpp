@@ -138,7 +138,7 @@ void LoadMap(CMapStringToString& map, LPCWSTR lpszFormat, const CString& strDevi
         return;
     }
     for (const auto& row : defaults) {
-        map.SetAt(row.name, row.fallback.text);
+        map.SetAt(row.name.data(), row.fallback.text);
     }
 }
 

@@ -162,12 +162,10 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
     version(shared::kOldVersion, L"OldBuild");
     loading.Read(shared::kSetupRest);
 
-    const auto& policyRows = shared::kPolicy;
-    for (const auto* lpszName : shared::kPolicyLines) {
-        const auto& row = *wqspcfg::FindRow(policyRows, lpszName);
-        if (row.type == wqspcfg::Type::String) {
-            loading.Print(row, *policy.ErrorCodeKey);
-        } else if (wqspcfg::SameText(lpszName, L"DevError")) {
+    for (const auto* row : shared::kPolicyLines) {
+        if (row->type == wqspcfg::Type::String) {
+            loading.Print(*row, *policy.ErrorCodeKey);
+        } else if (row->name == L"DevError") {
             wqspcfg::LogInfo(pLog, L"[CFG] %40s : 0x%02x[%s]", L"LOBYTE(DevError)", LOBYTE(policy.DevError),
                              L"device states that are converted when the status is queried: 0x01 NODEVICE, 0x02 "
                              L"OFFLINE, 0x04 POWEROFF, 0x08 USERERROR, 0x10 HWERROR; 0x00 none");
@@ -175,12 +173,12 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
                              L"the state reported instead: 0x00 HWERROR, 0x01 NODEVICE, 0x02 OFFLINE, 0x04 POWEROFF, "
                              L"0x08 USERERROR");
         } else {
-            loading.PrintHeld(row);
+            loading.PrintHeld(*row);
         }
     }
     const CString strClass = GetClassNameW(nullptr);
     if (strClass.CompareNoCase(L"CDM") == 0 || strClass.CompareNoCase(L"CIM") == 0) {
-        loading.PrintHeld(*wqspcfg::FindRow(policyRows, L"Buff2OfCDMMediaDetectEvent"));
+        loading.PrintHeld(*shared::kMediaDetectLine);
     }
 
     loading.Print(shared::kFirstErrorInterval, m_dwFirstErrorIntervalTime / 60);
@@ -331,6 +329,11 @@ CString CRegInfo::GetExeFileTitle(int bDefault) const
 
 CString CRegInfo::GetExeDllMother(int bUseExeTitle, int* pbIsExe) const
 {
+    if (bUseExeTitle == 1 && pbIsExe == nullptr) {
+        if (const auto* known = wqspcfg::Loading::DeviceKeyNameOf(*this)) {
+            return *known; // a Load asks once
+        }
+    }
     int bIsExe = 1;
     CString strMother;
     if (QueryValue(strMother, L"ExeDllMother", L"%s%s", kServiceRoot, m_strPhysicalName) && !strMother.IsEmpty()) {

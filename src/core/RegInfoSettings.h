@@ -80,31 +80,33 @@ inline constexpr Setting kIsDeleteSensetiveInfo{key::Policy, L"IsDeleteSensetive
 // clang-format on
 
 // The lines' order, which is not that of reading.
-inline constexpr const wchar_t* kPolicyLines[] = {L"DevBusy",
-                                                  L"DevError",
-                                                  L"DevErrAction",
-                                                  L"ForceHwSwErrEvtID",
-                                                  L"CancelOnClose",
-                                                  L"DelayWaitLock",
-                                                  L"SPExit",
-                                                  L"ResetLoadCfg",
-                                                  L"HandleArriveError",
-                                                  L"CanCancelOpen",
-                                                  L"HandleSyseDeviceStatusChanges",
-                                                  L"ExecuteOnlyIfOnLine",
-                                                  L"DLIRawMode",
-                                                  L"ErrorCodeKey",
-                                                  L"ErrorCodeValueType",
-                                                  L"DmpMode",
-                                                  L"VDMCoordinator",
-                                                  L"BindCPU",
-                                                  L"SetTaskBarAutoHide",
-                                                  L"SetDeskIconHide",
-                                                  L"ResponseOnQueryEndSession",
-                                                  L"ForceRetrunBeforComplete",
-                                                  L"PostHWEventWhenResetFail",
-                                                  L"RaiseShutdownPriority",
-                                                  L"RecordDeferReqCount"};
+inline constexpr const wchar_t* kPolicyLineNames[] = {L"DevBusy",
+                                                      L"DevError",
+                                                      L"DevErrAction",
+                                                      L"ForceHwSwErrEvtID",
+                                                      L"CancelOnClose",
+                                                      L"DelayWaitLock",
+                                                      L"SPExit",
+                                                      L"ResetLoadCfg",
+                                                      L"HandleArriveError",
+                                                      L"CanCancelOpen",
+                                                      L"HandleSyseDeviceStatusChanges",
+                                                      L"ExecuteOnlyIfOnLine",
+                                                      L"DLIRawMode",
+                                                      L"ErrorCodeKey",
+                                                      L"ErrorCodeValueType",
+                                                      L"DmpMode",
+                                                      L"VDMCoordinator",
+                                                      L"BindCPU",
+                                                      L"SetTaskBarAutoHide",
+                                                      L"SetDeskIconHide",
+                                                      L"ResponseOnQueryEndSession",
+                                                      L"ForceRetrunBeforComplete",
+                                                      L"PostHWEventWhenResetFail",
+                                                      L"RaiseShutdownPriority",
+                                                      L"RecordDeferReqCount"};
+inline constexpr auto kPolicyLines = FindRows(kPolicy, kPolicyLineNames);
+inline constexpr const Setting* kMediaDetectLine = FindRow(kPolicy, L"Buff2OfCDMMediaDetectEvent");
 
 // Everything in one table, for the reference.
 inline constexpr auto kSettings = [] {

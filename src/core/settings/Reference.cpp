@@ -45,7 +45,7 @@ DescribedSetting Describe(const Setting& row, const Turn* turn, bool conditional
     while (described.key.ends_with(L'\\')) {
         described.key.pop_back();
     }
-    described.name = ForTurn(row.name, turn);
+    described.name = ForTurn(row.name.data(), turn);
     described.type = row.type;
     Value fallback = row.fallback;
     if (row.perTurn != nullptr && turn != nullptr) {

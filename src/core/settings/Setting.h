@@ -303,8 +303,8 @@ inline constexpr auto Element = [](typename OwnerOfMember<decltype(Array)>::type
 struct Setting
 {
     Key key{Root::Device, L""};
-    const wchar_t* name = L"";
-    const wchar_t* meaning = L"";
+    std::wstring_view name; // of a literal, as is the meaning
+    std::wstring_view meaning;
     Value fallback;
     Value constructed;
 
@@ -536,33 +536,38 @@ constexpr Setting Step(F)
 
 // ---- the order of saving, where it is not the table's ----
 
-constexpr bool SameText(const wchar_t* a, const wchar_t* b)
-{
-    while (*a != 0 && *a == *b) {
-        ++a;
-        ++b;
-    }
-    return *a == *b;
-}
-
-constexpr const Setting* FindRow(std::span<const Setting> rows, const wchar_t* name)
+constexpr const Setting* FindRow(std::span<const Setting> rows, std::wstring_view name)
 {
     for (const auto& row : rows) {
-        if (row.rows == nullptr && SameText(row.name, name)) {
+        if (row.rows == nullptr && row.name == name) {
             return &row;
         }
     }
     return nullptr;
 }
 
-constexpr const Setting* FindSaved(std::span<const Setting> rows, const wchar_t* name)
+// The rows of the given names, in the order of the names.
+template <std::size_t N>
+consteval std::array<const Setting*, N> FindRows(std::span<const Setting> rows, const wchar_t* const (&names)[N])
+{
+    std::array<const Setting*, N> found{};
+    for (std::size_t i = 0; i < N; ++i) {
+        found[i] = FindRow(rows, names[i]);
+        if (found[i] == nullptr) {
+            throw "no setting has this name";
+        }
+    }
+    return found;
+}
+
+constexpr const Setting* FindSaved(std::span<const Setting> rows, std::wstring_view name)
 {
     for (const auto& row : rows) {
         if (row.rows != nullptr) {
             if (const auto* found = FindSaved({row.rows, row.rowCount}, name)) {
                 return found;
             }
-        } else if (row.saved && SameText(row.name, name)) {
+        } else if (row.saved && row.name == name) {
             return &row;
         }
     }

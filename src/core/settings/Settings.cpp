@@ -130,13 +130,13 @@ Loading::Loading(CRegInfo& object, CLog* pLog)
     : m_object(object), m_log(pLog), m_outer(t_loading), m_serviceName(object.m_strPhysicalName),
       m_logicalName(object.m_strLogicalName)
 {
-    // A class's Load calls its base's: they have the device key's name in common.
-    if (m_outer != nullptr && &m_outer->m_object == &m_object) {
-        m_deviceKeyName = m_outer->m_deviceKeyName;
-    } else {
-        m_deviceKeyName = object.GetExeDllMother(1, nullptr);
-    }
+    m_deviceKeyName = object.GetExeDllMother(1, nullptr); // a class's Load calls its base's, which have it in common
     t_loading = this;
+}
+
+const CString* Loading::DeviceKeyNameOf(const CRegKeyEx& object) noexcept
+{
+    return t_loading != nullptr && &t_loading->m_object == &object ? &t_loading->m_deviceKeyName : nullptr;
 }
 
 Loading::Loading(CRegKeyEx& object, const CString& strDeviceKeyName, CLog* pLog)
@@ -304,14 +304,15 @@ Session::Key Loading::Open(Key key, const Turn* turn)
 template <class T>
 bool Loading::FindIn(const Setting& row, const Turn* turn, T& value)
 {
-    const auto ask = [&](Key key, const wchar_t* name) {
+    const auto ask = [&](Key key, std::wstring_view name) {
         const auto opened = Open(key, turn);
         ValueView view;
-        const auto outcome = turn != nullptr ? m_scope->Query(opened, ForTurn(name, turn->name, turn->number), view)
-                                             : m_scope->Query(opened, name, view);
+        const auto outcome = turn != nullptr
+                                 ? m_scope->Query(opened, ForTurn(name.data(), turn->name, turn->number), view)
+                                 : m_scope->Query(opened, name, view);
         return outcome == Outcome::Found && ToValue(view, value);
     };
-    if (ask(row.key, row.readName != nullptr ? row.readName : row.name)) {
+    if (ask(row.key, row.readName != nullptr ? std::wstring_view(row.readName) : row.name)) {
         return true;
     }
     return row.elseSubkey != nullptr && ask({row.elseRoot, row.elseSubkey}, row.name);
@@ -341,23 +342,28 @@ bool Loading::Query(Key key, const CString& strName, CString& value)
 
 void Loading::PrintRow(const Setting& row, const Turn* turn, const FormatArg& value)
 {
-    static constexpr wchar_t kHead[] = L"[CFG] %40s : ";
-    const wchar_t* name = row.label != nullptr ? row.label : row.name;
+    std::wstring_view name = row.label != nullptr ? std::wstring_view(row.label) : row.name;
     std::wstring label;
     if (turn != nullptr) {
-        label = ForTurn(name, turn->name, turn->number);
-    } else if (row.qualifiedLabel) {
-        label = name;
+        name = label = ForTurn(name.data(), turn->name, turn->number);
     }
     if (row.qualifiedLabel) {
         std::wstring subkey = turn != nullptr ? ForTurn(row.key.subkey, turn->name, turn->number) : row.key.subkey;
         while (!subkey.empty() && subkey.back() == L'\\') {
             subkey.pop_back();
         }
-        label = subkey + L'\\' + label;
+        name = label = subkey + L'\\' + std::wstring(name);
     }
     m_text.clear();
-    FormatTo(m_text, row.head != nullptr ? row.head : kHead, label.empty() ? name : label.c_str());
+    if (row.head != nullptr) {
+        FormatTo(m_text, row.head, name);
+    } else {
+        // "[CFG] %40s : " of nearly every line
+        constexpr std::size_t kLabelWidth = 40;
+        m_text = L"[CFG] ";
+        m_text.append(name.size() < kLabelWidth ? kLabelWidth - name.size() : 0, L' ');
+        m_text.append(name).append(L" : ");
+    }
     const wchar_t* conversion = row.conversion;
     if (conversion == nullptr) {
         conversion = row.type == Type::String ? L"%s" : row.type == Type::Char ? L"%c" : L"%d";
@@ -413,7 +419,7 @@ void Loading::PrintMissing(const Setting& row, const Turn* turn)
         return;
     }
     // The source file is named after the class without its leading C.
-    const auto name = turn != nullptr ? ForTurn(row.name, turn->name, turn->number) : std::wstring(row.name);
+    const auto name = turn != nullptr ? ForTurn(row.name.data(), turn->name, turn->number) : std::wstring(row.name);
     m_log->Error(kLogCategory, L"<%s(%d) : %s> ReadRegedit Info Fail : %s", m_table->className + 1, row.requiredLine,
                  std::wstring(m_table->className) + L"::Load", name);
 }
@@ -468,7 +474,7 @@ void Saving::WriteRow(const Setting& row, const wchar_t* turnName, unsigned turn
     if (!row.saved || !row.bound) {
         return;
     }
-    const wchar_t* name = row.savedName != nullptr ? row.savedName : row.name;
+    const wchar_t* name = row.savedName != nullptr ? row.savedName : row.name.data();
     std::wstring subkeyOfTurn;
     std::wstring nameOfTurn;
     Key key = row.key;

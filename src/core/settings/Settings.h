@@ -46,6 +46,8 @@ class WQSPCFG_API Loading
     // The line of one row with what its member holds.
     void PrintHeld(const Setting& row);
     CLog* Log() const noexcept { return m_log; }
+    // The name of the object's device key, when this thread is loading that object; else null.
+    static const CString* DeviceKeyNameOf(const CRegKeyEx& object) noexcept;
 
   private:
     struct Turn

@@ -156,6 +156,10 @@ void AppendPadded(std::wstring& out, std::wstring_view text, const Conversion& c
 // Blanks, prefix, zeros, digits, blanks.
 void AppendDigits(std::wstring& out, std::wstring_view prefix, std::wstring_view digits, const Conversion& conversion)
 {
+    if (conversion.width == 0 && conversion.precision < 0) {
+        out.append(prefix).append(digits);
+        return;
+    }
     const auto width = static_cast<std::size_t>(conversion.width);
     std::size_t zeros = 0;
     if (conversion.precision >= 0) {
@@ -386,9 +390,11 @@ void FormatTo(std::wstring& out, const wchar_t* format, std::span<const FormatAr
             continue;
         }
         Conversion conversion;
-        ParseFlags(at, conversion);
-        ParseWidthAndPrecision(at, conversion, arguments);
-        ParseLength(at, conversion);
+        if (!IsConversion(*at)) { // most stand alone
+            ParseFlags(at, conversion);
+            ParseWidthAndPrecision(at, conversion, arguments);
+            ParseLength(at, conversion);
+        }
         const FormatArg* const arg = IsConversion(*at) ? arguments.Next() : nullptr;
         if (arg != nullptr) {
             AppendArgument(out, *at++, *arg, conversion);

@@ -91,16 +91,24 @@ class FlatTransaction final : public Transaction
         if (!m_engine.Usable()) {
             return EngineFailed();
         }
-        m_name.clear();
-        if (!AppendFoldedPath(hive, path, m_name)) {
-            return RefusePath(hive, path);
+        auto& last = m_lastPath;
+        if (hive != last.hive || path != last.path || last.key.prefix == 0) {
+            last.key.name.clear();
+            last.key.prefix = 0;
+            if (!AppendFoldedPath(hive, path, last.key.name)) {
+                return RefusePath(hive, path);
+            }
+            last.hive = hive;
+            last.path = path;
+            last.key.name.append(kValueMark);
+            last.key.prefix = last.key.name.size();
+            last.key.sum = Engine::kChecked ? NameSum(last.key.name) : 0;
         }
-        m_name.append(kValueMark);
-        const auto prefix = m_name.size();
-        if (!AppendFolded(name, m_name)) {
+        last.key.name.resize(last.key.prefix);
+        if (!AppendFolded(name, last.key.name)) {
             return RefuseName(name);
         }
-        return GetValue(m_name, prefix, Engine::kChecked ? NameSum({m_name.data(), prefix}) : 0, Locality::Near, value);
+        return GetValue(last.key.name, last.key.prefix, last.key.sum, Locality::Near, value);
     }
 
     bool HasPathQueries() const noexcept override { return true; }
@@ -436,6 +444,12 @@ class FlatTransaction final : public Transaction
 
     Engine m_engine;
     std::vector<Handle> m_handles;
+    struct
+    {
+        Hive hive = Hive::LocalMachine;
+        std::wstring path;
+        Handle key; // prefix 0: none yet
+    } m_lastPath;   // of QueryAt, which often goes on in the same key
     std::vector<KeyId> m_closed;
     FlatPath m_path;
     // Kept for their memory.

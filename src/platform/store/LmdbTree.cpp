@@ -57,11 +57,13 @@ std::size_t Even(std::size_t size)
 class SumChecker
 {
   public:
-    bool IsSealed(std::string_view name, std::string_view record)
+    // The name begins with the same `same` bytes as the one before it.
+    bool IsSealed(std::string_view name, std::size_t same, std::string_view record)
     {
-        if (m_prefix.empty() || !name.starts_with(m_prefix)) {
+        if (m_prefix.empty() || same < m_prefix.size()) {
             const auto mark = name.find('\0');
             if (mark == 0 || mark == std::string_view::npos) {
+                m_prefix = {};
                 return wqspcfg::IsSealed(NameSum(name), {}, record); // no value or key
             }
             m_prefix = name.substr(0, mark + 2);
@@ -141,6 +143,7 @@ bool LmdbTree::Open(const LmdbMap& map, std::size_t size, std::uint64_t transact
     m_size = std::min(size, map.Room());
     m_placed = false;
     m_verified.fill({});
+    m_range = {};
     if (m_size < kPageHeader + sizeof m_meta) {
         return Damaged("it is cut short");
     }
@@ -377,13 +380,14 @@ bool LmdbTree::VerifyPage(const Page& page, bool isLeaf, const Bounds& bounds, b
         }
         const auto dataSize = isLeaf ? (node.flags == 0 ? record.size() : sizeof(std::uint64_t)) : 0;
         used += Even(kNodeHeader + node.name.size() + dataSize);
+        std::size_t same = 0;
         if (i >= first) {
-            if (i > first ? node.name <= previous : node.name < bounds.first) {
+            if (i > first ? CompareFrom(previous, node.name, same) >= 0 : node.name < bounds.first) {
                 return DamagedPage(page.number, "has names out of order");
             }
             previous = node.name;
         }
-        if (checkSums && isLeaf && !sums.IsSealed(node.name, record)) {
+        if (checkSums && isLeaf && !sums.IsSealed(node.name, same, record)) {
             return DamagedPage(page.number, "has a record whose check sum is wrong");
         }
     }
@@ -468,14 +472,19 @@ Lookup LmdbTree::Get(std::string_view name, Locality locality, std::string_view&
     if (m_placed && locality == Locality::Near) {
         // Values that are read one after the other mostly stand on one page.
         auto& leaf = m_levels[m_depth - 1];
-        Node first;
-        Node last;
-        if (!ReadNode(leaf.page, 0, first) || !ReadNode(leaf.page, leaf.page.count - 1, last)) {
-            return Lookup::Failed;
+        if (m_range.number != leaf.page.number) {
+            Node first;
+            Node last;
+            if (!ReadNode(leaf.page, 0, first) || !ReadNode(leaf.page, leaf.page.count - 1, last)) {
+                return Lookup::Failed;
+            }
+            m_range = {leaf.page.number, first.name, last.name, 0};
+            CompareFrom(first.name, last.name, m_range.same);
         }
-        if (first.name <= name && name <= last.name) {
+        Common common{m_range.same, m_range.same};
+        if (name.starts_with(m_range.first.substr(0, m_range.same)) &&
+            CompareFrom(m_range.first, name, common.below) <= 0 && CompareFrom(m_range.last, name, common.above) >= 0) {
             isHere = true;
-            Common common;
             if (!Search(leaf.page, 0, name, common, leaf.index, exact)) {
                 return Lookup::Failed;
             }

@@ -120,6 +120,15 @@ class LmdbTree
         std::string_view end;
     };
 
+    // From the first name on a leaf to its last, and how many bytes those have in common.
+    struct Range
+    {
+        std::uint64_t number = 0;
+        std::string_view first;
+        std::string_view last;
+        std::size_t same = 0;
+    };
+
     // How many bytes the nearest known names on either side of a place share with the name that is looked for.
     struct Common
     {
@@ -156,7 +165,8 @@ class LmdbTree
     std::size_t m_depth = 0;
     std::array<Level, kMaxDepth> m_levels;
     std::array<Verified, 64> m_verified; // by the low bits of the page's number
-    bool m_placed = false;               // m_levels lead to a leaf
+    Range m_range;
+    bool m_placed = false; // m_levels lead to a leaf
     std::string m_cause;
 };
 
