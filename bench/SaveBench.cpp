@@ -14,7 +14,6 @@ namespace {
 struct SaveCase
 {
     std::shared_ptr<wqspcfg::Store> store;
-    std::unique_ptr<CRegInfo> config;
     std::vector<Call> writes;
     std::unique_ptr<RawLmdb> raw;
     std::vector<std::string> keys;
@@ -29,12 +28,12 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
     auto& which = cases[name];
     if (!which.store) {
         which.store = CreateDeviceStore(name, entry, kTerminalValues);
-        which.config = wqspcfg::Create(entry, kPhysicalName, true);
-        which.config->Load(nullptr);
+        const auto config = wqspcfg::Create(entry, kPhysicalName, true);
+        config->Load(nullptr);
         const wqspcfg::MemoryLog log;
         const auto recording = std::make_shared<RecordingStore>(which.store, log);
         wqspcfg::SetCurrentStore(recording);
-        which.config->Save();
+        config->Save();
         for (const auto& call : recording->Calls()) {
             if (call.kind == Call::Kind::Set) {
                 which.writes.push_back(call);
@@ -63,9 +62,11 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
 
 void Save(benchmark::State& state, const wqspcfg::ClassEntry& entry)
 {
-    auto& which = CaseOf(entry);
+    const auto& which = CaseOf(entry);
+    const auto config = wqspcfg::Create(entry, kPhysicalName, true);
+    config->Load(nullptr);
     for (auto _ : state) {
-        which.config->Save();
+        config->Save();
     }
     state.counters["values"] = static_cast<double>(which.writes.size());
 }

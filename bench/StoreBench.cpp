@@ -1,7 +1,10 @@
 // One value by its full path within one transaction, on stores of 1,000 to 1,000,000 values, beside mdb_get of the same
-// values under the same names. The places are random, the same for both.
+// values under the same names: four bytes each (the limit), and as many as this library's record takes, which also holds
+// a check sum, the type and the name as it was written. The places are random, the same for all.
 #include "Benchmarks.h"
 #include "RawLmdb.h"
+
+#include "platform/store/Record.h"
 
 #include <benchmark/benchmark.h>
 
@@ -63,7 +66,7 @@ void Library(benchmark::State& state, std::size_t values)
     }
 }
 
-void RawGet(benchmark::State& state, std::size_t values)
+void RawGet(benchmark::State& state, std::size_t values, bool asRecord)
 {
     const auto key = [](std::size_t position) {
         std::string flat;
@@ -72,13 +75,18 @@ void RawGet(benchmark::State& state, std::size_t values)
         wqspcfg::AppendFolded(Name(position), flat);
         return flat;
     };
-    static std::map<std::size_t, std::unique_ptr<RawLmdb>> stores;
-    auto& store = stores[values];
+    static std::map<std::pair<std::size_t, bool>, std::unique_ptr<RawLmdb>> stores;
+    auto& store = stores[{values, asRecord}];
     if (!store) {
-        store = std::make_unique<RawLmdb>(Scratch() / ("values-raw-" + std::to_string(values)));
+        store = std::make_unique<RawLmdb>(Scratch() / ((asRecord ? "records-" : "raw-") + std::to_string(values)));
         auto* txn = store->Begin(0);
+        std::string data(sizeof(DWORD), '\0');
         for (std::size_t i = 0; i < values; ++i) {
-            store->Put(txn, key(i), &i, sizeof(DWORD));
+            if (asRecord) {
+                data.resize(wqspcfg::kRecordHeader + Name(i).size() + sizeof(DWORD));
+            }
+            std::memcpy(data.data(), &i, sizeof(DWORD));
+            store->Put(txn, key(i), data.data(), data.size());
         }
         Check(mdb_txn_commit(txn), "mdb_txn_commit");
     }
@@ -106,7 +114,8 @@ void RegisterValue()
 {
     for (const auto values : std::initializer_list<std::size_t>{1000, 10000, 100000, 1000000}) {
         const auto name = "Value/" + std::to_string(values);
-        benchmark::RegisterBenchmark((name + "/limit").c_str(), RawGet, values);
+        benchmark::RegisterBenchmark((name + "/limit").c_str(), RawGet, values, false);
+        benchmark::RegisterBenchmark((name + "/limit, as records").c_str(), RawGet, values, true);
         benchmark::RegisterBenchmark((name + "/WQSpCfg").c_str(), Library, values);
     }
 }

@@ -1,10 +1,13 @@
-// A whole Load from the Windows registry beside a plain port that opens, queries and closes the key of every value, and
-// how often each opens a key. Prints what Google Benchmark would, as JSON. Writes below HKEY_LOCAL_MACHINE\SOFTWARE\XFS:
+// A whole Load from the Windows registry beside the same by hand: with each key opened once (the limit), and as a plain
+// port that opens, queries and closes the key of every value. Tells how often each opens a key. Prints what Google Benchmark would, as JSON. Writes below HKEY_LOCAL_MACHINE\SOFTWARE\XFS:
 // for a registry that is thrown away, such as that of a Wine prefix.
 #include "Work.h"
 
 #include <algorithm>
 #include <chrono>
+#include <cstring>
+#include <functional>
+#include <map>
 #include <set>
 
 namespace {
@@ -39,21 +42,23 @@ namespace {
 
 constexpr std::size_t kRepetitions = 25;
 
-// Members and log lines by hand, each value through a key of its own.
-void LoadPlainly(const bench::Work& work, bench::Result& result)
+// By hand, each key opened once or, with `perValue`, for each value.
+void LoadByHand(const bench::Work& work, bool perValue, bench::Result& result)
 {
+    std::map<std::wstring, HKEY> keys;
     for (const auto& question : work.questions) {
+        HKEY key = nullptr;
+        const auto known = keys.find(question.path);
+        if (known != keys.end()) {
+            key = known->second;
+        } else if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, question.path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) {
+            key = nullptr;
+        }
         wchar_t buffer[256] = {};
         DWORD size = sizeof buffer - sizeof(wchar_t);
         DWORD type = REG_NONE;
-        HKEY key = nullptr;
-        auto status = RegOpenKeyExW(HKEY_LOCAL_MACHINE, question.path.c_str(), 0, KEY_READ, &key);
-        if (status == ERROR_SUCCESS) {
-            status = RegQueryValueExW(key, question.name.GetString(), nullptr, &type, reinterpret_cast<BYTE*>(buffer),
-                                      &size);
-            RegCloseKey(key);
-        }
-        if (status != ERROR_SUCCESS) {
+        if (key == nullptr || RegQueryValueExW(key, question.name, nullptr, &type, reinterpret_cast<BYTE*>(buffer),
+                                               &size) != ERROR_SUCCESS) {
             result.Missing(question);
         } else if (type == REG_SZ) {
             result.Text(question, std::wstring(buffer));
@@ -62,16 +67,17 @@ void LoadPlainly(const bench::Work& work, bench::Result& result)
             std::memcpy(&number, buffer, sizeof number);
             result.Number(question, number);
         }
+        if (!perValue) {
+            keys.emplace(question.path, key);
+        } else if (key != nullptr) {
+            RegCloseKey(key);
+        }
     }
-}
-
-void Report(const wqspcfg::ClassEntry& entry, const char* reader, std::vector<double> times, bool last)
-{
-    std::sort(times.begin(), times.end());
-    std::printf("    {\"name\": \"Windows/%s/%s\", \"real_time\": %.3f, \"time_unit\": \"us\", "
-                "\"opens\": %zu, \"keys\": %zu}%s\n",
-                bench::NameOf(entry).c_str(), reader, times[times.size() / 2], g_opened.calls, g_opened.keys.size(),
-                last ? "" : ",");
+    for (const auto& [path, key] : keys) {
+        if (key != nullptr) {
+            RegCloseKey(key);
+        }
+    }
 }
 
 template <class Run>
@@ -82,40 +88,49 @@ double Time(Run run)
     return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - begin).count();
 }
 
-template <class Run>
-void CountOpens(Run run)
-{
-    g_opened = {};
-    g_opened.counting = true;
-    run();
-    g_opened.counting = false;
-}
-
-void Measure(const wqspcfg::ClassEntry& entry, const std::shared_ptr<wqspcfg::Store>& store, bool last)
+void Measure(const wqspcfg::ClassEntry& entry, const std::shared_ptr<wqspcfg::Store>& store)
 {
     bench::StoreDevice(entry);
     const auto work = bench::RecordLoad(entry, store);
-    const auto library = [&] {
-        wqspcfg::MemoryLog log;
-        bench::Load(entry, log);
-    };
-    const auto plain = [&] {
+    const auto byHand = [&work](bool perValue) {
         bench::Result result;
-        LoadPlainly(work, result);
+        LoadByHand(work, perValue, result);
+        return result.Log();
     };
-    bench::Result check;
-    LoadPlainly(work, check);
-    bench::CheckResult(work, check.Log(), "the plain port");
-    std::vector<double> libraryTimes;
-    std::vector<double> plainTimes;
+    bench::CheckResult(work, byHand(true), "the plain port");
+
+    struct Reader
+    {
+        const char* name;
+        std::function<void()> load;
+        std::vector<double> times;
+    };
+    Reader readers[] = {{"limit", [&] { byHand(false); }, {}},
+                        {"WQSpCfg",
+                         [&] {
+                             wqspcfg::MemoryLog log;
+                             bench::Load(entry, log);
+                         },
+                         {}},
+                        {"per value", [&] { byHand(true); }, {}}};
     for (std::size_t i = 0; i < kRepetitions; ++i) {
-        libraryTimes.push_back(Time(library));
-        plainTimes.push_back(Time(plain));
+        for (auto& reader : readers) {
+            reader.times.push_back(Time(reader.load));
+        }
     }
-    CountOpens(library);
-    Report(entry, "WQSpCfg", std::move(libraryTimes), false);
-    CountOpens(plain);
-    Report(entry, "per value", std::move(plainTimes), last);
+    for (auto& reader : readers) {
+        g_opened = {};
+        g_opened.counting = true;
+        reader.load();
+        g_opened.counting = false;
+        std::sort(reader.times.begin(), reader.times.end());
+        static const char* separator = "";
+        std::printf("%s    {\"name\": \"Windows/%s/%s\", \"real_time\": %.3f, \"time_unit\": \"us\", "
+                    "\"opens\": %zu, \"keys\": %zu}",
+                    separator, bench::NameOf(entry).c_str(), reader.name, reader.times[kRepetitions / 2],
+                    g_opened.calls, g_opened.keys.size());
+        separator = ",\n";
+    }
 }
 
 } // namespace
@@ -129,9 +144,9 @@ int main()
     }
     wqspcfg::SetCurrentStore(store);
     std::printf("{\n  \"benchmarks\": [\n");
-    Measure(bench::ClassNamed(L"CSpIDCDCT10NRegInfo"), store, false);
-    Measure(bench::ClassNamed(L"CSPCRMWQ09RegInfo"), store, true);
-    std::printf("  ]\n}\n");
+    Measure(bench::ClassNamed(L"CSpIDCDCT10NRegInfo"), store);
+    Measure(bench::ClassNamed(L"CSPCRMWQ09RegInfo"), store);
+    std::printf("\n  ]\n}\n");
     if (wqspcfg::LastStoreError()) {
         bench::Die(wqspcfg::LastStoreError().message);
     }

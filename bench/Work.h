@@ -13,6 +13,7 @@
 #include "platform/store/Session.h"
 #include "platform/text/Utf.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
@@ -226,9 +227,13 @@ inline void StoreOthers(std::size_t values)
     }
 }
 
-// Constructs an object and loads it.
+// Constructs an object and loads it. The settings that all objects of a process share are read by the first alone: there
+// must be no other.
 inline void Load(const wqspcfg::ClassEntry& entry, CLog& log)
 {
+    if (CRegInfo::m_lpsPolicyGroup != nullptr) {
+        Die("another object is alive");
+    }
     wqspcfg::Create(entry, kPhysicalName, true)->Load(&log);
 }
 
