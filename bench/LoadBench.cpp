@@ -44,7 +44,12 @@ class HandWritten final : public Reader
         for (const auto& question : work.questions) {
             m_keys.push_back(RawKey(question.flatPath, question.flatName));
         }
+        m_txn = m_raw.Begin(MDB_RDONLY); // renewed for every Load, which is cheaper than a new one
+        mdb_txn_reset(m_txn);
     }
+    ~HandWritten() override { mdb_txn_abort(m_txn); }
+    HandWritten(const HandWritten&) = delete;
+    HandWritten& operator=(const HandWritten&) = delete;
 
     void Load(const Work& work, Result& result) override
     {
@@ -56,12 +61,12 @@ class HandWritten final : public Reader
             }
             return;
         }
-        auto* txn = m_raw.Begin(MDB_RDONLY);
+        Check(mdb_txn_renew(m_txn), "mdb_txn_renew");
         for (std::size_t i = 0; i < m_keys.size(); ++i) {
             const auto& question = work.questions[i];
             auto key = RawLmdb::Val(m_keys[i].data(), m_keys[i].size());
             MDB_val data;
-            const int status = mdb_get(txn, m_raw.Dbi(), &key, &data);
+            const int status = mdb_get(m_txn, m_raw.Dbi(), &key, &data);
             if (status != MDB_NOTFOUND) {
                 Check(status, "mdb_get");
             }
@@ -77,11 +82,12 @@ class HandWritten final : public Reader
                 result.Number(question, number);
             }
         }
-        mdb_txn_abort(txn);
+        mdb_txn_reset(m_txn);
     }
 
   private:
     RawLmdb m_raw;
+    MDB_txn* m_txn = nullptr;
     Part m_part;
     std::vector<std::string> m_keys;
 };
@@ -92,9 +98,8 @@ void LoadPlainly(const Work& work, CLog& log)
     DWORD number = 0;
     CString text;
     for (const auto& question : work.questions) {
-        const bool found = question.isText
-                               ? CRegKeyEx::QueryValue(text, question.name, L"%s", question.path) != 0
-                               : CRegKeyEx::QueryValue(number, question.name, L"%s", question.path) != 0;
+        const bool found = question.isText ? CRegKeyEx::QueryValue(text, question.name, L"%s", question.path) != 0
+                                           : CRegKeyEx::QueryValue(number, question.name, L"%s", question.path) != 0;
         for (const auto& line : question.lines) {
             const auto* format = line.format.c_str();
             switch (line.form) {

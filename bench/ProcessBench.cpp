@@ -162,8 +162,9 @@ int main(int argc, char** argv)
     }
     for (const auto values : {kMillion / 10, kMillion}) {
         for (const bool import : {true, false}) {
-            benchmark::RegisterBenchmark(((import ? "Import/" : "Export/") + std::to_string(values) + "/WQSpCfg").c_str(),
-                                         Transfer, values, import)
+            benchmark::RegisterBenchmark(
+                ((import ? "Import/" : "Export/") + std::to_string(values) + "/WQSpCfg").c_str(), Transfer, values,
+                import)
                 ->UseManualTime()
                 ->Iterations(1)
                 ->Unit(benchmark::kMillisecond);

@@ -103,9 +103,10 @@ void RegisterSave()
         const auto& entry = ClassNamed(className);
         const auto name = "Save/" + NameOf(entry) + '/';
         const auto add = [&](const char* reader, void (*run)(benchmark::State&, const wqspcfg::ClassEntry&)) {
-            benchmark::RegisterBenchmark((name + reader).c_str(), [&entry, run](benchmark::State& state) {
-                run(state, entry);
-            })->Unit(benchmark::kMicrosecond)->UseRealTime();
+            benchmark::RegisterBenchmark((name + reader).c_str(),
+                                         [&entry, run](benchmark::State& state) { run(state, entry); })
+                ->Unit(benchmark::kMicrosecond)
+                ->UseRealTime();
         };
         add("limit", CommitOnce);
         add("WQSpCfg", Save);

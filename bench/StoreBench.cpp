@@ -1,6 +1,6 @@
 // One value by its full path within one transaction, on stores of 1,000 to 1,000,000 values, beside mdb_get of the same
-// values under the same names: four bytes each (the limit), and as many as this library's record takes, which also holds
-// a check sum, the type and the name as it was written. The places are random, the same for all.
+// values under the same names: four bytes each (the limit), and as many as this library's record takes, which also
+// holds a check sum, the type and the name as it was written. The places are random, the same for all.
 #include "Benchmarks.h"
 #include "RawLmdb.h"
 

@@ -1,6 +1,7 @@
 // A whole Load from the Windows registry beside the same by hand: with each key opened once (the limit), and as a plain
-// port that opens, queries and closes the key of every value. Tells how often each opens a key. Prints what Google Benchmark would, as JSON. Writes below HKEY_LOCAL_MACHINE\SOFTWARE\XFS:
-// for a registry that is thrown away, such as that of a Wine prefix.
+// port that opens, queries and closes the key of every value. Tells how often each opens a key. Prints what Google
+// Benchmark would, as JSON. Writes below HKEY_LOCAL_MACHINE\SOFTWARE\XFS: for a registry that is thrown away, such as
+// that of a Wine prefix.
 #include "Work.h"
 
 #include <algorithm>

@@ -227,8 +227,8 @@ inline void StoreOthers(std::size_t values)
     }
 }
 
-// Constructs an object and loads it. The settings that all objects of a process share are read by the first alone: there
-// must be no other.
+// Constructs an object and loads it. The settings that all objects of a process share are read by the first alone:
+// there must be no other.
 inline void Load(const wqspcfg::ClassEntry& entry, CLog& log)
 {
     if (CRegInfo::m_lpsPolicyGroup != nullptr) {

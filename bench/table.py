@@ -16,29 +16,36 @@ import statistics
 import subprocess
 
 SECONDS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
+# What only computes is told in processor time, which other programs on the machine disturb less.
+PROCESSOR_TIME = ("Load/", "Services/", "Value/")
 CLASSES = ["CSpIDCDCT10NRegInfo", "CSPCRMWQ09RegInfo"]
 TERMINAL = 10000
+PEERS = ["SQLite", "GLib", "Boost", "per value"]
 
 
 class Results:
-    """The median of every benchmark by its name, in seconds, and what it counted."""
+    """The median time of every benchmark in seconds by its name, and what it counted."""
 
     def __init__(self, folder):
         times = collections.defaultdict(list)
         self.counted = {}
         for file in sorted(folder.glob("*.json")):
-            for run in json.loads(file.read_text())["benchmarks"]:
-                if run.get("run_type") == "aggregate":
-                    continue
+            for run in json.loads(file.read_text(encoding="utf-8"))["benchmarks"]:
                 if run.get("error_occurred"):
                     raise SystemExit(f"{run['name']}: {run['error_message']}")
-                name = re.sub(r"/(iterations:\d+|real_time|manual_time)", "", run["name"])
-                times[name].append(run["real_time"] * SECONDS[run["time_unit"]])
-                self.counted[name] = run
-        self.times = {name: statistics.median(all_of_it) for name, all_of_it in times.items()}
+                if run.get("run_type") != "aggregate":
+                    name = re.sub(r"/(iterations:\d+|real_time|manual_time)", "", run["name"])
+                    clock = "cpu_time" if name.startswith(PROCESSOR_TIME) else "real_time"
+                    times[name].append(run[clock] * SECONDS[run["time_unit"]])
+                    self.counted[name] = run
+        self.times = {name: statistics.median(repetitions) for name, repetitions in times.items()}
 
-    def __getitem__(self, name):
-        return self.times[name]
+    def of(self, work, *readers):
+        return [self.times[f"{work}/{reader}"] for reader in readers]
+
+
+def significant(number):
+    return f"{number:,.0f}" if number >= 100 else f"{number:.1f}" if number >= 10 else f"{number:.2f}"
 
 
 def time(seconds):
@@ -48,175 +55,192 @@ def time(seconds):
     return f"{significant(seconds * 1e9)} ns"
 
 
-def significant(number):
-    return f"{number:,.0f}" if number >= 100 else f"{number:.1f}" if number >= 10 else f"{number:.2f}"
+def table(head, rows):
+    return "\n".join("| " + " | ".join(cells) + " |" for cells in [head, ["---"] * len(head), *rows])
 
 
-def answer(*parts):
-    """Yes, or no with the parts that are not met; each part is (met, its name)."""
-    missed = [name for met, name in parts if not met]
-    return "**no**: " + ", ".join(missed) if missed else "yes"
-
-
-def rows_to_text(head, rows):
-    lines = [head, ["---"] * len(head), *rows]
-    return "\n".join("| " + " | ".join(line) + " |" for line in lines)
-
-
-def load_row(results, class_name, values):
-    base = f"Load/{class_name}/{values}/"
-    limit, ours = results[base + "limit"], results[base + "WQSpCfg"]
-    least = 5 if values else 2
-    peers = {name: results[base + name] for name in ("SQLite", "GLib", "Boost", "per value")}
-    ratio = ours / limit
-    count = results.counted[base + "WQSpCfg"]
-    work = f"`Load` of `{class_name}`, {count['values']:.0f} values, {count['lines']:.0f} lines; "
+def row(work, target, checks, ours, limit=None, peers=""):
+    """`checks` tells of each part of the target whether it is met; None where there is no target."""
+    missed = [name for name, met in (checks or {}).items() if not met]
     return [
-        work + (f"{values:,} other values in the store" if values else "nothing else in the store"),
-        time(limit),
-        time(ours),
-        "; ".join(f"{name} {time(peer)} ({peer / ours:.1f}×)" for name, peer in peers.items()),
-        f"{ratio:.2f}",
-        f"≤ 1.3; each peer ≥ {least}×",
-        answer((ratio <= 1.3, "limit"), *((peer / ours >= least, name) for name, peer in peers.items())),
+        work,
+        time(limit) if limit else "–",
+        ours if isinstance(ours, str) else time(ours),
+        peers or "–",
+        f"{ours / limit:.2f}" if limit else "–",
+        target,
+        "–" if checks is None else "**no**: " + ", ".join(missed) if missed else "yes",
     ]
 
 
+def load_row(results, class_name, values):
+    work = f"Load/{class_name}/{values}"
+    limit, ours = results.of(work, "limit", "WQSpCfg")
+    peers = dict(zip(PEERS, results.of(work, *PEERS)))
+    counted = results.counted[work + "/WQSpCfg"]
+    least = 5 if values else 2
+    return row(
+        f"`Load` of `{class_name}`, {counted['values']:.0f} values, {counted['lines']:.0f} lines; "
+        + (f"{values:,} other values in the store" if values else "no other value in the store"),
+        f"≤ 1.3; each peer ≥ {least}×",
+        {"limit": ours <= 1.3 * limit, **{name: peer >= least * ours for name, peer in peers.items()}},
+        ours,
+        limit,
+        "; ".join(f"{name} {time(peer)} ({peer / ours:.1f}×)" for name, peer in peers.items()),
+    )
+
+
 def value_row(results, values):
-    limit, ours = (results[f"Value/{values}/{who}"] for who in ("limit", "WQSpCfg"))
-    ratio = ours / limit
-    return [f"one value by full path, store of {values:,}", time(limit), time(ours), "–", f"{ratio:.2f}", "≤ 1.5",
-            answer((ratio <= 1.5, "limit"))]
+    limit, ours = results.of(f"Value/{values}", "limit", "WQSpCfg")
+    return row(f"one value by full path, store of {values:,}", "≤ 1.5", {"limit": ours <= 1.5 * limit}, ours, limit)
 
 
 def save_row(results, class_name):
-    base = f"Save/{class_name}/"
-    limit, ours, each = (results[base + who] for who in ("limit", "WQSpCfg", "per value"))
-    ratio = ours / limit
-    return [
-        f"`Save` of `{class_name}`, {results.counted[base + 'WQSpCfg']['values']:.0f} values, durable",
-        time(limit), time(ours), f"a commit per value {time(each)} ({each / ours:.0f}×)", f"{ratio:.2f}",
-        "≤ 1.3; a commit per value ≥ 10×", answer((ratio <= 1.3, "limit"), (each / ours >= 10, "per value")),
-    ]  # fmt: skip
+    work = f"Save/{class_name}"
+    limit, ours, each = results.of(work, "limit", "WQSpCfg", "per value")
+    return row(
+        f"`Save` of `{class_name}`, {results.counted[work + '/WQSpCfg']['values']:.0f} values, durable",
+        "≤ 1.3; a commit per value ≥ 10×",
+        {"limit": ours <= 1.3 * limit, "per value": each >= 10 * ours},
+        ours,
+        limit,
+        f"a raw commit per value {time(each)} ({each / ours:.0f}×)",
+    )
 
 
 def start_row(results):
-    limit, ours = (results[f"Start/1000000/{who}"] for who in ("limit", "WQSpCfg"))
-    ratio = ours / limit
-    return ["start to the end of `wqspcfg load`, store of 1,000,000 values", time(limit), time(ours), "–",
-            f"{ratio:.2f}", "≤ 3", answer((ratio <= 3, "limit"))]
+    limit, ours = results.of("Start/1000000", "limit", "WQSpCfg")
+    return row(
+        "start to end of `wqspcfg load`, store of 1,000,000 values", "≤ 3", {"limit": ours <= 3 * limit}, ours, limit
+    )
 
 
 def transfer_row(results, what):
-    small, large = (f"{what}/{values}/WQSpCfg" for values in (100000, 1000000))
-    rate = 1e6 / results[large]
-    counted = results.counted[large]
+    (small,), (large,) = (results.of(f"{what}/{values}", "WQSpCfg") for values in (100000, 1000000))
+    counted = results.counted[f"{what}/1000000/WQSpCfg"]
     memory = counted["peak"] / counted["size"]
-    growth = results[large] / results[small]
-    return [
-        f"{what.lower()} of a `.reg` file of 1,000,000 values ({counted['size'] / 1e6:.0f} MB)", "–",
-        f"{time(results[large])}: {rate:,.0f} values/s, memory {memory:.1f}× the file, {growth:.1f}× the time of 100,000",
-        "–", "–", "≥ 500,000 values/s; memory ≤ 4×; linear",
-        answer((rate >= 5e5, "speed"), (memory <= 4, "memory"), (growth <= 12, "linear")),
-    ]  # fmt: skip
+    return row(
+        f"{what.lower()} of a `.reg` file of 1,000,000 values ({counted['size'] / 1e6:.0f} MB)",
+        "≥ 500,000 values/s; memory ≤ 4×; linear",
+        {"speed": 1e6 / large >= 5e5, "memory": memory <= 4, "linear": large <= 12 * small},
+        f"{time(large)}: {1e6 / large:,.0f} values/s; peak memory {memory:.1f}× the file; "
+        f"{large / small:.1f}× the time of 100,000 values",
+    )
 
 
 def windows_row(results, class_name):
-    base = f"Windows/{class_name}/"
-    limit, ours, each = (results[base + who] for who in ("limit", "WQSpCfg", "per value"))
-    opens, keys = (results.counted[base + "WQSpCfg"][what] for what in ("opens", "keys"))
-    return [
-        f"`Load` of `{class_name}` from the registry of Wine; {keys} keys opened {opens} times",
-        time(limit), time(ours), f"open, query and close per value {time(each)} ({each / ours:.1f}×)",
-        f"{ours / limit:.2f}", "each key once; per value ≥ 3×",
-        answer((opens == keys, "each key once"), (each / ours >= 3, "per value")),
-    ]  # fmt: skip
+    work = f"Windows/{class_name}"
+    limit, ours, each = results.of(work, "limit", "WQSpCfg", "per value")
+    counted = results.counted[work + "/WQSpCfg"]
+    return row(
+        f"`Load` of `{class_name}` from Wine's registry: {counted['opens']} calls open {counted['keys']} keys",
+        "each key once; per value ≥ 3×",
+        {"each key once": counted["opens"] == counted["keys"], "per value": each >= 3 * ours},
+        ours,
+        limit,
+        f"open, query, close per value {time(each)} ({each / ours:.1f}×)",
+    )
 
 
-def main_table(results, build):
+def comparison(results, programs):
     rows = [load_row(results, name, values) for name in CLASSES for values in (TERMINAL, 0)]
     rows += [value_row(results, 10**n) for n in range(3, 7)]
     rows += [save_row(results, name) for name in CLASSES]
     rows += [start_row(results), transfer_row(results, "Import"), transfer_row(results, "Export")]
-    if f"Windows/{CLASSES[0]}/limit" in results.times:
+    if any(name.startswith("Windows/") for name in results.times):
         rows += [windows_row(results, name) for name in CLASSES]
     memory = results.counted["Footprint"]
-    rows.append([
-        f"memory of one loaded object of the largest class, `{memory['label']}`", "–",
-        f"{memory['bytes']:,.0f} bytes, of which {memory['object']:,.0f} are the object itself "
-        f"(median of {memory['classes']:.0f} classes: {memory['median']:,.0f})", "–", "–", "measured", "–",
-    ])  # fmt: skip
-    sizes = [(build / name).stat().st_size for name in ("bench_provider", "bench_provider_static")]
-    rows.append([
-        "size of a service provider of one model, stripped", "–",
-        f"{sizes[0]:,} bytes with this library linked statically; {sizes[1]:,} with LMDB and the C++ and C libraries too",
-        "–", "–", "measured", "–",
-    ])  # fmt: skip
-    return rows_to_text(["work", "limit", "WQSpCfg", "peers", "ratio", "target", "met"], rows)
+    rows.append(
+        row(
+            f"memory of one loaded object of the largest class, `{memory['label']}`",
+            "measured",
+            None,
+            f"{memory['bytes']:,.0f} bytes, {memory['object']:,.0f} of them the object itself; "
+            f"median of {memory['classes']:.0f} classes {memory['median']:,.0f}",
+        )
+    )
+    sizes = [(programs / name).stat().st_size for name in ("bench_provider", "bench_provider_static")]
+    rows.append(
+        row(
+            "size of a service provider of one model, stripped",
+            "measured",
+            None,
+            f"{sizes[0]:,} bytes with this library in it; {sizes[1]:,} with LMDB and the C and C++ libraries too",
+        )
+    )
+    return table(["work", "limit", "WQSpCfg", "peers", "ratio", "target", "met"], rows)
 
 
-def growth_tables(results):
-    name = CLASSES[0]
-    stores = [[f"{values:,}" if values else "0", time(results[f"Load/{name}/{values}/limit"]),
-               time(results[f"Load/{name}/{values}/WQSpCfg"])]
-              for values in (0, 1000, 10000, 100000, 1000000)]  # fmt: skip
+def growth(results):
+    def times(work, *readers):
+        return [time(seconds) for seconds in results.of(work, *readers)]
+
     classes = []
-    for full_name in results.times:
-        match = re.fullmatch(rf"Load/(\w+)/{TERMINAL}/WQSpCfg", full_name)
+    for name in results.times:
+        match = re.fullmatch(rf"Load/(\w+)/{TERMINAL}/WQSpCfg", name)
         if match:
-            counted = results.counted[full_name]
-            ours = results[full_name]
-            limit = results[full_name.replace("WQSpCfg", "limit")]
-            classes.append([counted["values"], f"`{match[1]}`", *(f"{counted[what]:.0f}" for what in ("values", "keys", "lines")),
-                            time(limit), time(ours), time(ours / counted["values"])])  # fmt: skip
-    services = [[str(n), time(results[f"Services/{n}/WQSpCfg"]), time(results[f"Services/{n}/WQSpCfg"] / n)]
-                for n in (1, 10, 100)]  # fmt: skip
-    paths = [[f"{10**n:,}", *(time(results[f"Value/{10**n}/{who}"]) for who in ("limit", "limit, as records", "WQSpCfg"))]
-             for n in range(3, 7)]  # fmt: skip
-    starts = [[f"{values:,}", *(time(results[f"Start/{values}/{who}"]) for who in ("limit", "WQSpCfg"))]
-              for values in (10000, 1000000)]  # fmt: skip
-    parts = []
-    for class_name in CLASSES:
-        base = f"Load/{class_name}/{TERMINAL}/"
-        parts.append([f"`{class_name}`", *(time(results[base + who]) for who in (
-            "limit, reading", "limit, lines", "limit", "WQSpCfg", "GLib, parsed before", "Boost, parsed before"))])
+            counted = results.counted[name]
+            counts = [f"{counted[what]:.0f}" for what in ("values", "keys", "lines")]
+            classes.append([f"`{match[1]}`", *counts, *times(name.removesuffix("/WQSpCfg"), "limit", "WQSpCfg")])
+    classes.sort(key=lambda cells: int(cells[1]))
+
+    parts = ["limit, reading", "limit, lines", "limit", "WQSpCfg", "GLib, parsed before", "Boost, parsed before"]
     return {
-        "stores": rows_to_text(["other values in the store", "limit", "WQSpCfg"], stores),
-        "classes": rows_to_text(["class", "values", "keys", "lines", "limit", "WQSpCfg", "per value"],
-                                [row[1:] for row in sorted(classes)]),
-        "services": rows_to_text(["services in the store", "`Load` of all", "each"], services),
-        "paths": rows_to_text(["values in the store", "limit", "limit, records of this library's size", "WQSpCfg"], paths),
-        "starts": rows_to_text(["values in the store", "opens it and exits", "`wqspcfg load`"], starts),
-        "parts": rows_to_text(["class", "`mdb_get` alone", "`swprintf` alone", "limit", "WQSpCfg",
-                               "GLib, parsed before", "Boost, parsed before"], parts),
-    }  # fmt: skip
+        "parts": table(
+            ["class", "`mdb_get` alone", "`swprintf` alone", *parts[2:]],
+            [[f"`{name}`", *times(f"Load/{name}/{TERMINAL}", *parts)] for name in CLASSES],
+        ),
+        "stores": table(
+            ["other values in the store", "limit", "WQSpCfg"],
+            [
+                [f"{values:,}", *times(f"Load/{CLASSES[0]}/{values}", "limit", "WQSpCfg")]
+                for values in (0, 1000, 10000, 100000, 1000000)
+            ],
+        ),
+        "classes": table(["class", "values", "keys", "lines", "limit", "WQSpCfg"], classes),
+        "services": table(
+            ["services in the store", "`Load` of all", "each"],
+            [
+                [str(n), time(results.times[f"Services/{n}/WQSpCfg"]), time(results.times[f"Services/{n}/WQSpCfg"] / n)]
+                for n in (1, 10, 100)
+            ],
+        ),
+        "paths": table(
+            ["values in the store", "limit", "limit, records as large", "WQSpCfg"],
+            [[f"{10**n:,}", *times(f"Value/{10**n}", "limit", "limit, as records", "WQSpCfg")] for n in range(3, 7)],
+        ),
+        "starts": table(
+            ["values in the store", "opens it and exits", "`wqspcfg load`"],
+            [[f"{values:,}", *times(f"Start/{values}", "limit", "WQSpCfg")] for values in (10000, 1000000)],
+        ),
+    }
 
 
-def first_line(*command):
+def output(*command):
+    """The first line that a command prints; empty when there is none."""
     try:
-        return subprocess.run(command, capture_output=True, text=True, check=True).stdout.splitlines()[0].strip()
-    except (OSError, subprocess.CalledProcessError, IndexError):
+        lines = subprocess.run(command, capture_output=True, text=True, check=True).stdout.splitlines()
+    except (OSError, subprocess.CalledProcessError):
         return ""
+    return " ".join(lines[0].split()) if lines else ""
 
 
 def machine(scratch):
     cpu = re.search(r"model name\s*: (.*)", pathlib.Path("/proc/cpuinfo").read_text())
-    memory = int(re.search(r"MemTotal:\s*(\d+)", pathlib.Path("/proc/meminfo").read_text())[1])
+    memory = re.search(r"MemTotal:\s*(\d+)", pathlib.Path("/proc/meminfo").read_text())
     system = re.search(r'PRETTY_NAME="(.*)"', pathlib.Path("/etc/os-release").read_text())
     packages = ["liblmdb0", "libsqlite3-0", "libglib2.0-0", "libboost-dev", "libbenchmark1debian", "wine64"]
-    versions = ", ".join(
-        f"{name} {version}" for name in packages if (version := first_line("dpkg-query", "-W", "-f", "${Version}", name))
-    )
+    versions = {name: output("dpkg-query", "-W", "-f", "${Version}", name) for name in packages}
     rows = [
         ["processor", f"{cpu[1] if cpu else platform.machine()}, {os.cpu_count()} cores"],
-        ["memory", f"{memory / 2**20:.0f} GiB"],
-        ["file system of the stores", " ".join(first_line("findmnt", "-n", "-o", "FSTYPE,SOURCE,OPTIONS", "-T", scratch).split())],
+        ["memory", f"{int(memory[1]) / 2**20:.0f} GiB"],
+        ["file system of the stores", output("findmnt", "-n", "-o", "FSTYPE,SOURCE,OPTIONS", "-T", scratch)],
         ["system", f"{system[1] if system else platform.system()}, Linux {platform.release()}"],
-        ["compiler", f"{first_line('c++', '--version')}, -O2"],
-        ["libraries", versions],
-        ["revision", first_line("git", "describe", "--always", "--dirty")],
-    ]  # fmt: skip
-    return rows_to_text(["", ""], rows)
+        ["compiler", output("c++", "--version") + ", -O2"],
+        ["packages", ", ".join(f"{name} {version}" for name, version in versions.items() if version)],
+        ["revision", output("git", "describe", "--always", "--dirty")],
+    ]
+    return table(["", ""], rows)
 
 
 def main():
@@ -226,11 +250,10 @@ def main():
     options = parser.parse_args()
 
     results = Results(options.results)
-    scratch = os.environ.get("TMPDIR", str(options.results))
     sections = {
-        "machine": machine(scratch),
-        "table": main_table(results, options.results.parent / "release"),
-        **growth_tables(results),
+        "machine": machine(os.environ.get("TMPDIR", options.results)),
+        "table": comparison(results, options.results.parent / "release"),
+        **growth(results),
     }
     if options.write is None:
         print("\n\n".join(sections.values()))
@@ -238,7 +261,8 @@ def main():
     text = options.write.read_text(encoding="utf-8")
     for name, section in sections.items():
         begin, end = f"<!-- bench:{name} -->\n", "\n<!-- bench:end -->"
-        text, found = re.subn(re.escape(begin) + ".*?" + re.escape(end), lambda _: begin + section + end, text, flags=re.DOTALL)
+        pattern = re.compile(re.escape(begin) + ".*?" + re.escape(end), re.DOTALL)
+        text, found = pattern.subn(lambda _: begin + section + end, text)
         if found != 1:
             raise SystemExit(f"{options.write} has no place for {name}")
     options.write.write_text(text, encoding="utf-8")
