@@ -41,7 +41,7 @@ OpenKey __wrap___imp_RegOpenKeyExW = CountedOpenKey;
 
 namespace {
 
-constexpr std::size_t kRepetitions = 25;
+constexpr std::size_t kRepetitions = 51;
 
 // By hand, each key opened once or, with `perValue`, for each value.
 void LoadByHand(const bench::Work& work, bool perValue, bench::Result& result)

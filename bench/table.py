@@ -260,9 +260,9 @@ def main():
         return
     text = options.write.read_text(encoding="utf-8")
     for name, section in sections.items():
-        begin, end = f"<!-- bench:{name} -->\n", "\n<!-- bench:end -->"
+        begin, end = f"<!-- bench:{name} -->\n", "<!-- bench:end -->"
         pattern = re.compile(re.escape(begin) + ".*?" + re.escape(end), re.DOTALL)
-        text, found = pattern.subn(lambda _: begin + section + end, text)
+        text, found = pattern.subn(lambda _: begin + section + "\n" + end, text)
         if found != 1:
             raise SystemExit(f"{options.write} has no place for {name}")
     options.write.write_text(text, encoding="utf-8")
