@@ -1,202 +1,338 @@
-// A whole Load and a whole Save of a device model, every value stored, beside the least that the same work can cost: a
-// hand-written loop of as many mdb_get in one transaction and as many swprintf lines, and one durable LMDB commit.
-#include "CountingStore.h"
+// A whole Load, object and log included, every value stored, beside the same values read and the same lines written by
+// hand from raw LMDB (the limit) and from other stores.
+#include "Benchmarks.h"
 #include "RawLmdb.h"
-#include "ScratchDir.h"
-
-#include "classes/CRMRegInfo.h"
-#include "classes/IDCRegInfo.h"
-#include "classes/SIURegInfo.h"
-#include "core/settings/Settings.h"
-#include "models/crd/SpCRDWQTYM1200RegInfo.h"
-#include "models/crm/SPCRMWQ09RegInfo.h"
-#include "models/idc/SpIDCDCT10NRegInfo.h"
-#include "platform/store/Session.h"
+#include "Reader.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cwchar>
-#include <memory>
-#include <string>
-#include <vector>
+#include <cstring>
+#include <functional>
+#include <map>
+
+namespace bench {
 
 namespace {
 
-constexpr unsigned kOtherValues = 10000; // a terminal's store
-constexpr wchar_t kPhysicalName[] = L"WQSpDevice";
-constexpr wchar_t kServiceRoot[] = L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\";
-constexpr wchar_t kDeviceRoot[] = L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\";
-
-void NameDevice()
+// LMDB's key for a value, and its data: the four bytes of a number, or the text.
+std::string RawKey(const std::string& path, const std::string& name)
 {
-    CRegKeyEx::SetValue(CString(L"WQSpDevice.exe"), L"ExeDllMother", L"%s%s", kServiceRoot, kPhysicalName);
+    return path + '\0' + name;
 }
 
-// A store of a terminal's size that holds every value of the model.
-template <class Config>
-std::shared_ptr<wqspcfg::Store> TerminalStore()
+enum class Part : std::uint8_t
 {
-    static std::shared_ptr<wqspcfg::Store> store;
-    if (store) {
-        wqspcfg::SetCurrentStore(store);
-        return store;
-    }
-    wqspcfg::Error error;
-    const std::wstring wide(Config::Settings().className);
-    store = wqspcfg::OpenStore("lmdb:" + (bench::Scratch() / std::string(wide.begin(), wide.end())), {.create = true},
-                               error);
-    if (!store) {
-        std::fprintf(stderr, "%s\n", error.message.c_str());
-        std::exit(1);
-    }
-    wqspcfg::SetCurrentStore(store);
-    const wqspcfg::WriteScope scope;
-    for (unsigned i = 0; i < kOtherValues; ++i) {
-        CRegKeyEx::SetValue(i, CString(L"Value" + std::to_wstring(i % 20)), L"%s%s\\Control", kDeviceRoot,
-                            L"Other" + std::to_wstring(i / 20));
-    }
-    NameDevice();
-    Config config(kPhysicalName, true);
-    config.Save(); // what loops write
-    wqspcfg::Saving saving(config);
-    const auto write = [&](auto& self, std::span<const wqspcfg::Setting> rows) -> void {
-        for (const auto& row : rows) {
-            if (row.rows != nullptr) {
-                if (row.turns == 1) {
-                    self(self, {row.rows, row.rowCount});
-                }
-            } else if (row.type == wqspcfg::Type::String || row.type == wqspcfg::Type::Char) {
-                saving.Put(row.key, row.name, CString(L"some text"));
-            } else if (row.type != wqspcfg::Type::None) {
-                saving.Put(row.key, row.name, 1);
-            }
-        }
-    };
-    for (const auto* table = &Config::Settings(); table != nullptr; table = table->base ? &table->base() : nullptr) {
-        write(write, table->rows);
-    }
-    NameDevice(); // which is among the settings
-    CRegKeyEx::SetValue(0, L"Count", L"%sWQSpDevice\\NoteType", kDeviceRoot);
-    return store;
-}
-
-struct Work
-{
-    std::size_t values = 0; // that are asked for, found or not
-    std::size_t lines = 0;
+    All,
+    Reading,
+    Lines,
 };
 
-template <class Config>
-Work WorkOfOneLoad()
+// One transaction, one mdb_get for each value, one swprintf for each line; nothing else.
+class HandWritten final : public Reader
 {
-    const auto store = TerminalStore<Config>();
-    const auto counting = std::make_shared<bench::CountingStore>(store);
-    wqspcfg::SetCurrentStore(counting);
-    wqspcfg::MemoryLog log;
+  public:
+    HandWritten(const std::string& directory, wqspcfg::Store& store, const Work& work, Part part)
+        : m_raw(directory), m_part(part)
     {
-        Config config(kPhysicalName, true);
-        config.Load(&log);
+        auto* txn = m_raw.Begin(0);
+        ForEachValue(store, [&](const StoredValue& value) {
+            const auto* number = reinterpret_cast<const char*>(&value.number);
+            const auto data = value.isText ? value.text : std::string(number, sizeof value.number);
+            m_raw.Put(txn, RawKey(value.path, value.name), data.data(), data.size());
+        });
+        Check(mdb_txn_commit(txn), "mdb_txn_commit");
+        for (const auto& question : work.questions) {
+            m_keys.push_back(RawKey(question.flatPath, question.flatName));
+        }
+        m_txn = m_raw.Begin(MDB_RDONLY); // renewed for every Load, which is cheaper than a new one
+        mdb_txn_reset(m_txn);
     }
-    wqspcfg::SetCurrentStore(store);
-    return {counting->Queries(), log.Entries().size()};
-}
+    ~HandWritten() override { mdb_txn_abort(m_txn); }
+    HandWritten(const HandWritten&) = delete;
+    HandWritten& operator=(const HandWritten&) = delete;
 
-template <class Config>
-void LoadClass(benchmark::State& state)
-{
-    const auto store = TerminalStore<Config>();
-    for (auto _ : state) {
-        wqspcfg::MemoryLog log;
-        Config config(kPhysicalName, true);
-        config.Load(&log);
-        benchmark::DoNotOptimize(log.Entries().data());
-    }
-    const auto work = WorkOfOneLoad<Config>();
-    state.counters["values"] = static_cast<double>(work.values);
-    state.counters["lines"] = static_cast<double>(work.lines);
-    wqspcfg::SetCurrentStore(nullptr);
-}
-
-template <class Config>
-void HandWrittenLoop(benchmark::State& state)
-{
-    const auto work = WorkOfOneLoad<Config>();
-    wqspcfg::SetCurrentStore(nullptr);
-    static bench::RawLmdb raw(bench::Scratch() / ("raw" + std::to_string(work.values)));
-    std::vector<std::string> keys;
+    void Load(const Work& work, Result& result) override
     {
-        auto* txn = raw.Begin(0);
-        const char data[24] = {};
-        for (unsigned i = 0; i < kOtherValues; ++i) {
-            raw.Put(txn, "mSOFTWARE\\XFS\\PHYSICAL_SERVICES\\OTHER" + std::to_string(i), data, sizeof data);
-        }
-        for (std::size_t i = 0; i < work.values; ++i) {
-            keys.push_back("mSOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSPCRD\\CONTROLxVALUEOFTHEMODEL" + std::to_string(i));
-            raw.Put(txn, keys.back(), data, sizeof data);
-        }
-        bench::Check(mdb_txn_commit(txn), "mdb_txn_commit");
-    }
-    for (auto _ : state) {
-        std::vector<std::wstring> log;
-        auto* txn = raw.Begin(MDB_RDONLY);
-        for (const auto& key : keys) {
-            auto k = bench::RawLmdb::Val(key.data(), key.size());
-            MDB_val v;
-            bench::Check(mdb_get(txn, raw.Dbi(), &k, &v), "mdb_get");
-            if (log.size() == work.lines) {
-                continue;
+        if (m_part == Part::Lines) {
+            for (const auto& question : work.questions) {
+                for (const auto& line : question.lines) {
+                    result.Print(line, line.number, line.text.c_str());
+                }
             }
-            wchar_t line[512];
-            const int length = std::swprintf(line, std::size(line),
-                                             L"[CFG] %40ls : %d[the retain count may be cleared while the device "
-                                             L"is faulty or offline: 0 no; nonzero yes]",
-                                             L"AllowResetCountByErrDevStatu", *static_cast<const char*>(v.mv_data));
-            log.emplace_back(line, static_cast<std::size_t>(length));
+            return;
         }
-        mdb_txn_abort(txn);
-        benchmark::DoNotOptimize(log.data());
-    }
-    state.counters["values"] = static_cast<double>(work.values);
-    state.counters["lines"] = static_cast<double>(work.lines);
-}
-#define WQSPCFG_BENCH_CLASS(Class)                                                                                     \
-    BENCHMARK_TEMPLATE(LoadClass, Class)->Unit(benchmark::kMicrosecond);                                               \
-    BENCHMARK_TEMPLATE(HandWrittenLoop, Class)->Unit(benchmark::kMicrosecond)
-
-WQSPCFG_BENCH_CLASS(CSpCRDWQTYM1200RegInfo);
-WQSPCFG_BENCH_CLASS(CIDCRegInfo);
-WQSPCFG_BENCH_CLASS(CCRMRegInfo);
-WQSPCFG_BENCH_CLASS(CSIURegInfo);
-WQSPCFG_BENCH_CLASS(CSpIDCDCT10NRegInfo);
-WQSPCFG_BENCH_CLASS(CSPCRMWQ09RegInfo);
-
-void SaveModel(benchmark::State& state)
-{
-    const auto store = TerminalStore<CSpCRDWQTYM1200RegInfo>();
-    CSpCRDWQTYM1200RegInfo config(kPhysicalName, true);
-    config.Load(nullptr);
-    for (auto _ : state) {
-        ++config.m_dwCurNumber;
-        config.Save();
-    }
-    wqspcfg::SetCurrentStore(nullptr);
-}
-BENCHMARK(SaveModel)->Unit(benchmark::kMicrosecond)->UseRealTime();
-
-void RawDurableCommit(benchmark::State& state)
-{
-    bench::RawLmdb raw(bench::Scratch() / "commit");
-    unsigned generation = 0;
-    for (auto _ : state) {
-        auto* txn = raw.Begin(0);
-        ++generation;
-        for (unsigned i = 0; i < 32; ++i) {
-            raw.Put(txn, "mSOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSPCRD\\CONTROLxVALUE" + std::to_string(i), &generation,
-                    sizeof generation);
+        Check(mdb_txn_renew(m_txn), "mdb_txn_renew");
+        for (std::size_t i = 0; i < m_keys.size(); ++i) {
+            const auto& question = work.questions[i];
+            auto key = RawLmdb::Val(m_keys[i].data(), m_keys[i].size());
+            MDB_val data;
+            const int status = mdb_get(m_txn, m_raw.Dbi(), &key, &data);
+            if (status != MDB_NOTFOUND) {
+                Check(status, "mdb_get");
+            }
+            if (m_part == Part::Reading) {
+                benchmark::DoNotOptimize(data);
+            } else if (status == MDB_NOTFOUND) {
+                result.Missing(question);
+            } else if (question.isText) {
+                result.Text(question, {static_cast<const char*>(data.mv_data), data.mv_size});
+            } else {
+                DWORD number = 0;
+                std::memcpy(&number, data.mv_data, sizeof number);
+                result.Number(question, number);
+            }
         }
-        bench::Check(mdb_txn_commit(txn), "mdb_txn_commit");
+        mdb_txn_reset(m_txn);
+    }
+
+  private:
+    RawLmdb m_raw;
+    MDB_txn* m_txn = nullptr;
+    Part m_part;
+    std::vector<std::string> m_keys;
+};
+
+// A plain port: this library's static query for every value, each of them a transaction that opens and closes.
+void LoadPlainly(const Work& work, CLog& log)
+{
+    DWORD number = 0;
+    CString text;
+    for (const auto& question : work.questions) {
+        const bool found = question.isText ? CRegKeyEx::QueryValue(text, question.name, L"%s", question.path) != 0
+                                           : CRegKeyEx::QueryValue(number, question.name, L"%s", question.path) != 0;
+        for (const auto& line : question.lines) {
+            const auto* format = line.format.c_str();
+            switch (line.form) {
+            case Line::Form::Number:
+                log.Info(wqspcfg::kLogCategory, format, line.label, found ? number : line.number);
+                break;
+            case Line::Form::Text:
+                log.Info(wqspcfg::kLogCategory, format, line.label, text);
+                break;
+            case Line::Form::Fixed:
+                log.Info(wqspcfg::kLogCategory, format, line.label, line.text);
+                break;
+            case Line::Form::Whole:
+                log.Info(wqspcfg::kLogCategory, L"%s", line.text);
+                break;
+            }
+        }
     }
 }
-BENCHMARK(RawDurableCommit)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+std::vector<std::wstring> LinesOf(const wqspcfg::MemoryLog& log)
+{
+    std::vector<std::wstring> lines;
+    for (const auto& entry : log.Entries()) {
+        lines.push_back(entry.text);
+    }
+    return lines;
+}
+
+// One class in a store of one size.
+struct LoadCase
+{
+    const wqspcfg::ClassEntry& entry;
+    std::string name;
+    std::shared_ptr<wqspcfg::Store> store;
+    Work work;
+};
+
+LoadCase& CaseOf(const wqspcfg::ClassEntry& entry, std::size_t values)
+{
+    static std::map<std::string, LoadCase> cases;
+    const auto name = NameOf(entry) + '-' + std::to_string(values);
+    auto found = cases.find(name);
+    if (found == cases.end()) {
+        auto store = CreateDeviceStore(name, entry, values);
+        auto work = RecordLoad(entry, store);
+        found = cases.emplace(name, LoadCase{entry, name, std::move(store), std::move(work)}).first;
+    }
+    wqspcfg::SetCurrentStore(found->second.store);
+    return found->second;
+}
+
+void Count(benchmark::State& state, const LoadCase& which)
+{
+    state.counters["values"] = static_cast<double>(which.work.questions.size());
+    state.counters["lines"] = static_cast<double>(which.work.log.size());
+    state.counters["keys"] = static_cast<double>(which.work.keys);
+}
+
+void RegisterLibrary(const wqspcfg::ClassEntry& entry, const std::string& name, std::size_t values)
+{
+    benchmark::RegisterBenchmark((name + "/WQSpCfg").c_str(), [&entry, values](benchmark::State& state) {
+        const auto& which = CaseOf(entry, values);
+        for (auto _ : state) {
+            wqspcfg::MemoryLog log;
+            Load(entry, log);
+            benchmark::DoNotOptimize(log.Entries().data());
+        }
+        Count(state, which);
+    })->Unit(benchmark::kMicrosecond);
+}
+
+void RegisterPlain(const wqspcfg::ClassEntry& entry, const std::string& name, std::size_t values)
+{
+    benchmark::RegisterBenchmark((name + "/per value").c_str(), [&entry, values](benchmark::State& state) {
+        const auto& which = CaseOf(entry, values);
+        wqspcfg::MemoryLog check;
+        LoadPlainly(which.work, check);
+        CheckResult(which.work, LinesOf(check), "per value");
+        for (auto _ : state) {
+            wqspcfg::MemoryLog log;
+            LoadPlainly(which.work, log);
+            benchmark::DoNotOptimize(log.Entries().data());
+        }
+    })->Unit(benchmark::kMicrosecond);
+}
+
+using OpenReader = std::unique_ptr<Reader> (*)(const std::string& directory, const LoadCase& which);
+
+void RegisterReader(const wqspcfg::ClassEntry& entry, const std::string& name, std::size_t values, const char* reader,
+                    OpenReader open)
+{
+    const auto run = [&entry, values, reader, open](benchmark::State& state) {
+        static std::map<std::string, std::unique_ptr<Reader>> readers;
+        const auto& which = CaseOf(entry, values);
+        auto& opened = readers[which.name + reader];
+        if (!opened) {
+            opened = open(Scratch() / (which.name + '-' + reader), which);
+            Result result;
+            opened->Load(which.work, result);
+            if (std::string_view(reader) != "limit, reading") {
+                CheckResult(which.work, result.Log(), reader);
+            }
+        }
+        for (auto _ : state) {
+            Result result;
+            opened->Load(which.work, result);
+            benchmark::DoNotOptimize(result.Log().data());
+        }
+    };
+    benchmark::RegisterBenchmark((name + '/' + reader).c_str(), run)->Unit(benchmark::kMicrosecond);
+}
+
+template <Part part>
+std::unique_ptr<Reader> OpenHandWritten(const std::string& directory, const LoadCase& which)
+{
+    return std::make_unique<HandWritten>(directory, *which.store, which.work, part);
+}
 
 } // namespace
+
+void ForEachValue(wqspcfg::Store& store, const std::function<void(const StoredValue&)>& visit)
+{
+    wqspcfg::Error error;
+    const auto transaction = store.Begin(wqspcfg::Access::Read, error);
+    if (!transaction) {
+        Die(error.message);
+    }
+    const auto walk = [&](const auto& self, wqspcfg::Hive hive, const std::wstring& path) -> void {
+        wqspcfg::KeyId key = 0;
+        if (transaction->OpenKey(hive, path, key) != wqspcfg::Outcome::Found) {
+            return;
+        }
+        StoredValue stored;
+        wqspcfg::AppendFoldedPath(hive, path, stored.path);
+        transaction->EnumValues(key, [&](std::wstring_view name, const wqspcfg::ValueView& value) {
+            stored.name.clear();
+            wqspcfg::AppendFolded(name, stored.name);
+            CString text;
+            stored.isText = ToValue(value, text);
+            stored.text.assign(text.View().begin(), text.View().end());
+            if (stored.isText || ToValue(value, stored.number)) {
+                visit(stored);
+            }
+            return true;
+        });
+        std::vector<std::wstring> subkeys;
+        transaction->EnumKeys(key, [&](std::wstring_view name) {
+            subkeys.emplace_back(name);
+            return true;
+        });
+        transaction->CloseKey(key);
+        for (const auto& subkey : subkeys) {
+            self(self, hive, path.empty() ? subkey : path + L'\\' + subkey);
+        }
+    };
+    walk(walk, wqspcfg::Hive::LocalMachine, L"");
+    walk(walk, wqspcfg::Hive::Users, L"");
+}
+
+void RegisterLoad()
+{
+    for (const auto* className : {L"CSpIDCDCT10NRegInfo", L"CSPCRMWQ09RegInfo"}) {
+        const auto& entry = ClassNamed(className);
+        for (const auto values : {std::size_t{0}, kTerminalValues}) {
+            const auto name = "Load/" + NameOf(entry) + '/' + std::to_string(values);
+            const auto reader = [&](const char* which, OpenReader open) {
+                RegisterReader(entry, name, values, which, open);
+            };
+            reader("limit", OpenHandWritten<Part::All>);
+            RegisterLibrary(entry, name, values);
+            RegisterPlain(entry, name, values);
+            reader("SQLite", [](const std::string& directory, const LoadCase& which) {
+                return OpenSqlite(directory, *which.store);
+            });
+            reader("GLib", [](const std::string& directory, const LoadCase& which) {
+                return OpenGLibKeyFile(directory, *which.store, true);
+            });
+            reader("Boost", [](const std::string& directory, const LoadCase& which) {
+                return OpenBoostIni(directory, *which.store, true);
+            });
+            reader("GLib, parsed before", [](const std::string& directory, const LoadCase& which) {
+                return OpenGLibKeyFile(directory, *which.store, false);
+            });
+            reader("Boost, parsed before", [](const std::string& directory, const LoadCase& which) {
+                return OpenBoostIni(directory, *which.store, false);
+            });
+        }
+        const auto name = "Load/" + NameOf(entry) + '/' + std::to_string(kTerminalValues);
+        RegisterReader(entry, name, kTerminalValues, "limit, reading", OpenHandWritten<Part::Reading>);
+        RegisterReader(entry, name, kTerminalValues, "limit, lines", OpenHandWritten<Part::Lines>);
+    }
+    // How the cost grows: with the store, and with what a class asks for.
+    const auto& reader = ClassNamed(L"CSpIDCDCT10NRegInfo");
+    for (const auto values : std::initializer_list<std::size_t>{1000, 100000, 1000000}) {
+        const auto name = "Load/" + NameOf(reader) + '/' + std::to_string(values);
+        RegisterReader(reader, name, values, "limit", OpenHandWritten<Part::All>);
+        RegisterLibrary(reader, name, values);
+    }
+    for (const auto* className : {L"CSpCRDWQTYM1200RegInfo", L"CIDCRegInfo", L"CSIURegInfo", L"CCRMRegInfo"}) {
+        const auto& entry = ClassNamed(className);
+        const auto name = "Load/" + NameOf(entry) + '/' + std::to_string(kTerminalValues);
+        RegisterReader(entry, name, kTerminalValues, "limit", OpenHandWritten<Part::All>);
+        RegisterLibrary(entry, name, kTerminalValues);
+    }
+}
+
+void RegisterServices()
+{
+    for (const int services : {1, 10, 100}) {
+        const auto run = [services](benchmark::State& state) {
+            const auto& entry = ClassNamed(L"CSpIDCDCT10NRegInfo");
+            static std::map<int, std::shared_ptr<wqspcfg::Store>> stores;
+            const auto name = [](int service) { return kPhysicalName + std::to_wstring(service); };
+            auto& store = stores[services];
+            if (!store) {
+                store = CreateStore("services-" + std::to_string(services));
+                for (int i = 0; i < services; ++i) {
+                    StoreDevice(entry, name(i));
+                }
+            }
+            wqspcfg::SetCurrentStore(store);
+            for (auto _ : state) {
+                for (int i = 0; i < services; ++i) {
+                    wqspcfg::MemoryLog log;
+                    wqspcfg::Create(entry, CString(name(i)), true)->Load(&log);
+                    benchmark::DoNotOptimize(log.Entries().data());
+                }
+            }
+        };
+        benchmark::RegisterBenchmark(("Services/" + std::to_string(services) + "/WQSpCfg").c_str(), run)
+            ->Unit(benchmark::kMicrosecond);
+    }
+}
+
+} // namespace bench

@@ -27,6 +27,9 @@ class RawLmdb
         Check(mdb_env_create(&m_env), "mdb_env_create");
         Check(mdb_env_set_mapsize(m_env, std::size_t{4} << 30), "mdb_env_set_mapsize");
         Check(mdb_env_open(m_env, directory.c_str(), MDB_NOTLS, 0644), "mdb_env_open");
+        auto* txn = Begin(0);
+        Check(mdb_dbi_open(txn, nullptr, 0, &m_dbi), "mdb_dbi_open");
+        Check(mdb_txn_commit(txn), "mdb_txn_commit");
     }
     ~RawLmdb() { mdb_env_close(m_env); }
     RawLmdb(const RawLmdb&) = delete;
@@ -36,7 +39,6 @@ class RawLmdb
     {
         MDB_txn* txn = nullptr;
         Check(mdb_txn_begin(m_env, nullptr, flags, &txn), "mdb_txn_begin");
-        Check(mdb_dbi_open(txn, nullptr, 0, &m_dbi), "mdb_dbi_open");
         return txn;
     }
     MDB_dbi Dbi() const { return m_dbi; }

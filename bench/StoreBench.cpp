@@ -1,111 +1,94 @@
-// One value by its full path on stores of 1,000 to 1,000,000 values, beside mdb_get of as many values of the same size
-// under keys of the same length.
+// One value by its full path within one transaction, on stores of 1,000 to 1,000,000 values, beside mdb_get of the same
+// values under the same names: four bytes each (the limit), and as many as this library's record takes, which also
+// holds a check sum, the type and the name as it was written. The places are random, the same for all.
+#include "Benchmarks.h"
 #include "RawLmdb.h"
-#include "ScratchDir.h"
 
-#include "core/RegKeyEx.h"
-#include "platform/store/Session.h"
+#include "platform/store/Record.h"
 
 #include <benchmark/benchmark.h>
 
+#include <cstring>
 #include <map>
-#include <memory>
 #include <random>
-#include <string>
-#include <vector>
+
+namespace bench {
 
 namespace {
 
-// Twenty values to a key, as device keys have them.
-constexpr unsigned kValuesPerKey = 20;
-
-std::wstring Subkey(unsigned key)
+std::wstring Subkey(std::size_t position)
 {
-    return L"WQSpDevice" + std::to_wstring(key) + L"\\Control";
+    return L"WQSpDevice" + std::to_wstring(position / 20) + L"\\Control";
 }
 
-std::wstring Name(unsigned value)
+std::wstring Name(std::size_t position)
 {
-    return L"ResetOfUncommunicate" + std::to_wstring(value);
+    return L"ResetOfUncommunicate" + std::to_wstring(position % 20);
 }
 
-// Positions in random order, the same for both.
-std::vector<unsigned> Positions(std::int64_t values)
+std::vector<std::size_t> Positions(std::size_t values)
 {
     std::mt19937 random(42);
-    std::vector<unsigned> positions(100000);
+    std::vector<std::size_t> positions(100000);
     for (auto& position : positions) {
-        position = static_cast<unsigned>(random() % static_cast<std::uint64_t>(values));
+        position = random() % values;
     }
     return positions;
 }
 
-std::shared_ptr<wqspcfg::Store> FilledStore(std::int64_t values)
+void Library(benchmark::State& state, std::size_t values)
 {
-    bench::Scratch(); // outlives the stores
-    static std::map<std::int64_t, std::shared_ptr<wqspcfg::Store>> stores;
+    static std::map<std::size_t, std::shared_ptr<wqspcfg::Store>> stores;
     auto& store = stores[values];
     if (!store) {
-        wqspcfg::Error error;
-        store = wqspcfg::OpenStore("lmdb:" + (bench::Scratch() / ("store" + std::to_string(values))), {.create = true},
-                                   error);
-        if (!store) {
-            std::fprintf(stderr, "%s\n", error.message.c_str());
-            std::exit(1);
-        }
-        wqspcfg::SetCurrentStore(store);
+        store = CreateStore("values-" + std::to_string(values));
         const wqspcfg::WriteScope scope;
-        for (unsigned i = 0; i < values; ++i) {
-            CRegKeyEx::SetValue(i, CString(Name(i % kValuesPerKey)), L"%s%s", L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\",
-                                Subkey(i / kValuesPerKey));
+        for (std::size_t i = 0; i < values; ++i) {
+            CRegKeyEx::SetValue(static_cast<DWORD>(i), CString(Name(i)), L"%s%s", wqspcfg::kDeviceRoot, Subkey(i));
         }
     }
     wqspcfg::SetCurrentStore(store);
-    return store;
-}
-
-void OneValueByPath(benchmark::State& state)
-{
-    const auto values = state.range(0);
-    FilledStore(values);
-    const auto positions = Positions(values);
     std::vector<std::wstring> subkeys;
     std::vector<CString> names;
-    for (const auto position : positions) {
-        subkeys.push_back(Subkey(position / kValuesPerKey));
-        names.emplace_back(Name(position % kValuesPerKey));
+    for (const auto position : Positions(values)) {
+        subkeys.push_back(Subkey(position));
+        names.emplace_back(Name(position));
     }
     const wqspcfg::ReadScope scope;
     std::size_t i = 0;
     for (auto _ : state) {
         DWORD value = 0;
-        if (!CRegKeyEx::QueryValue(value, names[i], L"%s%s", L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\", subkeys[i])) {
+        if (!CRegKeyEx::QueryValue(value, names[i], L"%s%s", wqspcfg::kDeviceRoot, subkeys[i])) {
             state.SkipWithError("a value is missing");
         }
         benchmark::DoNotOptimize(value);
-        i = (i + 1) % positions.size();
+        i = i + 1 < names.size() ? i + 1 : 0;
     }
 }
-BENCHMARK(OneValueByPath)->RangeMultiplier(10)->Range(1000, 1000000);
 
-void RawGet(benchmark::State& state)
+void RawGet(benchmark::State& state, std::size_t values, bool asRecord)
 {
-    const auto values = state.range(0);
-    bench::Scratch();
-    static std::map<std::int64_t, std::unique_ptr<bench::RawLmdb>> stores;
-    const auto key = [](unsigned position) {
-        return "mSOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSPDEVICE" + std::to_string(position / kValuesPerKey) +
-               "\\CONTROL" + std::string("\0v", 2) + "RESETOFUNCOMMUNICATE" + std::to_string(position % kValuesPerKey);
+    const auto key = [](std::size_t position) {
+        std::string flat;
+        wqspcfg::AppendFoldedPath(wqspcfg::Hive::LocalMachine, wqspcfg::kDeviceRoot + Subkey(position), flat);
+        flat += '\0';
+        wqspcfg::AppendFolded(Name(position), flat);
+        return flat;
     };
-    auto& store = stores[values];
+    static std::map<std::pair<std::size_t, bool>, std::unique_ptr<RawLmdb>> stores;
+    auto& store = stores[{values, asRecord}];
     if (!store) {
-        store = std::make_unique<bench::RawLmdb>(bench::Scratch() / ("raw" + std::to_string(values)));
+        store = std::make_unique<RawLmdb>(Scratch() / ((asRecord ? "records-" : "raw-") + std::to_string(values)));
         auto* txn = store->Begin(0);
-        for (unsigned i = 0; i < values; ++i) {
-            char data[64] = {};
-            store->Put(txn, key(i), data, sizeof data);
+        std::string data(sizeof(DWORD), '\0');
+        for (std::size_t i = 0; i < values; ++i) {
+            if (asRecord) {
+                data.resize(wqspcfg::kRecordHeader + Name(i).size() + sizeof(DWORD));
+            }
+            std::memcpy(data.data(), &i, sizeof(DWORD));
+            store->Put(txn, key(i), data.data(), data.size());
         }
-        bench::Check(mdb_txn_commit(txn), "mdb_txn_commit");
+        Check(mdb_txn_commit(txn), "mdb_txn_commit");
     }
     std::vector<std::string> keys;
     for (const auto position : Positions(values)) {
@@ -114,14 +97,27 @@ void RawGet(benchmark::State& state)
     auto* txn = store->Begin(MDB_RDONLY);
     std::size_t i = 0;
     for (auto _ : state) {
-        auto k = bench::RawLmdb::Val(keys[i].data(), keys[i].size());
+        auto k = RawLmdb::Val(keys[i].data(), keys[i].size());
         MDB_val v;
-        bench::Check(mdb_get(txn, store->Dbi(), &k, &v), "mdb_get");
-        benchmark::DoNotOptimize(v);
-        i = (i + 1) % keys.size();
+        Check(mdb_get(txn, store->Dbi(), &k, &v), "mdb_get");
+        DWORD value = 0;
+        std::memcpy(&value, v.mv_data, sizeof value);
+        benchmark::DoNotOptimize(value);
+        i = i + 1 < keys.size() ? i + 1 : 0;
     }
     mdb_txn_abort(txn);
 }
-BENCHMARK(RawGet)->RangeMultiplier(10)->Range(1000, 1000000);
 
 } // namespace
+
+void RegisterValue()
+{
+    for (const auto values : std::initializer_list<std::size_t>{1000, 10000, 100000, 1000000}) {
+        const auto name = "Value/" + std::to_string(values);
+        benchmark::RegisterBenchmark((name + "/limit").c_str(), RawGet, values, false);
+        benchmark::RegisterBenchmark((name + "/limit, as records").c_str(), RawGet, values, true);
+        benchmark::RegisterBenchmark((name + "/WQSpCfg").c_str(), Library, values);
+    }
+}
+
+} // namespace bench
