@@ -65,7 +65,6 @@ bool CopyKey(Transaction& from, Transaction& to, Hive hive, const std::wstring& 
     return true;
 }
 
-// What a Load writes back on the way must not fail where the store cannot be written: it goes into a copy.
 std::shared_ptr<Store> CopyInMemory(Store& store, Error& error)
 {
     auto copy = std::make_shared<MemoryStore>(store.Address());
@@ -85,20 +84,40 @@ std::shared_ptr<Store> CopyInMemory(Store& store, Error& error)
     return copy;
 }
 
+// What a Load writes back on the way must not fail where the store cannot be written: from the first such write on, a
+// copy takes the store's place.
+class LoadableStore final : public Store
+{
+  public:
+    explicit LoadableStore(std::shared_ptr<Store> store) : m_store(std::move(store)) {}
+
+    std::unique_ptr<Transaction> Begin(Access access, Error& error) override
+    {
+        if (m_copy) {
+            return m_copy->Begin(access, error);
+        }
+        auto transaction = m_store->Begin(access, error);
+        if (!transaction && access == Access::Write && error.kind == ErrorKind::AccessDenied) {
+            m_copy = CopyInMemory(*m_store, error);
+            return m_copy ? m_copy->Begin(access, error) : nullptr;
+        }
+        return transaction;
+    }
+    const std::string& Address() const noexcept override { return m_store->Address(); }
+    bool RollsBack() const noexcept override { return m_store->RollsBack(); }
+
+  private:
+    std::shared_ptr<Store> m_store; // outlives the copy's beginning: the Load still reads from it
+    std::shared_ptr<Store> m_copy;
+};
+
 std::shared_ptr<Store> OpenForLoad(const StoreChoice& choice, Error& error)
 {
     auto store = choice.Open(Access::Write, false, error);
     if (!store && error.kind == ErrorKind::AccessDenied) {
         store = choice.Open(Access::Read, false, error);
     }
-    if (!store) {
-        return nullptr;
-    }
-    Error refused;
-    if (store->Begin(Access::Write, refused)) {
-        return store;
-    }
-    return refused.kind == ErrorKind::AccessDenied ? CopyInMemory(*store, error) : store;
+    return store ? std::make_shared<LoadableStore>(std::move(store)) : nullptr;
 }
 
 std::string KindOf(bool physical)

@@ -142,7 +142,7 @@ bool LmdbTree::Open(const LmdbMap& map, std::size_t size, std::uint64_t transact
     m_map = &map;
     m_size = std::min(size, map.Room());
     m_placed = false;
-    m_verified.fill({});
+    m_verified.clear();
     m_range = {};
     if (m_size < kPageHeader + sizeof m_meta) {
         return Damaged("it is cut short");
@@ -401,6 +401,8 @@ bool LmdbTree::VerifyPage(const Page& page, bool isLeaf, const Bounds& bounds, b
 // once, as long as its place in the list of those that were is not taken by another.
 bool LmdbTree::VerifyPath()
 {
+    constexpr std::size_t kRemembered = 64;
+    m_verified.resize(kRemembered);
     Verified path;
     for (std::size_t level = 0; level < m_depth; ++level) {
         const auto& page = m_levels[level].page;

@@ -80,16 +80,16 @@ class LmdbTree
 
     struct Page
     {
-        const char* data = nullptr;
-        std::uint64_t number = 0;
-        std::size_t count = 0; // nodes
-        std::size_t upper = 0; // where they begin
+        const char* data;
+        std::uint64_t number;
+        std::size_t count; // nodes
+        std::size_t upper; // where they begin
     };
 
     struct Level
     {
         Page page;
-        std::size_t index = 0;
+        std::size_t index;
     };
 
     // A page that was found whole, with the place above that leads to it and gives it its bounds.
@@ -163,8 +163,8 @@ class LmdbTree
     std::size_t m_pageSize = 0;
     lmdb::Meta m_meta{};
     std::size_t m_depth = 0;
-    std::array<Level, kMaxDepth> m_levels;
-    std::array<Verified, 64> m_verified; // by the low bits of the page's number
+    std::array<Level, kMaxDepth> m_levels; // as many as the tree is deep are set; see m_placed
+    std::vector<Verified> m_verified;      // by the low bits of the page's number; empty until one is needed
     Range m_range;
     bool m_placed = false; // m_levels lead to a leaf
     std::string m_cause;
