@@ -1,6 +1,7 @@
 #include "tools/StoreCommands.h"
 
 #include "platform/base/WinTypes.h"
+#include "platform/store/Backup.h"
 #include "platform/store/RegFile.h"
 
 #include <algorithm>
@@ -228,6 +229,32 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
         std::filesystem::remove(temporary, code);
     }
     return status;
+}
+
+int BackUp(const StoreChoice& choice, const std::string& file, const Console& console)
+{
+    BackupCounts counts;
+    Error error;
+    if (!BackUpStore(choice.Address(), file, counts, error)) {
+        return console.Fail(error);
+    }
+    console.err << file << ": " << counts.keys << " keys, " << counts.values << " values\n";
+    return kDone;
+}
+
+int Restore(const StoreChoice& choice, const std::string& file, const Console& console)
+{
+    BackupCounts counts;
+    std::string kept;
+    Error error;
+    if (!RestoreStore(choice.Address(), file, counts, kept, error)) {
+        return console.Fail(error);
+    }
+    if (!kept.empty()) {
+        console.err << "the store was damaged; its old file is kept as " << kept << '\n';
+    }
+    console.err << choice.Address() << ": " << counts.keys << " keys, " << counts.values << " values\n";
+    return kDone;
 }
 
 int Get(const StoreChoice& choice, const std::string& key, const std::string& name, const Console& console)

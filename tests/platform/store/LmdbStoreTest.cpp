@@ -551,6 +551,63 @@ TEST_F(LmdbStoreTest, ReadsWithoutTheRightToWrite)
               0);
 }
 
+TEST_F(LmdbStoreTest, WritesOnceTheRightsAreMended)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs the superuser";
+    }
+    constexpr uid_t kNobody = 65534;
+    {
+        const auto store = Create();
+        Put(*store, kKey, L"n", DwordBytes(1));
+    }
+    fs::permissions(temporary.Path(), fs::perms(0755));
+    ASSERT_EQ(chown(Directory().c_str(), kNobody, kNobody), 0);
+    int ready[2];
+    int go[2];
+    ASSERT_EQ(pipe(ready), 0);
+    ASSERT_EQ(pipe(go), 0);
+    const auto child = fork();
+    if (child == 0) {
+        char byte = 0;
+        Error error;
+        if (setgid(kNobody) != 0 || setuid(kNobody) != 0) {
+            _exit(10);
+        }
+        const auto store = OpenStore(Address(), {}, error);
+        if (!store || store->Begin(Access::Write, error) || error.kind != ErrorKind::AccessDenied) {
+            _exit(1);
+        }
+        if (write(ready[1], &byte, 1) != 1 || read(go[0], &byte, 1) != 1) {
+            _exit(11);
+        }
+        const auto transaction = store->Begin(Access::Write, error);
+        _exit(transaction ? 0 : 2);
+    }
+    char byte = 0;
+    ASSERT_EQ(read(ready[0], &byte, 1), 1);
+    ASSERT_EQ(chown(DataFile().c_str(), kNobody, kNobody), 0);
+    ASSERT_EQ(chown((Directory() + "/lock.mdb").c_str(), kNobody, kNobody), 0);
+    ASSERT_EQ(write(go[1], &byte, 1), 1);
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+
+    // A lock file that the superuser brings is the owner's.
+    fs::remove(Directory() + "/lock.mdb");
+    (void)Open(Address());
+    EXPECT_EQ(InChild([&] {
+                  Error error;
+                  const bool dropped = setgid(kNobody) == 0 && setuid(kNobody) == 0;
+                  const auto store = OpenStore(Address(), {}, error);
+                  return dropped && store && store->Begin(Access::Write, error) ? 0 : 1;
+              }),
+              0);
+    for (const int file : {ready[0], ready[1], go[0], go[1]}) {
+        close(file);
+    }
+}
+
 TEST_F(LmdbStoreTest, AStoreOpenedForReadingIsNotWritten)
 {
     {
