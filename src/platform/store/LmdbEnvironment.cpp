@@ -305,9 +305,10 @@ bool LmdbEnvironment::CheckState(const std::string& address, const std::string& 
         error = DamagedFile(address, path, tree.Cause());
         return false;
     }
+    // Every format has this record and its check sum, so that a changed bit does not pass for a newer format.
     RecordView view;
-    if (!ParseRecord(record, view)) {
-        error = DamagedFile(address, path, "its state record is cut short");
+    if (!IsSealed(NameSum(kStateName), {}, record) || !ParseRecord(record, view)) {
+        error = DamagedFile(address, path, "the check sum of its state record is wrong");
         return false;
     }
     if (view.type > kStoreFormat) {
@@ -317,8 +318,8 @@ bool LmdbEnvironment::CheckState(const std::string& address, const std::string& 
         return false;
     }
     std::uint64_t number = 0;
-    if (!IsSealed(NameSum(kStateName), {}, record) || view.data.size() != sizeof number) {
-        error = DamagedFile(address, path, "the check sum of its state record is wrong");
+    if (view.data.size() != sizeof number) {
+        error = DamagedFile(address, path, "its state record has an impossible length");
         return false;
     }
     std::memcpy(&number, view.data.data(), sizeof number);

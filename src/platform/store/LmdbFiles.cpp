@@ -126,12 +126,6 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
         error = DamagedFile(address, path, "it does not begin as a store does");
         return false;
     }
-    if (metas[0].version != lmdb::kDataVersion) {
-        error = {ErrorKind::NewerFormat, Prefix(address) + path + " has LMDB's data version " +
-                                             std::to_string(metas[0].version) + "; this program knows version " +
-                                             std::to_string(lmdb::kDataVersion) + " only"};
-        return false;
-    }
     const std::size_t pageSize = metas[0].freeList.pad;
     if (pageSize < lmdb::kMinPageSize || pageSize > lmdb::kMaxPageSize || !std::has_single_bit(pageSize)) {
         error = DamagedFile(address, path, "its page size is " + std::to_string(pageSize));
@@ -142,8 +136,14 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
         return false;
     }
     if (!ReadMeta(file.Get(), pageSize, metas[1]) || metas[1].magic != lmdb::kMagic ||
-        metas[1].version != lmdb::kDataVersion || metas[1].freeList.pad != pageSize) {
-        error = DamagedFile(address, path, "its second head is not that of a store");
+        metas[1].version != metas[0].version || metas[1].freeList.pad != pageSize) {
+        error = DamagedFile(address, path, "its second head is not that of a store, or another than its first");
+        return false;
+    }
+    if (metas[0].version != lmdb::kDataVersion) {
+        error = {ErrorKind::NewerFormat, Prefix(address) + path + " has LMDB's data version " +
+                                             std::to_string(metas[0].version) + "; this program knows version " +
+                                             std::to_string(lmdb::kDataVersion) + " only"};
         return false;
     }
     for (const auto& meta : metas) {
