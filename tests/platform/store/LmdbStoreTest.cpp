@@ -147,6 +147,30 @@ TEST_F(LmdbStoreTest, RefusesANewerFormat)
     EXPECT_EQ(ReadFile(DataFile()), content);
 }
 
+TEST_F(LmdbStoreTest, DoesNotTakeAChangedBitForANewerFormat)
+{
+    Create().reset();
+    const auto whole = ReadFile(DataFile());
+    constexpr std::size_t kVersion = 20; // behind a page's header and the magic number
+    auto content = whole;
+    content[kVersion] = 2;
+    WriteFile(DataFile(), content);
+    EXPECT_EQ(FailToOpen().kind, ErrorKind::Damaged);
+    content[4096 + kVersion] = 2;
+    WriteFile(DataFile(), content);
+    EXPECT_EQ(FailToOpen().kind, ErrorKind::NewerFormat);
+
+    content = whole;
+    const std::string_view name("\0state", 6);
+    for (std::size_t at = 8192; (at = content.find(name, at)) != std::string::npos; ++at) {
+        content[at + name.size() + 4] = 2; // behind the check sum
+    }
+    WriteFile(DataFile(), content);
+    Error error;
+    EXPECT_FALSE(Open(Address())->Begin(Access::Read, error));
+    EXPECT_EQ(error.kind, ErrorKind::Damaged) << error.message;
+}
+
 TEST_F(LmdbStoreTest, RefusesNamesThatAreLongerThanAnEntryCanBe)
 {
     const auto store = Create();
