@@ -202,8 +202,20 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
     if (file.empty()) {
         return write(console.out);
     }
+    std::filesystem::path path(std::u8string(file.begin(), file.end()));
+    std::error_code code;
+    if (std::filesystem::exists(path, code)) {
+        // A link stays a link, and a device or pipe is written to.
+        if (const auto real = std::filesystem::canonical(path, code); !code) {
+            path = real;
+        }
+        if (!std::filesystem::is_regular_file(path, code)) {
+            std::ofstream output(path, std::ios::binary);
+            const int status = output ? write(output) : kDone;
+            return output.flush() ? status : console.Fail(kFailed, file + ": cannot be written");
+        }
+    }
     // An export that fails leaves the old file.
-    const std::filesystem::path path(std::u8string(file.begin(), file.end()));
     auto temporary = path;
     temporary += ".tmp";
     int status = kDone;
@@ -218,7 +230,6 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
             status = console.Fail(kFailed, file + ": cannot be written");
         }
     }
-    std::error_code code;
     if (status == kDone) {
         std::filesystem::rename(temporary, path, code);
         if (code) {

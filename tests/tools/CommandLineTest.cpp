@@ -191,6 +191,21 @@ TEST_F(CommandLineTest, ABackupBringsTheStoreBack)
     EXPECT_EQ(m_out, "38400\n");
     EXPECT_EQ(Run({"restore", File("other") + "/lock.mdb"}), 3);
     EXPECT_NE(m_err.find("lock.mdb"), std::string::npos) << m_err;
+
+    // What a link leads to is written, and the link stays; a device is no file to be exchanged for another.
+    std::ofstream(File("target")).close();
+    std::filesystem::create_symlink(File("target"), File("link"));
+    for (const auto* command : {"backup", "export"}) {
+        std::filesystem::resize_file(File("target"), 0);
+        ASSERT_EQ(Run(command == std::string("backup") ? std::vector<std::string>{command, File("link")}
+                                                       : std::vector<std::string>{command, "-o", File("link")}),
+                  0)
+            << m_err;
+        EXPECT_TRUE(std::filesystem::is_symlink(File("link")));
+        EXPECT_GT(std::filesystem::file_size(File("target")), 0U);
+    }
+    EXPECT_EQ(Run({"export", "-o", "/dev/full"}), 3);
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
 }
 
 TEST_F(CommandLineTest, AServiceIsLoadedByTheModelThatItTells)

@@ -232,13 +232,16 @@ bool RestoreAside(const std::string& address, const std::string& directory, Back
 
 } // namespace
 
-bool BackUpLmdb(const std::string& address, const std::string& directory, const std::string& path, BackupCounts& counts,
+bool BackUpLmdb(const std::string& address, const std::string& directory, const std::string& file, BackupCounts& counts,
                 Error& error)
 {
     const auto environment = LmdbEnvironment::Open(address, directory, false, 0, error);
     if (!environment) {
         return false;
     }
+    // A link stays a link.
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(file.c_str(), nullptr), &std::free);
+    const auto path = real ? std::string(real.get()) : file;
     struct stat old = {};
     if (stat(path.c_str(), &old) == 0) {
         if (!S_ISREG(old.st_mode)) {
@@ -253,10 +256,10 @@ bool BackUpLmdb(const std::string& address, const std::string& directory, const 
         }
     }
     struct stat data = {};
-    TemporaryFile file(path);
+    TemporaryFile fresh(path);
     // It may hold passwords: whoever cannot read the store cannot read its backup.
-    if (file.Get() < 0 || stat(environment->DataPath().c_str(), &data) != 0 ||
-        fchmod(file.Get(), data.st_mode & 0777) != 0) {
+    if (fresh.Get() < 0 || stat(environment->DataPath().c_str(), &data) != 0 ||
+        fchmod(fresh.Get(), data.st_mode & 0777) != 0) {
         error = LmdbError({}, "write", path, errno);
         return false;
     }
@@ -267,7 +270,7 @@ bool BackUpLmdb(const std::string& address, const std::string& directory, const 
     bool isSound = true;
     int status = 0;
     const auto room = 2 * static_cast<std::size_t>(data.st_size) + kSpareRoom;
-    auto result = WriteStore(file.Path(), room, [&](MDB_txn* txn, MDB_dbi dbi) {
+    auto result = WriteStore(fresh.Path(), room, [&](MDB_txn* txn, MDB_dbi dbi) {
         isSound = CopyRecords(state.tree, txn, dbi, counts, status);
         return isSound ? status : MDB_CORRUPTED;
     });
@@ -275,7 +278,7 @@ bool BackUpLmdb(const std::string& address, const std::string& directory, const 
         error = environment->DescribeDamage(address, state.tree.Cause());
         return false;
     }
-    result = result != 0 ? LmdbWriteStatus(file.Path(), result) : file.RenameTo(path);
+    result = result != 0 ? LmdbWriteStatus(fresh.Path(), result) : fresh.RenameTo(path);
     if (result != 0) {
         error = LmdbError({}, "write", path, result);
     }

@@ -5,7 +5,7 @@
 
 namespace wqspcfg {
 
-bool BackUpLmdb(const std::string& address, const std::string& directory, const std::string& path, BackupCounts& counts,
+bool BackUpLmdb(const std::string& address, const std::string& directory, const std::string& file, BackupCounts& counts,
                 Error& error);
 bool RestoreLmdb(const std::string& address, const std::string& directory, const std::string& path,
                  BackupCounts& counts, std::string& kept, Error& error);

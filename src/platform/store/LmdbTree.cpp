@@ -627,6 +627,10 @@ bool LmdbTree::VerifyBranch(const lmdb::Tree& tree, std::uint64_t number, std::s
 bool LmdbTree::VerifyStructure()
 {
     m_cause.clear();
+    // They tell LMDB in which order to look for names, and other things that a store does not have.
+    if (m_meta.main.flags != 0 || (m_meta.freeList.flags & lmdb::kTreeFlags) != lmdb::kIntegerNames) {
+        return Damaged("its head gives an impossible kind of tree");
+    }
     Usage usage;
     usage.inUse.resize(m_meta.lastPage + 1);
     for (const auto* tree : {&m_meta.main, &m_meta.freeList}) {

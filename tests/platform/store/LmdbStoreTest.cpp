@@ -360,6 +360,21 @@ TEST_F(LmdbDamageTest, SingleBytesChanged)
     EXPECT_GT(errors, 50);
 }
 
+TEST_F(LmdbStoreTest, DoesNotWriteWhereAHeadGivesAnotherOrderOfNames)
+{
+    CreateRich();
+    auto content = ReadFile(DataFile());
+    for (const std::size_t head : {0U, 4096U}) {
+        content[head + sizeof(lmdb::PageHeader) + offsetof(lmdb::Meta, main) + offsetof(lmdb::Tree, flags)] = 2;
+    }
+    WriteFile(DataFile(), content);
+    const auto store = Open(Address());
+    Error error;
+    EXPECT_FALSE(store->Begin(Access::Write, error));
+    EXPECT_EQ(error.kind, ErrorKind::Damaged) << error.message;
+    EXPECT_EQ(ReadFile(DataFile()), content);
+}
+
 TEST_F(LmdbStoreTest, NamesTheDamagedValue)
 {
     {
