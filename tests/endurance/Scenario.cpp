@@ -176,7 +176,7 @@ std::string Dispenser::CheckGeneration(std::uint32_t& generation)
                 return mixed("a number of card unit " + std::to_string(i), std::to_string(number));
             }
         }
-        for (const auto& [held, which] : {std::pair(unit.lpszCardName, 2 + i), std::pair(unit.lpszHopper, 6 + i)}) {
+        for (const auto& [held, which] : {std::pair(+unit.lpszCardName, 2 + i), std::pair(+unit.lpszHopper, 6 + i)}) {
             if (text(held) != TextOf(generation, which)) {
                 return mixed("a text of card unit " + std::to_string(i), '"' + text(held) + '"');
             }
