@@ -171,10 +171,36 @@ Result BackupScenario(const Plan& plan)
     if (auto why = reader.Wait(std::chrono::seconds(60)); !why.empty()) {
         return Failed("the reader beside the restores: " + why);
     }
+
+    // Restoring in place of a damaged file, killed: the next restore brings the store back.
+    SetCurrentStore(nullptr);
+    int replaced = 0;
+    for (; replaced < (plan.isFull ? 200 : 20); ++replaced) {
+        std::filesystem::resize_file(directory + "/data.mdb", 8192);
+        Child restoring([&](const Channel&) { return Restore(directory, files[0]); });
+        pause(4000);
+        auto why = restoring.Kill() ? std::string() : restoring.Failure();
+        if (!std::filesystem::exists(directory + "/data.mdb")) {
+            why = "the store's file is gone";
+        }
+        if (why.empty()) {
+            why = InChild([&] {
+                auto failure = Restore(directory, files[1]);
+                if (failure.empty()) {
+                    failure = UseStore(directory).message;
+                }
+                return failure.empty() ? ExpectGeneration(kGenerations[1], kGenerations[1]) : failure;
+            });
+        }
+        if (!why.empty()) {
+            return Failed("restoring a damaged store, " + std::to_string(replaced) + ": " + why);
+        }
+    }
     return {{},
             std::to_string(backups) + " backups beside " + std::to_string(acknowledged) + " Saves, " +
                 std::to_string(killed) + " of them killed; " + std::to_string(restores) +
-                " restores beside a reader, " + std::to_string(killedRestores) + " of them killed",
+                " restores beside a reader, " + std::to_string(killedRestores) + " of them killed; " +
+                std::to_string(replaced) + " restores of a damaged store killed",
             {}};
 }
 

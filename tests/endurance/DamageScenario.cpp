@@ -5,6 +5,7 @@
 #include "platform/store/RegFile.h"
 
 #include <algorithm>
+#include <numeric>
 #include <sstream>
 #include <vector>
 
@@ -117,9 +118,9 @@ class Damage
         if (why = Use(m_whole); !why.empty()) {
             return Failed("the undamaged store: " + why);
         }
+        const auto begin = Clock::now();
         const auto end = m_plan.End();
-        Pages();
-        const auto pages = m_whole.size() / kPage;
+        const auto pages = Pages(begin + (end - begin) / 2);
         LockFiles();
         int rounds = 0;
         while (m_failure.empty() && (m_plan.isFull ? rounds < kFullRounds : Clock::now() < end)) {
@@ -132,9 +133,8 @@ class Damage
             return Failed("no damage was ever noticed");
         }
         return {{},
-                std::to_string(m_trials) + " damaged files (" + std::to_string(pages) +
-                    " pages cut, zeroed, random and "
-                    "exchanged; " +
+                std::to_string(m_trials) + " damaged files (" + std::to_string(pages) + " of " +
+                    std::to_string(m_whole.size() / kPage) + " pages cut, zeroed, random and exchanged; " +
                     std::to_string(rounds) + " of random bytes): " + std::to_string(m_errors) + " gave an error, " +
                     std::to_string(m_trials - m_errors) + " were right all the same; " + std::to_string(m_restores) +
                     " restored from a backup; " + std::to_string(m_refused) + " damaged backups refused",
@@ -245,9 +245,18 @@ class Damage
         m_failure = why + "; the damaged file is kept as " + kept;
     }
 
-    void Pages()
+    // All pages in any order; in the short form, as many as there is time for. Returns how many.
+    std::size_t Pages(Clock::time_point end)
     {
-        for (std::size_t page = 0; page * kPage < m_whole.size(); ++page) {
+        std::vector<std::size_t> pages(m_whole.size() / kPage);
+        std::iota(pages.begin(), pages.end(), std::size_t{0});
+        std::shuffle(pages.begin(), pages.end(), m_random);
+        std::size_t count = 0;
+        for (const auto page : pages) {
+            if (!m_failure.empty() || (!m_plan.isFull && Clock::now() >= end)) {
+                break;
+            }
+            ++count;
             const auto name = " (page " + std::to_string(page) + ')';
             const auto at = page * kPage;
             Try(std::string_view(m_whole).substr(0, at), "cut" + name, true);
@@ -265,6 +274,7 @@ class Damage
             content.replace(other, kPage, m_whole, at, kPage);
             Try(content, "exchanged" + name, false);
         }
+        return count;
     }
 
     void RandomBytes(int round)
