@@ -237,6 +237,11 @@ bool CreateStore(const std::string& address, const std::string& directory, Error
     const auto target = directory + "/data.mdb";
     const auto source = fresh + "/data.mdb";
     auto status = WriteStore(source, kLeastMapSize, {});
+    struct stat owner = {};
+    if (status == 0 && geteuid() == 0 && stat(directory.c_str(), &owner) == 0 &&
+        chown(source.c_str(), owner.st_uid, owner.st_gid) != 0) {
+        status = errno;
+    }
     if (status == 0 && link(source.c_str(), target.c_str()) != 0 && errno != EEXIST) {
         // Some file systems have no hard links.
         status = rename(source.c_str(), target.c_str()) != 0 ? errno : 0;

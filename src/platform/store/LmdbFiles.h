@@ -63,7 +63,7 @@ using FillStore = std::function<int(MDB_txn* txn, MDB_dbi dbi)>;
 int WriteStore(const std::string& path, std::size_t mapSize, const FillStore& fill);
 
 // Makes an empty store where there is none. The file appears whole or not at all, and only one of several processes
-// that do this at once brings it.
+// that do this at once brings it. What the superuser makes belongs to the directory's owner.
 bool CreateStore(const std::string& address, const std::string& directory, Error& error);
 
 } // namespace wqspcfg

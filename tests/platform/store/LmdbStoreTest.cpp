@@ -632,16 +632,19 @@ TEST_F(LmdbStoreTest, WritesOnceTheRightsAreMended)
     EXPECT_EQ(waitpid(child, &status, 0), child);
     EXPECT_EQ(status, 0);
 
-    // A lock file that the superuser brings is the owner's.
-    fs::remove(Directory() + "/lock.mdb");
-    (void)Open(Address());
-    EXPECT_EQ(InChild([&] {
-                  Error error;
-                  const bool dropped = setgid(kNobody) == 0 && setuid(kNobody) == 0;
-                  const auto store = OpenStore(Address(), {}, error);
-                  return dropped && store && store->Begin(Access::Write, error) ? 0 : 1;
-              }),
-              0);
+    // A lock file that the superuser brings is the owner's, and so is a store.
+    for (const auto* name : {"lock.mdb", "data.mdb"}) {
+        fs::remove(Directory() + '/' + name);
+        (void)Open(Address(), {.create = true});
+        EXPECT_EQ(InChild([&] {
+                      Error error;
+                      const bool dropped = setgid(kNobody) == 0 && setuid(kNobody) == 0;
+                      const auto store = OpenStore(Address(), {}, error);
+                      return dropped && store && store->Begin(Access::Write, error) ? 0 : 1;
+                  }),
+                  0)
+            << name;
+    }
     for (const int file : {ready[0], ready[1], go[0], go[1]}) {
         close(file);
     }
