@@ -69,6 +69,15 @@ int Execute(std::vector<std::string> arguments, const Console& console)
     exporting->add_option("KEY", key, kKeyHelp);
     exporting->add_option("-o", file, "The file to write, in place of standard output")->option_text("FILE");
 
+    add("backup", "Write a consistent copy of the embedded store, which may be in use, to a file",
+        [&] { return BackUp(store, file, console); })
+        ->add_option("FILE", file, "The file to write; what it held is replaced once the copy is complete")
+        ->required();
+    add("restore", "Check a backup and replace the embedded store's whole content by it, in one step",
+        [&] { return Restore(store, file, console); })
+        ->add_option("FILE", file, "A file that backup has written")
+        ->required();
+
     std::string name;
     auto* get = add("get", "Print one value", [&] { return Get(store, key, name, console); });
     get->add_option("KEY", key, kKeyHelp)->required();

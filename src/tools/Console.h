@@ -49,10 +49,12 @@ struct StoreChoice
     std::string address; // empty: the default
     bool view32 = false;
 
+    std::string Address() const { return address.empty() ? DefaultStoreAddress() : address; }
+
     std::shared_ptr<Store> Open(Access access, bool create, Error& error) const
     {
         const OpenOptions options{.readOnly = access == Access::Read, .create = create, .view32 = view32};
-        return OpenStore(address.empty() ? DefaultStoreAddress() : address, options, error);
+        return OpenStore(Address(), options, error);
     }
 };
 

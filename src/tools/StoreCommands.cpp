@@ -1,6 +1,7 @@
 #include "tools/StoreCommands.h"
 
 #include "platform/base/WinTypes.h"
+#include "platform/store/Backup.h"
 #include "platform/store/RegFile.h"
 
 #include <algorithm>
@@ -201,8 +202,20 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
     if (file.empty()) {
         return write(console.out);
     }
+    std::filesystem::path path(std::u8string(file.begin(), file.end()));
+    std::error_code code;
+    if (std::filesystem::exists(path, code)) {
+        // A link stays a link, and a device or pipe is written to.
+        if (const auto real = std::filesystem::canonical(path, code); !code) {
+            path = real;
+        }
+        if (!std::filesystem::is_regular_file(path, code)) {
+            std::ofstream output(path, std::ios::binary);
+            const int status = output ? write(output) : kDone;
+            return output.flush() ? status : console.Fail(kFailed, file + ": cannot be written");
+        }
+    }
     // An export that fails leaves the old file.
-    const std::filesystem::path path(std::u8string(file.begin(), file.end()));
     auto temporary = path;
     temporary += ".tmp";
     int status = kDone;
@@ -217,7 +230,6 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
             status = console.Fail(kFailed, file + ": cannot be written");
         }
     }
-    std::error_code code;
     if (status == kDone) {
         std::filesystem::rename(temporary, path, code);
         if (code) {
@@ -228,6 +240,32 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
         std::filesystem::remove(temporary, code);
     }
     return status;
+}
+
+int BackUp(const StoreChoice& choice, const std::string& file, const Console& console)
+{
+    BackupCounts counts;
+    Error error;
+    if (!BackUpStore(choice.Address(), file, counts, error)) {
+        return console.Fail(error);
+    }
+    console.err << file << ": " << counts.keys << " keys, " << counts.values << " values\n";
+    return kDone;
+}
+
+int Restore(const StoreChoice& choice, const std::string& file, const Console& console)
+{
+    BackupCounts counts;
+    std::string kept;
+    Error error;
+    if (!RestoreStore(choice.Address(), file, counts, kept, error)) {
+        return console.Fail(error);
+    }
+    if (!kept.empty()) {
+        console.err << "the store was damaged; its old file is kept as " << kept << '\n';
+    }
+    console.err << choice.Address() << ": " << counts.keys << " keys, " << counts.values << " values\n";
+    return kDone;
 }
 
 int Get(const StoreChoice& choice, const std::string& key, const std::string& name, const Console& console)

@@ -12,6 +12,8 @@ namespace wqspcfg::tools {
 int Import(const StoreChoice& choice, const std::vector<std::string>& files, const Console& console);
 // An empty key exports the whole store; an empty file is standard output.
 int Export(const StoreChoice& choice, const std::string& key, const std::string& file, const Console& console);
+int BackUp(const StoreChoice& choice, const std::string& file, const Console& console);
+int Restore(const StoreChoice& choice, const std::string& file, const Console& console);
 int Get(const StoreChoice& choice, const std::string& key, const std::string& name, const Console& console);
 
 enum class DataType

@@ -78,6 +78,8 @@ TEST_F(CommandLineTest, WrongUsageIsStatus2)
                                                       {"nonsense"},
                                                       {"get"},
                                                       {"get", "HKLM\\a"},
+                                                      {"backup"},
+                                                      {"restore", "a", "b"},
                                                       {"get", "NOHIVE\\a", "b"},
                                                       {"set", "HKLM\\a", "b", "1", "--type", "qword"},
                                                       {"delete", "HKLM"},
@@ -100,6 +102,7 @@ TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsStatus3AndIsNamed)
     for (const std::vector<std::string>& arguments : {std::vector<std::string>{"get", "HKLM\\a", "b"},
                                                       {"ls"},
                                                       {"export"},
+                                                      {"backup", File("b")},
                                                       {"services"},
                                                       {"load", "Svc"},
                                                       {"save", "Svc"},
@@ -112,6 +115,10 @@ TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsStatus3AndIsNamed)
     EXPECT_EQ(RunOn("reg:" + File("none.reg"), {"ls"}), 3);
     EXPECT_EQ(RunOn("nonsense", {"ls"}), 3);
     EXPECT_EQ(Run({"import", File("none.reg")}), 3);
+    EXPECT_EQ(RunOn("memory:", {"backup", File("b")}), 3);
+    EXPECT_NE(m_err.find("memory:"), std::string::npos) << m_err;
+    EXPECT_FALSE(std::filesystem::exists(File("b")));
+    EXPECT_EQ(RunOn("memory:", {"restore", File("b")}), 3);
 }
 
 #if !defined(_WIN32)
@@ -167,6 +174,38 @@ TEST_F(CommandLineTest, ExportsComeBackTheSame)
     EXPECT_NE(m_err.find("standard input"), std::string::npos) << m_err;
     EXPECT_NE(m_err.find('4'), std::string::npos) << m_err;
     EXPECT_EQ(Run({"ls", "HKLM\\New"}), 1);
+}
+
+TEST_F(CommandLineTest, ABackupBringsTheStoreBack)
+{
+    MakeTerminal();
+    ASSERT_EQ(Run({"backup", File("b")}), 0) << m_err;
+    EXPECT_EQ(m_out, "");
+    EXPECT_NE(m_err.find("4 values"), std::string::npos) << m_err;
+    ASSERT_EQ(Run({"set", kComm, "BaudRate", "9600"}), 0);
+    ASSERT_EQ(Run({"restore", File("b")}), 0) << m_err;
+    ASSERT_EQ(Run({"get", kComm, "BaudRate"}), 0);
+    EXPECT_EQ(m_out, "38400\n");
+    ASSERT_EQ(RunOn("lmdb:" + File("other"), {"restore", File("b")}), 0) << m_err;
+    EXPECT_EQ(RunOn("lmdb:" + File("other"), {"get", kComm, "BaudRate"}), 0);
+    EXPECT_EQ(m_out, "38400\n");
+    EXPECT_EQ(Run({"restore", File("other") + "/lock.mdb"}), 3);
+    EXPECT_NE(m_err.find("lock.mdb"), std::string::npos) << m_err;
+
+    // What a link leads to is written, and the link stays; a device is no file to be exchanged for another.
+    std::ofstream(File("target")).close();
+    std::filesystem::create_symlink(File("target"), File("link"));
+    for (const auto* command : {"backup", "export"}) {
+        std::filesystem::resize_file(File("target"), 0);
+        ASSERT_EQ(Run(command == std::string("backup") ? std::vector<std::string>{command, File("link")}
+                                                       : std::vector<std::string>{command, "-o", File("link")}),
+                  0)
+            << m_err;
+        EXPECT_TRUE(std::filesystem::is_symlink(File("link")));
+        EXPECT_GT(std::filesystem::file_size(File("target")), 0U);
+    }
+    EXPECT_EQ(Run({"export", "-o", "/dev/full"}), 3);
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
 }
 
 TEST_F(CommandLineTest, AServiceIsLoadedByTheModelThatItTells)

@@ -1,5 +1,6 @@
 #include "platform/store/LmdbEnvironment.h"
 
+#include "platform/store/LmdbFiles.h"
 #include "platform/store/LmdbFormat.h"
 #include "platform/store/Record.h"
 
@@ -25,9 +26,6 @@ namespace {
 
 // Far beyond any terminal's store. It is address space only; the file grows with its content.
 constexpr std::size_t kDefaultMapSize = std::size_t{64} << 30;
-constexpr std::size_t kLeastMapSize = std::size_t{1} << 20;
-constexpr unsigned kMaxReaders = 512;
-constexpr std::string_view kStateName{"\0state", 6};
 
 // How long readers may go on with a file that has been removed or replaced before they notice; looking costs more than
 // many a read. Writers look every time.
@@ -67,240 +65,6 @@ struct Registry
     }
 };
 
-ErrorKind KindOf(int status)
-{
-    switch (status) {
-    case ENOENT:
-    case ENOTDIR:
-        return ErrorKind::NotFound;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return ErrorKind::AccessDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-    case MDB_MAP_FULL:
-    case MDB_TXN_FULL:
-        return ErrorKind::NoSpace;
-    case ENAMETOOLONG:
-    case MDB_BAD_VALSIZE:
-        return ErrorKind::TooLong;
-    case MDB_CORRUPTED:
-    case MDB_PAGE_NOTFOUND:
-    case MDB_INVALID:
-    case MDB_VERSION_MISMATCH:
-    case MDB_CURSOR_FULL:
-        return ErrorKind::Damaged;
-    default:
-        return ErrorKind::Io;
-    }
-}
-
-std::string Words(int status)
-{
-    switch (status) {
-    case MDB_MAP_FULL:
-        return "the address space reserved for the store is full; it grows with the next write";
-    case MDB_TXN_FULL:
-        return "too many changes for one transaction";
-    case MDB_MAP_RESIZED:
-        return "another process has enlarged the store; end this process's transactions on it and try again";
-    case MDB_READERS_FULL:
-        return "too many processes and threads are reading it";
-    default:
-        return status > 0 ? std::generic_category().message(status) : std::string(mdb_strerror(status));
-    }
-}
-
-Error MakeError(const std::string& address, std::string_view action, const std::string& path, int status)
-{
-    return {KindOf(status), address + ": cannot " + std::string(action) + ' ' + path + ": " + Words(status)};
-}
-
-Error DamagedFile(const std::string& address, const std::string& path, std::string_view cause)
-{
-    return {ErrorKind::Damaged, address + ": " + path + " is damaged: " + std::string(cause)};
-}
-
-bool ReadMeta(int file, std::size_t offset, lmdb::Meta& meta)
-{
-    const auto size = static_cast<ssize_t>(sizeof meta);
-    return pread(file, &meta, sizeof meta, static_cast<off_t>(offset + sizeof(lmdb::PageHeader))) == size;
-}
-
-class FileDescriptor
-{
-  public:
-    explicit FileDescriptor(int fd) : m_fd(fd) {}
-    ~FileDescriptor()
-    {
-        if (m_fd >= 0) {
-            close(m_fd);
-        }
-    }
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-    int Get() const { return m_fd; }
-
-  private:
-    int m_fd;
-};
-
-// What LMDB takes on trust: that the file is as long as it says and that both of its heads are sound.
-bool CheckFile(const std::string& address, const std::string& path, struct stat& status, Error& error)
-{
-    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.Get() < 0 || fstat(file.Get(), &status) != 0) {
-        error = MakeError(address, "open", path, errno);
-        return false;
-    }
-    if (!S_ISREG(status.st_mode)) {
-        error = {ErrorKind::BadArgument, address + ": " + path + " is not a regular file"};
-        return false;
-    }
-    const auto size = static_cast<std::size_t>(status.st_size);
-    std::array<lmdb::Meta, 2> metas{};
-    if (!ReadMeta(file.Get(), 0, metas[0])) {
-        error = DamagedFile(address, path, "it has only " + std::to_string(size) + " bytes");
-        return false;
-    }
-    if (metas[0].magic != lmdb::kMagic) {
-        error = DamagedFile(address, path, "it does not begin as a store does");
-        return false;
-    }
-    if (metas[0].version != lmdb::kDataVersion) {
-        error = {ErrorKind::NewerFormat, address + ": " + path + " has LMDB's data version " +
-                                             std::to_string(metas[0].version) + "; this program knows version " +
-                                             std::to_string(lmdb::kDataVersion) + " only"};
-        return false;
-    }
-    const std::size_t pageSize = metas[0].freeList.pad;
-    if (pageSize < lmdb::kMinPageSize || pageSize > lmdb::kMaxPageSize || !std::has_single_bit(pageSize)) {
-        error = DamagedFile(address, path, "its page size is " + std::to_string(pageSize));
-        return false;
-    }
-    if (size < 2 * pageSize || size % pageSize != 0) {
-        error = DamagedFile(address, path, "its length of " + std::to_string(size) + " bytes is cut short");
-        return false;
-    }
-    if (!ReadMeta(file.Get(), pageSize, metas[1]) || metas[1].magic != lmdb::kMagic ||
-        metas[1].version != lmdb::kDataVersion || metas[1].freeList.pad != pageSize) {
-        error = DamagedFile(address, path, "its second head is not that of a store");
-        return false;
-    }
-    for (const auto& meta : metas) {
-        if (meta.lastPage > lmdb::MostPages(size / pageSize)) {
-            error = DamagedFile(address, path, "a head gives an impossible length");
-            return false;
-        }
-        for (const auto* tree : {&meta.freeList, &meta.main}) {
-            if (tree->root != lmdb::kNoPage && (tree->root < 2 || tree->root > meta.lastPage)) {
-                error = DamagedFile(address, path, "a head points outside the store");
-                return false;
-            }
-        }
-    }
-    return true;
-}
-
-// Whether there is no room, or no leave, to make the file noticeably longer.
-bool IsNearlyFull(const std::string& path)
-{
-    constexpr std::uint64_t kLittle = std::uint64_t{4} << 20;
-    struct statvfs system = {};
-    struct stat file = {};
-    rlimit limit{};
-    if (statvfs(path.c_str(), &system) == 0 && std::uint64_t{system.f_bavail} * system.f_frsize < kLittle) {
-        return true;
-    }
-    return stat(path.c_str(), &file) == 0 && getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
-           static_cast<std::uint64_t>(file.st_size) + kLittle > limit.rlim_cur;
-}
-
-int Sync(const std::string& directory)
-{
-    const FileDescriptor file(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return file.Get() < 0 || fsync(file.Get()) != 0 ? errno : 0;
-}
-
-// LMDB writes to its lock file through memory: on a full file system that would end the process where the file has no
-// blocks yet. Only while this process has no environment on it, whose locks closing the file would drop.
-int ReserveLockFile(const std::string& directory)
-{
-    constexpr off_t kSize = 33 << 10; // for kMaxReaders
-    const auto path = directory + "/lock.mdb";
-    const FileDescriptor file(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0664));
-    struct stat status = {};
-    if (file.Get() < 0 || fstat(file.Get(), &status) != 0 || status.st_blocks * 512 >= kSize) {
-        return 0;
-    }
-    const auto result = fallocate(file.Get(), 0, 0, kSize) != 0 ? errno : 0;
-    return result == ENOSPC || result == EDQUOT || result == EFBIG ? result : 0;
-}
-
-// Writes an empty store into `directory`, which no one else uses.
-int WriteEmptyStore(const std::string& directory)
-{
-    MDB_env* env = nullptr;
-    auto status = mdb_env_create(&env);
-    if (status != 0) {
-        return status;
-    }
-    MDB_txn* txn = nullptr;
-    MDB_dbi dbi = 0;
-    (void)mdb_env_set_mapsize(env, kLeastMapSize);
-    status = mdb_env_open(env, directory.c_str(), MDB_NOLOCK, 0664);
-    if (status == 0) {
-        status = mdb_txn_begin(env, nullptr, 0, &txn);
-    }
-    if (status == 0) {
-        status = mdb_dbi_open(txn, nullptr, 0, &dbi);
-        if (status == 0) {
-            status = LmdbEnvironment::PutState(txn, dbi);
-        }
-        if (status == 0) {
-            status = mdb_txn_commit(txn);
-        } else {
-            mdb_txn_abort(txn);
-        }
-    }
-    mdb_env_close(env);
-    return status;
-}
-
-// Makes an empty store where there is none. The file appears whole or not at all, and only one of several processes
-// that do this at once brings it.
-bool CreateStore(const std::string& address, const std::string& directory, Error& error)
-{
-    std::error_code failure;
-    std::filesystem::create_directories(directory, failure);
-    if (failure) {
-        error = MakeError(address, "create", directory, failure.value());
-        return false;
-    }
-    std::string fresh = directory + "/.new-XXXXXX";
-    if (mkdtemp(fresh.data()) == nullptr) {
-        error = MakeError(address, "create a store in", directory, errno);
-        return false;
-    }
-    const auto target = directory + "/data.mdb";
-    const auto source = fresh + "/data.mdb";
-    auto status = WriteEmptyStore(fresh);
-    if (status == 0 && link(source.c_str(), target.c_str()) != 0 && errno != EEXIST) {
-        // Some file systems have no hard links.
-        status = rename(source.c_str(), target.c_str()) != 0 ? errno : 0;
-    }
-    std::filesystem::remove_all(fresh, failure);
-    if (status == 0) {
-        status = Sync(directory);
-    }
-    if (status != 0) {
-        error = MakeError(address, "create a store in", directory, status);
-    }
-    return status == 0;
-}
-
 } // namespace
 
 LmdbEnvironment::LmdbEnvironment(std::string directory, std::size_t mapSize)
@@ -329,7 +93,7 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
     }
     const std::unique_ptr<char, decltype(&std::free)> real(realpath(directory.c_str(), nullptr), &std::free);
     if (!real) {
-        error = MakeError(address, "open", directory, errno);
+        error = LmdbError(address, "open", directory, errno);
         return nullptr;
     }
     const std::string path(real.get());
@@ -362,6 +126,80 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
     return shared;
 }
 
+bool LmdbEnvironment::Replace(const std::string& address, const std::string& directory, const std::string& fresh,
+                              std::string& kept, Error& error)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(directory.c_str(), nullptr), &std::free);
+    if (!real) {
+        error = LmdbError(address, "open", directory, errno);
+        return false;
+    }
+    auto& registry = Registry::Get();
+    const std::lock_guard opening(registry.mutex);
+    if (registry.open.contains(real.get())) {
+        error = {ErrorKind::Io, address + ": this process has the store open, so that it cannot be exchanged"};
+        return false;
+    }
+    if (const auto result = ReserveLockFile(directory); result != 0) {
+        error = LmdbError(address, "open", directory + "/lock.mdb", result);
+        return false;
+    }
+    // Every process that has the store open holds a lock on the lock file's first byte, and none can open it while this
+    // one holds that alone.
+    const auto lockPath = directory + "/lock.mdb";
+    const FileDescriptor lockFile(open(lockPath.c_str(), O_RDWR | O_CLOEXEC));
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_len = 1;
+    if (lockFile.Get() < 0) {
+        error = LmdbError(address, "open", lockPath, errno);
+        return false;
+    }
+    if (fcntl(lockFile.Get(), F_SETLK, &lock) != 0) {
+        const auto failure = errno;
+        const bool isHeld = failure == EACCES || failure == EAGAIN;
+        if (isHeld && fcntl(lockFile.Get(), F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK) {
+            error = {ErrorKind::Io, address + ": process " + std::to_string(lock.l_pid) + " has " + directory +
+                                        " open; end it and all others that use the store, and try again"};
+        } else {
+            error = LmdbError(address, "lock", lockPath, failure);
+        }
+        return false;
+    }
+
+    const auto target = directory + "/data.mdb";
+    const auto old = target + ".damaged";
+    kept.clear();
+    auto result = 0;
+    if (access(target.c_str(), F_OK) == 0) {
+        (void)unlink(old.c_str());
+        // Some file systems have no hard links.
+        result = link(target.c_str(), old.c_str()) != 0 && rename(target.c_str(), old.c_str()) != 0 ? errno : 0;
+        kept = old;
+    }
+    if (result == 0 && rename(fresh.c_str(), target.c_str()) != 0) {
+        result = errno;
+    }
+    if (result == 0) {
+        result = SyncDirectory(directory);
+    }
+    // The lock file holds the number of the last transaction, and a process that waits for the lock will believe it.
+    MDB_env* env = nullptr;
+    if (result == 0) {
+        result = mdb_env_create(&env);
+    }
+    if (result == 0) {
+        (void)mdb_env_set_maxreaders(env, kMaxReaders);
+        result = mdb_env_open(env, directory.c_str(), MDB_NOTLS, 0664);
+        mdb_env_close(env);
+    }
+    if (result != 0) {
+        error = LmdbError(address, "replace", target, result);
+    }
+    return result == 0;
+}
+
 bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
 {
     struct stat status = {};
@@ -371,7 +209,7 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
     m_whyReadOnly.clear();
     int result = ReserveLockFile(m_directory);
     if (result != 0) {
-        error = MakeError(address, "open", m_directory + "/lock.mdb", result);
+        error = LmdbError(address, "open", m_directory + "/lock.mdb", result);
         return false;
     }
     for (const unsigned flags : {0U, unsigned{MDB_RDONLY}, unsigned{MDB_RDONLY} | unsigned{MDB_NOLOCK}}) {
@@ -395,11 +233,11 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
             break;
         }
         if (m_whyReadOnly.empty()) {
-            m_whyReadOnly = Words(result);
+            m_whyReadOnly = LmdbWords(result);
         }
     }
     if (result != 0) {
-        error = MakeError(address, "open", m_dataPath, result);
+        error = LmdbError(address, "open", m_dataPath, result);
         return false;
     }
     m_device = status.st_dev;
@@ -421,7 +259,7 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
         mdb_txn_abort(txn);
     }
     if (result != 0) {
-        error = MakeError(address, "read", m_dataPath, result);
+        error = LmdbError(address, "read", m_dataPath, result);
         CloseFiles();
     }
     return result == 0;
@@ -452,39 +290,42 @@ int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi)
     return mdb_put(txn, dbi, &name, &value, 0);
 }
 
-bool LmdbEnvironment::CheckState(const std::string& address, LmdbTree& tree, std::uint64_t last, Error& error) const
+bool LmdbEnvironment::CheckState(const std::string& address, const std::string& path, LmdbTree& tree,
+                                 std::uint64_t last, Error& error)
 {
+    const auto prefix = address.empty() ? address : address + ": ";
     std::string_view record;
     switch (tree.Get(kStateName, Locality::Far, record)) {
     case Lookup::Found:
         break;
     case Lookup::Absent:
-        error = {ErrorKind::Damaged, address + ": " + m_dataPath + " is an LMDB file but holds no registry store"};
+        error = {ErrorKind::Damaged, prefix + path + " is an LMDB file but holds no registry store"};
         return false;
     case Lookup::Failed:
-        error = DescribeDamage(address, tree.Cause());
+        error = DamagedFile(address, path, tree.Cause());
         return false;
     }
+    // Every format has this record and its check sum, so that a changed bit does not pass for a newer format.
     RecordView view;
-    if (!ParseRecord(record, view)) {
-        error = DamagedFile(address, m_dataPath, "its state record is cut short");
+    if (!IsSealed(NameSum(kStateName), {}, record) || !ParseRecord(record, view)) {
+        error = DamagedFile(address, path, "the check sum of its state record is wrong");
         return false;
     }
     if (view.type > kStoreFormat) {
-        error = {ErrorKind::NewerFormat,
-                 address + ": " + m_dataPath + " has store format " + std::to_string(view.type) +
-                     ", written by a newer version; this one knows formats up to " + std::to_string(kStoreFormat)};
+        error = {ErrorKind::NewerFormat, prefix + path + " has store format " + std::to_string(view.type) +
+                                             ", written by a newer version; this one knows formats up to " +
+                                             std::to_string(kStoreFormat)};
         return false;
     }
     std::uint64_t number = 0;
-    if (!IsSealed(NameSum(kStateName), {}, record) || view.data.size() != sizeof number) {
-        error = DamagedFile(address, m_dataPath, "the check sum of its state record is wrong");
+    if (view.data.size() != sizeof number) {
+        error = DamagedFile(address, path, "its state record has an impossible length");
         return false;
     }
     std::memcpy(&number, view.data.data(), sizeof number);
     // The content must be that of the transaction that LMDB takes for the last one; a compacted copy starts again at 1.
     if (number != last && last != 1) {
-        error = DamagedFile(address, m_dataPath, "its content is of another transaction than its head");
+        error = DamagedFile(address, path, "its content is of another transaction than its head");
         return false;
     }
     return true;
@@ -492,9 +333,7 @@ bool LmdbEnvironment::CheckState(const std::string& address, LmdbTree& tree, std
 
 Error LmdbEnvironment::Describe(const std::string& address, std::string_view action, int status) const
 {
-    // LMDB gives a write that came back short as an input/output error; mostly the file system was full.
-    const bool isFull = status == EIO && IsNearlyFull(m_dataPath);
-    return MakeError(address, action, m_dataPath, isFull ? ENOSPC : status);
+    return LmdbError(address, action, m_dataPath, LmdbWriteStatus(m_dataPath, status));
 }
 
 Error LmdbEnvironment::DescribeDamage(const std::string& address, std::string_view cause) const
@@ -511,11 +350,13 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, Error& 
     m_nextLook = 0;
     struct stat status = {};
     if (stat(m_dataPath.c_str(), &status) != 0) {
-        error = MakeError(address, "use", m_dataPath, errno);
+        error = LmdbError(address, "use", m_dataPath, errno);
         return false;
     }
     const bool replaced = status.st_dev != m_device || status.st_ino != m_inode;
-    if (m_env != nullptr && !replaced && !m_broken) {
+    const bool mayWriteNow = access == Access::Write && !m_whyReadOnly.empty() && m_active == 0 &&
+                             faccessat(AT_FDCWD, m_dataPath.c_str(), W_OK, AT_EACCESS) == 0;
+    if (m_env != nullptr && !replaced && !m_broken && !mayWriteNow) {
         m_fileSize = static_cast<std::size_t>(status.st_size);
         m_nextLook = now + kLookInterval;
         return true;
@@ -593,7 +434,7 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
             result = BeginRenewed(txn);
         }
         if (result != 0) {
-            error = MakeError(address, "read", m_dataPath, result);
+            error = LmdbError(address, "read", m_dataPath, result);
             return nullptr;
         }
         if (tree.Open(m_map, m_fileSize, mdb_txn_id(txn))) {
@@ -607,7 +448,7 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
             return nullptr;
         }
     }
-    if (!CheckState(address, tree, mdb_txn_id(txn), error)) {
+    if (!CheckState(address, m_dataPath, tree, mdb_txn_id(txn), error)) {
         mdb_txn_reset(txn);
         m_idle.push_back(txn);
         return nullptr;
@@ -670,7 +511,7 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
         }
     }
     if (result != 0) {
-        error = MakeError(address, "write", m_dataPath, result);
+        error = LmdbError(address, "write", m_dataPath, result);
         return nullptr;
     }
     LmdbTree tree;
@@ -679,7 +520,7 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
     if (!sound) {
         error = DescribeDamage(address, tree.Cause());
     }
-    sound = sound && CheckState(address, tree, last, error);
+    sound = sound && CheckState(address, m_dataPath, tree, last, error);
     if (!sound) {
         mdb_txn_abort(txn);
         Release(0);

@@ -44,6 +44,14 @@ class LmdbEnvironment
     void EndWrite(int status) noexcept;
     // Puts the record that ties the transaction's content to its number. Part of every commit that changes anything.
     static int PutState(MDB_txn* txn, MDB_dbi dbi);
+    // That `tree` shows a whole store of a known format, as transaction number `last` left it. `path` names the file.
+    static bool CheckState(const std::string& address, const std::string& path, LmdbTree& tree, std::uint64_t last,
+                           Error& error);
+
+    // Puts the data file `fresh`, on the same file system, in the place of the directory's, which may be damaged or
+    // missing. Refused while any process has the store open. `kept` is where a file that was there is now, or empty.
+    static bool Replace(const std::string& address, const std::string& directory, const std::string& fresh,
+                        std::string& kept, Error& error);
 
     MDB_dbi Dbi() const noexcept { return m_dbi; }
     const std::string& DataPath() const noexcept { return m_dataPath; }
@@ -61,8 +69,6 @@ class LmdbEnvironment
     int Renew(MDB_txn*& txn);
     int Grow(std::size_t size);
     int BeginRenewed(MDB_txn*& txn);
-    // That `tree` shows a whole store of a known format, as transaction number `last` left it.
-    bool CheckState(const std::string& address, LmdbTree& tree, std::uint64_t last, Error& error) const;
     void Release(int status) noexcept;
 
     const std::string m_directory;

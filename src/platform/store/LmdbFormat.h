@@ -29,6 +29,12 @@ enum NodeFlags : std::uint16_t
     kBigData = 0x01, // the data is a page number; the value stands on overflow pages
 };
 
+enum TreeFlags : std::uint16_t
+{
+    kIntegerNames = 0x08, // of the free list
+    kTreeFlags = 0xFF,    // the bits above are the environment's own
+};
+
 struct PageHeader
 {
     std::uint64_t number;

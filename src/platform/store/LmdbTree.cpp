@@ -97,6 +97,31 @@ int LmdbMap::Open(const char* path, std::size_t room)
     return 0;
 }
 
+int LmdbMap::Read(const char* path)
+{
+    m_file = open(path, O_RDONLY | O_CLOEXEC);
+    struct stat status = {};
+    if (m_file < 0 || fstat(m_file, &status) != 0) {
+        return errno;
+    }
+    const auto size = static_cast<std::size_t>(status.st_size);
+    auto* data = mmap(nullptr, std::max(size, std::size_t{1}), PROT_READ | PROT_WRITE,
+                      MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (data == MAP_FAILED) {
+        return errno;
+    }
+    m_data = static_cast<const char*>(data);
+    m_room = std::max(size, std::size_t{1});
+    for (std::size_t at = 0; at < size;) {
+        const auto got = pread(m_file, static_cast<char*>(data) + at, size - at, static_cast<off_t>(at));
+        if (got == 0 || (got < 0 && errno != EINTR)) {
+            return got == 0 ? EIO : errno;
+        }
+        at += got < 0 ? 0 : static_cast<std::size_t>(got);
+    }
+    return 0;
+}
+
 void LmdbMap::Close() noexcept
 {
     if (m_data != nullptr) {
@@ -635,6 +660,10 @@ bool LmdbTree::VerifyBranch(const lmdb::Tree& tree, std::uint64_t number, std::s
 bool LmdbTree::VerifyStructure()
 {
     m_cause.clear();
+    // They tell LMDB in which order to look for names, and other things that a store does not have.
+    if (m_meta.main.flags != 0 || (m_meta.freeList.flags & lmdb::kTreeFlags) != lmdb::kIntegerNames) {
+        return Damaged("its head gives an impossible kind of tree");
+    }
     Usage usage;
     usage.inUse.resize(m_meta.lastPage + 1);
     for (const auto* tree : {&m_meta.main, &m_meta.freeList}) {

@@ -30,6 +30,8 @@ class LmdbMap
 
     // Maps the file with room to grow. An errno value, or 0.
     int Open(const char* path, std::size_t room);
+    // Reads the file into memory instead: what becomes of it later does not matter. An errno value, or 0.
+    int Read(const char* path);
     void Close() noexcept;
     const char* Data() const noexcept { return m_data; }
     // How much of the map is backed by the file now; touching more of it would end the process.

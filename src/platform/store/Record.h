@@ -30,16 +30,17 @@ struct RecordView
     std::span<const std::byte> data;
 };
 
+constexpr std::uint64_t kSumFactor = 0x9E3779B97F4A7C15;
+
 // Mixes bytes into a running sum, eight at a time. Each step is a bijection of the word that it takes in, so that no
-// change within a single word goes unseen.
+// change within a single word goes unseen in the sum's 64 bits.
 inline std::uint64_t MixBytes(std::uint64_t sum, std::string_view bytes) noexcept
 {
-    constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
     const auto* data = bytes.data();
     auto left = bytes.size();
     sum += left;
     const auto mix = [&sum](std::uint64_t word) {
-        sum = (sum ^ word) * kFactor;
+        sum = (sum ^ word) * kSumFactor;
         sum ^= sum >> 32;
     };
     for (; left >= 8; data += 8, left -= 8) {
@@ -64,8 +65,9 @@ inline std::uint64_t NameSum(std::string_view prefix) noexcept
 
 inline std::uint32_t RecordSum(std::uint64_t prefixSum, std::string_view name, std::string_view record) noexcept
 {
+    // The last word has been through one step only: without another, the upper half of it would not reach some bits.
     const auto sum = MixBytes(MixBytes(prefixSum, name), record.substr(4));
-    return static_cast<std::uint32_t>(sum ^ (sum >> 32));
+    return static_cast<std::uint32_t>((sum * kSumFactor) >> 32);
 }
 
 // Everything but the check sum.

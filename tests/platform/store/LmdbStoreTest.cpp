@@ -147,6 +147,30 @@ TEST_F(LmdbStoreTest, RefusesANewerFormat)
     EXPECT_EQ(ReadFile(DataFile()), content);
 }
 
+TEST_F(LmdbStoreTest, DoesNotTakeAChangedBitForANewerFormat)
+{
+    Create().reset();
+    const auto whole = ReadFile(DataFile());
+    constexpr std::size_t kVersion = 20; // behind a page's header and the magic number
+    auto content = whole;
+    content[kVersion] = 2;
+    WriteFile(DataFile(), content);
+    EXPECT_EQ(FailToOpen().kind, ErrorKind::Damaged);
+    content[4096 + kVersion] = 2;
+    WriteFile(DataFile(), content);
+    EXPECT_EQ(FailToOpen().kind, ErrorKind::NewerFormat);
+
+    content = whole;
+    const std::string_view name("\0state", 6);
+    for (std::size_t at = 8192; (at = content.find(name, at)) != std::string::npos; ++at) {
+        content[at + name.size() + 4] = 2; // behind the check sum
+    }
+    WriteFile(DataFile(), content);
+    Error error;
+    EXPECT_FALSE(Open(Address())->Begin(Access::Read, error));
+    EXPECT_EQ(error.kind, ErrorKind::Damaged) << error.message;
+}
+
 TEST_F(LmdbStoreTest, RefusesNamesThatAreLongerThanAnEntryCanBe)
 {
     const auto store = Create();
@@ -334,6 +358,21 @@ TEST_F(LmdbDamageTest, SingleBytesChanged)
         ExpectHarmless(content, "byte " + std::to_string(at));
     }
     EXPECT_GT(errors, 50);
+}
+
+TEST_F(LmdbStoreTest, DoesNotWriteWhereAHeadGivesAnotherOrderOfNames)
+{
+    CreateRich();
+    auto content = ReadFile(DataFile());
+    for (const std::size_t head : {0U, 4096U}) {
+        content[head + sizeof(lmdb::PageHeader) + offsetof(lmdb::Meta, main) + offsetof(lmdb::Tree, flags)] = 2;
+    }
+    WriteFile(DataFile(), content);
+    const auto store = Open(Address());
+    Error error;
+    EXPECT_FALSE(store->Begin(Access::Write, error));
+    EXPECT_EQ(error.kind, ErrorKind::Damaged) << error.message;
+    EXPECT_EQ(ReadFile(DataFile()), content);
 }
 
 TEST_F(LmdbStoreTest, NamesTheDamagedValue)
@@ -549,6 +588,66 @@ TEST_F(LmdbStoreTest, ReadsWithoutTheRightToWrite)
                   return FailToOpen().kind == ErrorKind::AccessDenied ? 0 : 1;
               }),
               0);
+}
+
+TEST_F(LmdbStoreTest, WritesOnceTheRightsAreMended)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs the superuser";
+    }
+    constexpr uid_t kNobody = 65534;
+    {
+        const auto store = Create();
+        Put(*store, kKey, L"n", DwordBytes(1));
+    }
+    fs::permissions(temporary.Path(), fs::perms(0755));
+    ASSERT_EQ(chown(Directory().c_str(), kNobody, kNobody), 0);
+    int ready[2];
+    int go[2];
+    ASSERT_EQ(pipe(ready), 0);
+    ASSERT_EQ(pipe(go), 0);
+    const auto child = fork();
+    if (child == 0) {
+        char byte = 0;
+        Error error;
+        if (setgid(kNobody) != 0 || setuid(kNobody) != 0) {
+            _exit(10);
+        }
+        const auto store = OpenStore(Address(), {}, error);
+        if (!store || store->Begin(Access::Write, error) || error.kind != ErrorKind::AccessDenied) {
+            _exit(1);
+        }
+        if (write(ready[1], &byte, 1) != 1 || read(go[0], &byte, 1) != 1) {
+            _exit(11);
+        }
+        const auto transaction = store->Begin(Access::Write, error);
+        _exit(transaction ? 0 : 2);
+    }
+    char byte = 0;
+    ASSERT_EQ(read(ready[0], &byte, 1), 1);
+    ASSERT_EQ(chown(DataFile().c_str(), kNobody, kNobody), 0);
+    ASSERT_EQ(chown((Directory() + "/lock.mdb").c_str(), kNobody, kNobody), 0);
+    ASSERT_EQ(write(go[1], &byte, 1), 1);
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+
+    // A lock file that the superuser brings is the owner's, and so is a store.
+    for (const auto* name : {"lock.mdb", "data.mdb"}) {
+        fs::remove(Directory() + '/' + name);
+        (void)Open(Address(), {.create = true});
+        EXPECT_EQ(InChild([&] {
+                      Error error;
+                      const bool dropped = setgid(kNobody) == 0 && setuid(kNobody) == 0;
+                      const auto store = OpenStore(Address(), {}, error);
+                      return dropped && store && store->Begin(Access::Write, error) ? 0 : 1;
+                  }),
+                  0)
+            << name;
+    }
+    for (const int file : {ready[0], ready[1], go[0], go[1]}) {
+        close(file);
+    }
 }
 
 TEST_F(LmdbStoreTest, AStoreOpenedForReadingIsNotWritten)
