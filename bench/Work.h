@@ -7,6 +7,7 @@
 #include "catalogue/Catalogue.h"
 #include "core/Log.h"
 #include "core/RegistryRoots.h"
+#include "core/settings/Reference.h"
 #include "core/settings/Settings.h"
 #include "platform/store/FlatKey.h"
 #include "platform/store/RegistryValue.h"
@@ -197,21 +198,15 @@ inline void StoreDevice(const wqspcfg::ClassEntry& entry, const std::wstring& ph
     const auto config = wqspcfg::Create(entry, CString(physicalName), true);
     config->Save(); // what loops write
     wqspcfg::Saving saving(*config);
-    const auto write = [&](const auto& self, std::span<const wqspcfg::Setting> rows) -> void {
-        for (const auto& row : rows) {
-            if (row.rows != nullptr) {
-                if (row.turns == 1) {
-                    self(self, {row.rows, row.rowCount});
-                }
-            } else if (row.type == Type::String || row.type == Type::Char) {
-                saving.Put(row.key, row.name, CString(L"some text"));
-            } else if (row.type != Type::None) {
-                saving.Put(row.key, row.name, 1);
+    for (const auto* table : wqspcfg::Lineage(entry.table())) {
+        for (const auto& setting : wqspcfg::Describe(*table)) {
+            const wqspcfg::Key key{setting.root, setting.key.c_str()};
+            if (setting.type == Type::String || setting.type == Type::Char) {
+                saving.Put(key, CString(setting.name), CString(L"some text"));
+            } else {
+                saving.Put(key, CString(setting.name), 1);
             }
         }
-    };
-    for (const auto* table = &entry.table(); table != nullptr; table = table->base ? &table->base() : nullptr) {
-        write(write, table->rows);
     }
     NameDevice(physicalName); // which is among the settings
     CRegKeyEx::SetValue(0, L"Count", L"%s%s\\NoteType", wqspcfg::kDeviceRoot, physicalName);
@@ -237,23 +232,38 @@ inline void Load(const wqspcfg::ClassEntry& entry, CLog& log)
     wqspcfg::Create(entry, kPhysicalName, true)->Load(&log);
 }
 
-// What Load does on the store, which is the current one afterwards.
+// The calls of one Load on the store, which is the current one afterwards, and the lines.
+inline std::vector<Call> RecordCalls(const wqspcfg::ClassEntry& entry, const std::shared_ptr<wqspcfg::Store>& store,
+                                     wqspcfg::MemoryLog& log)
+{
+    const auto recording = std::make_shared<RecordingStore>(store, log);
+    wqspcfg::SetCurrentStore(recording);
+    Load(entry, log);
+    wqspcfg::SetCurrentStore(store);
+    return recording->Calls();
+}
+
+// What Load does on the store, which is the current one afterwards. First stores what it misses still: values that are
+// no settings.
 inline Work RecordLoad(const wqspcfg::ClassEntry& entry, const std::shared_ptr<wqspcfg::Store>& store)
 {
     wqspcfg::SetCurrentStore(store);
     {
         wqspcfg::MemoryLog log;
         Load(entry, log); // some values are read once in a process
+        wqspcfg::MemoryLog first;
+        for (const auto& call : RecordCalls(entry, store, first)) {
+            if (call.kind == Call::Kind::Query && !call.found) {
+                CRegKeyEx::SetValue(CString(L"some text"), CString(call.name), L"%s", call.path);
+            }
+        }
     }
     wqspcfg::MemoryLog log;
-    const auto recording = std::make_shared<RecordingStore>(store, log);
-    wqspcfg::SetCurrentStore(recording);
-    Load(entry, log);
-    wqspcfg::SetCurrentStore(store);
+    const auto calls = RecordCalls(entry, store, log);
 
     Work work;
     std::vector<std::size_t> firstLine;
-    for (const auto& call : recording->Calls()) {
+    for (const auto& call : calls) {
         if (call.kind == Call::Kind::Set) {
             Die("a Load that writes is not what is to be measured");
         }

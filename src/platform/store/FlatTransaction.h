@@ -108,7 +108,7 @@ class FlatTransaction final : public Transaction
         if (!AppendFolded(name, last.key.name)) {
             return RefuseName(name);
         }
-        return GetValue(last.key.name, last.key.prefix, last.key.sum, Locality::Near, value);
+        return GetValue(last.key.name, last.key.prefix, last.key.sum, Locality::Far, value);
     }
 
     bool HasPathQueries() const noexcept override { return true; }

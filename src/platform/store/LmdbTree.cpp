@@ -57,13 +57,11 @@ std::size_t Even(std::size_t size)
 class SumChecker
 {
   public:
-    // The name begins with the same `same` bytes as the one before it.
-    bool IsSealed(std::string_view name, std::size_t same, std::string_view record)
+    bool IsSealed(std::string_view name, std::string_view record)
     {
-        if (m_prefix.empty() || same < m_prefix.size()) {
+        if (m_prefix.empty() || !name.starts_with(m_prefix)) {
             const auto mark = name.find('\0');
             if (mark == 0 || mark == std::string_view::npos) {
-                m_prefix = {};
                 return wqspcfg::IsSealed(NameSum(name), {}, record); // no value or key
             }
             m_prefix = name.substr(0, mark + 2);
@@ -405,14 +403,13 @@ bool LmdbTree::VerifyPage(const Page& page, bool isLeaf, const Bounds& bounds, b
         }
         const auto dataSize = isLeaf ? (node.flags == 0 ? record.size() : sizeof(std::uint64_t)) : 0;
         used += Even(kNodeHeader + node.name.size() + dataSize);
-        std::size_t same = 0;
         if (i >= first) {
-            if (i > first ? CompareFrom(previous, node.name, same) >= 0 : node.name < bounds.first) {
+            if (i > first ? node.name <= previous : node.name < bounds.first) {
                 return DamagedPage(page.number, "has names out of order");
             }
             previous = node.name;
         }
-        if (checkSums && isLeaf && !sums.IsSealed(node.name, same, record)) {
+        if (checkSums && isLeaf && !sums.IsSealed(node.name, record)) {
             return DamagedPage(page.number, "has a record whose check sum is wrong");
         }
     }
@@ -496,17 +493,18 @@ Lookup LmdbTree::Get(std::string_view name, Locality locality, std::string_view&
     }
     bool exact = false;
     bool isHere = false;
-    if (m_placed && locality == Locality::Near) {
+    const auto last = m_placed ? m_levels[m_depth - 1].page.number : 0;
+    if (m_placed && (locality == Locality::Near || m_stays)) {
         // Values that are read one after the other mostly stand on one page.
         auto& leaf = m_levels[m_depth - 1];
         if (m_range.number != leaf.page.number) {
             Node first;
-            Node last;
-            if (!ReadNode(leaf.page, 0, first) || !ReadNode(leaf.page, leaf.page.count - 1, last)) {
+            Node end;
+            if (!ReadNode(leaf.page, 0, first) || !ReadNode(leaf.page, leaf.page.count - 1, end)) {
                 return Lookup::Failed;
             }
-            m_range = {leaf.page.number, first.name, last.name, 0};
-            CompareFrom(first.name, last.name, m_range.same);
+            m_range = {leaf.page.number, first.name, end.name, 0};
+            CompareFrom(first.name, end.name, m_range.same);
         }
         Common common{m_range.same, m_range.same};
         if (name.starts_with(m_range.first.substr(0, m_range.same)) &&
@@ -520,6 +518,7 @@ Lookup LmdbTree::Get(std::string_view name, Locality locality, std::string_view&
     if (!isHere && !Descend(name, exact)) {
         return Lookup::Failed;
     }
+    m_stays = m_levels[m_depth - 1].page.number == last;
     if (!exact) {
         return ConfirmAbsent(name);
     }

@@ -168,6 +168,7 @@ class LmdbTree
     std::array<Level, kMaxDepth> m_levels; // as many as the tree is deep are set; see m_placed
     std::vector<Verified> m_verified;      // by the low bits of the page's number; empty until one is needed
     Range m_range;
+    bool m_stays = false;  // the last two look-ups ended on one leaf
     bool m_placed = false; // m_levels lead to a leaf
     std::string m_cause;
 };
