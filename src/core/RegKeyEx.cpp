@@ -19,15 +19,17 @@ int QueryOne(T& value, std::wstring_view name, std::wstring_view path)
     return scope->QueryAt(path, name, view) == Outcome::Found && ToValue(view, value) ? 1 : 0;
 }
 
-// Hands every value of type T to `take`; 0 when the key cannot be opened.
+// Hands the name of every value of type T and the value, which it may keep, to `take`; 0 when the key cannot be opened.
 template <class T, class F>
 int QueryAll(std::wstring_view path, F take)
 {
     ReadScope scope;
+    std::wstring terminated;
     const auto outcome = scope->EnumValues(scope->Open(path), [&](std::wstring_view name, const ValueView& view) {
         T value{};
         if (ToValue(view, value)) {
-            take(name, value);
+            terminated = name;
+            take(terminated, value);
         }
         return true;
     });
@@ -70,7 +72,7 @@ int CRegKeyEx::QueryAt(CString& strValue, std::wstring_view name, std::wstring_v
 
 int CRegKeyEx::QueryAllAt(CMap<DWORD, DWORD, DWORD, DWORD>& mapValues, std::wstring_view path)
 {
-    return QueryAll<DWORD>(path, [&](std::wstring_view name, DWORD value) {
+    return QueryAll<DWORD>(path, [&](const std::wstring& name, DWORD value) {
         DWORD code = 0;
         if (ToCode(name, code)) {
             mapValues.SetAt(code, value);
@@ -80,15 +82,13 @@ int CRegKeyEx::QueryAllAt(CMap<DWORD, DWORD, DWORD, DWORD>& mapValues, std::wstr
 
 int CRegKeyEx::QueryAllAt(CMap<CString, LPCWSTR, DWORD, DWORD>& mapValues, std::wstring_view path)
 {
-    return QueryAll<DWORD>(
-        path, [&](std::wstring_view name, DWORD value) { mapValues.SetAt(std::wstring(name).c_str(), value); });
+    return QueryAll<DWORD>(path, [&](const std::wstring& name, DWORD value) { mapValues.SetAt(name.c_str(), value); });
 }
 
 int CRegKeyEx::QueryAllAt(CMapStringToString& mapValues, std::wstring_view path)
 {
-    return QueryAll<CString>(path, [&](std::wstring_view name, const CString& value) {
-        mapValues.SetAt(std::wstring(name).c_str(), value);
-    });
+    return QueryAll<CString>(
+        path, [&](const std::wstring& name, CString& value) { mapValues[name.c_str()] = std::move(value); });
 }
 
 int CRegKeyEx::SetAt(DWORD dwValue, std::wstring_view name, std::wstring_view path, bool bFlush)

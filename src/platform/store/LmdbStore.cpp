@@ -105,6 +105,8 @@ class LmdbEngine
         return result == MDB_NOTFOUND ? Lookup::Found : Result(result, "read");
     }
 
+    bool ScanChecks() const { return !m_write; }
+
     Lookup Put(std::string_view name, std::string_view record)
     {
         if (const auto opened = OpenCursor(); opened != Lookup::Found) {

@@ -76,6 +76,8 @@ class MemoryEngine
         return Lookup::Found;
     }
 
+    bool ScanChecks() const { return true; } // there are none
+
     template <class Visit>
     Lookup Scan(std::string_view prefix, Visit visit) const
     {

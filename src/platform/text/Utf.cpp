@@ -1,5 +1,6 @@
 #include "platform/text/Utf.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -213,7 +214,13 @@ bool DecodeUtf8(std::string_view utf8, Surrogates surrogates, Put put)
 
 bool DecodeUtf8(std::string_view utf8, Surrogates surrogates, std::wstring& text)
 {
+    // Nearly all names are ASCII.
+    const auto* const begin = utf8.data();
+    const auto* const end = begin + utf8.size();
+    const auto* const other = std::find_if(begin, end, [](char ch) { return static_cast<unsigned char>(ch) > 0x7F; });
     Appender appender(text);
+    text.append(begin, other);
+    utf8.remove_prefix(static_cast<std::size_t>(other - begin));
     return DecodeUtf8(utf8, surrogates, [&text](char32_t ch) { PutWide(ch, text); }) && appender.Done();
 }
 
