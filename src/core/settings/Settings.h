@@ -84,8 +84,8 @@ class WQSPCFG_API Loading
 class WQSPCFG_API Saving
 {
   public:
-    explicit Saving(CRegInfo& object);
-    Saving(CRegKeyEx& object, const CString& strDeviceKeyName);
+    explicit Saving(CRegInfo& object, ExceptionCount inFlight = ExceptionsInFlight);
+    Saving(CRegKeyEx& object, const CString& strDeviceKeyName, ExceptionCount inFlight = ExceptionsInFlight);
     Saving(const Saving&) = delete;
     Saving& operator=(const Saving&) = delete;
 
