@@ -34,5 +34,5 @@ struct WQSPCFG_API tagCardUnitEx : _wfs_crd_cardunit
 
 #pragma pack(pop)
 
-static_assert(sizeof(tagCardUnitEx) == sizeof(_wfs_crd_cardunit) + 8 + sizeof(LPSTR));
+static_assert(sizeof(tagCardUnitEx) == 34 + 2 * sizeof(LPSTR)); // 42 where a pointer has 4 bytes
 static_assert(alignof(tagCardUnitEx) == 1);

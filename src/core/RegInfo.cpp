@@ -77,7 +77,7 @@ CString CRegInfo::m_strCapVendorDescKeyValue;
 
 const wqspcfg::Table& CRegInfo::Settings() noexcept
 {
-    static constexpr wqspcfg::Table kTable{L"CRegInfo", nullptr, L"", shared::kSettings};
+    static constexpr wqspcfg::Table kTable{L"CRegInfo", nullptr, L"", shared::kSettings, {}, shared::kOnRequest};
     return kTable;
 }
 
@@ -378,10 +378,10 @@ CString CRegInfo::GetProductVersion() const
 CString CRegInfo::GetSpSettingAppID() const
 {
     const std::lock_guard lock(CacheMutex());
-    QueryValue(m_strSpSettingAppID, L"AppID", L"%sWQCmnCfg\\SpSetting", kServiceRoot);
+    QueryValue(m_strSpSettingAppID, shared::kAppID.name, L"%sWQCmnCfg\\SpSetting", kServiceRoot);
     m_strSpSettingAppID.Trim();
     if (m_strSpSettingAppID.IsEmpty()) {
-        m_strSpSettingAppID = L"WQSpSetting";
+        m_strSpSettingAppID = shared::kAppID.fallback.text;
     }
     return m_strSpSettingAppID;
 }
@@ -397,8 +397,8 @@ DWORD CRegInfo::GetOnlyOpenReSetTimeout() const
 {
     const std::lock_guard lock(CacheMutex());
     if (m_dwOnlyOpenReSetTimeout == kNotRead) {
-        m_dwOnlyOpenReSetTimeout = 1;
-        QueryValue(m_dwOnlyOpenReSetTimeout, L"OnlyOpenAppend", L"%s%s\\ReSetTimeout", kDeviceRoot,
+        m_dwOnlyOpenReSetTimeout = shared::kOnlyOpenAppend.fallback.number;
+        QueryValue(m_dwOnlyOpenReSetTimeout, shared::kOnlyOpenAppend.name, L"%s%s\\ReSetTimeout", kDeviceRoot,
                    GetExeDllMother(1, nullptr));
     }
     return m_dwOnlyOpenReSetTimeout;
@@ -493,17 +493,18 @@ CString CRegInfo::DescKey(CString& strCache, LPCWSTR lpszName, LPCWSTR lpszDefau
 
 CString CRegInfo::GetErrorCodeDescKey() const
 {
-    return DescKey(m_strErrorCodeDescKey, L"ErrorCodeDescKey", L"ErrorCodeDescription");
+    return DescKey(m_strErrorCodeDescKey, shared::kErrorCodeDescKey.name, shared::kErrorCodeDescKey.fallback.text);
 }
 
 CString CRegInfo::GetCapVendorDescKey() const
 {
-    return DescKey(m_strCapVendorDescKey, L"CapVendorDescKey", L"Vendor");
+    return DescKey(m_strCapVendorDescKey, shared::kCapVendorDescKey.name, shared::kCapVendorDescKey.fallback.text);
 }
 
 CString CRegInfo::GetCapVendorDescKeyValue() const
 {
-    return DescKey(m_strCapVendorDescKeyValue, L"CapVendorDescKeyValue", L"TARNO");
+    return DescKey(m_strCapVendorDescKeyValue, shared::kCapVendorDescKeyValue.name,
+                   shared::kCapVendorDescKeyValue.fallback.text);
 }
 
 WQSPCFG_CATALOGUE_ENTRY(CRegInfo)

@@ -1,7 +1,7 @@
 // The settings that all service providers share, in the order in which they are read and in that of their lines.
 #pragma once
 
-#include "core/settings/Setting.h"
+#include "core/settings/Settings.h"
 
 namespace wqspcfg::shared {
 
@@ -77,6 +77,53 @@ inline constexpr Setting kIdle[] = {
     {key::IdleInterval, L"Normal", DwordValue, 60000, L"idle interval in ms"},
 };
 inline constexpr Setting kIsDeleteSensetiveInfo{key::Policy, L"IsDeleteSensetiveInfo", &CRegInfo::m_bIsDeleteSensetiveInfo, 1, L"the service provider deletes, at exit or start, files that applications may leave behind, such as identity-card images and camera pictures: 0 no; nonzero yes", Saved};
+
+// What the getters read when they are asked.
+inline constexpr Setting kProvider{Key{Root::Logical, L""}, L"Provider", StringValue, L"", L"physical service name"};
+inline constexpr Setting kClass[] = {
+    {Key{Root::Logical, L""}, L"Class", StringValue, L"", L"XFS class of the service"},
+    {key::Service,            L"Class", StringValue, L"", L"XFS class of a service that is known by its physical name only"},
+};
+inline constexpr Setting kType{Key{Root::Logical, L""}, L"Type", StringValue, L"", L"type of the service"};
+inline constexpr Setting kClassModule{key::Service, L"%sName", StringValue, L"", L"module of the service provider for this XFS class; WQSp and the class where it is missing"};
+inline constexpr Setting kDllName{key::Service, L"DLLName", StringValue, L"", L"module of the service provider; in the directory of this library where no other is given"};
+inline constexpr Setting kExecutable{key::Service, L"Executable", StringValue, L"", L"executable of the service provider; in the module's directory where no other is given"};
+inline constexpr Setting kVersion{key::Service, L"Version", StringValue, L"", L"version of the service provider"};
+inline constexpr Setting kProductVersion[] = {
+    {key::Setup, L"NewBuild",     StringValue, L"", L"build, which follows the new version"},
+    {key::Setup, L"PatchVersion", StringValue, L"", L"patch, which follows the build"},
+};
+inline constexpr Setting kAppID{Key{Root::Common, L"SpSetting"}, L"AppID", StringValue, L"WQSpSetting", L"application ID of the settings program"};
+inline constexpr Setting kOnlyOpenAppend{key::Below(L"ReSetTimeout"), L"OnlyOpenAppend", DwordValue, 1, L"commands with a time-out: 0 all that have one; nonzero only those whose name contains \"open\""};
+inline constexpr Setting kReSetTimeout{key::Below(L"ReSetTimeout"), L"%s", DwordValue, 0, L"time-out of this command, the name of an execute or information command with its index behind it; 0 none"};
+inline constexpr Setting kIdleInterval{key::IdleInterval, L"%s", DwordValue, 0, L"idle interval of this name in ms"};
+inline constexpr Setting kCommandMaps[] = {
+    {key::Below(L"ExeCmdMap"),  L"%d", DwordValue, 0, L"execute command that this command code is mapped to"},
+    {key::Below(L"InfoCmdMap"), L"%d", DwordValue, 0, L"information command that this command code is mapped to"},
+    {key::Below(L"ErrCodeMap"), L"%s", DwordValue, 0, L"code that this error name is mapped to"},
+};
+inline constexpr Setting kErrorCodeDescKey{key::Device, L"ErrorCodeDescKey", StringValue, L"ErrorCodeDescription", L"name under which the service provider publishes error-code descriptions"};
+inline constexpr Setting kCapVendorDescKey{key::Device, L"CapVendorDescKey", StringValue, L"Vendor", L"name of the vendor entry in the extra data of the capabilities"};
+inline constexpr Setting kCapVendorDescKeyValue{key::Device, L"CapVendorDescKeyValue", StringValue, L"TARNO", L"value of that vendor entry"};
+
+inline constexpr OnRequest kOnRequest[] = {
+    {L"GetPhysicalName",          L"", {&kProvider, 1}},
+    {L"GetClassNameW",            L"", kClass},
+    {L"GetType",                  L"", {&kType, 1}},
+    {L"GetDeviceClassName",       L"", {&kClassModule, 1}},
+    {L"GetDllPathName",           L"", {&kDllName, 1}},
+    {L"GetExePathName",           L"", {&kExecutable, 1}},
+    {L"GetVersion",               L"", {&kVersion, 1}},
+    {L"GetProductVersion",        L"", kProductVersion},
+    {L"GetSpSettingAppID",        L"", {&kAppID, 1}},
+    {L"GetOnlyOpenReSetTimeout",  L"", {&kOnlyOpenAppend, 1}},
+    {L"GetReSetTimeout",          L"", {&kReSetTimeout, 1}},
+    {L"GetIdleTimeInterval",      L"", {&kIdleInterval, 1}},
+    {L"GetCmdMap",                L"", kCommandMaps},
+    {L"GetErrorCodeDescKey",      L"", {&kErrorCodeDescKey, 1}},
+    {L"GetCapVendorDescKey",      L"", {&kCapVendorDescKey, 1}},
+    {L"GetCapVendorDescKeyValue", L"", {&kCapVendorDescKeyValue, 1}},
+};
 // clang-format on
 
 // The lines' order, which is not that of reading.

@@ -39,6 +39,7 @@ int Execute(std::vector<std::string> arguments, const Console& console)
                  "wqspcfg");
     app.set_version_flag("--version", std::string("wqspcfg ") + WQSPCFG_VERSION);
     app.require_subcommand(1);
+    app.allow_windows_style_options(false); // "/x" may be a path or data
     app.failure_message(CLI::FailureMessage::help);
     app.footer("Exit status: 0 done; 1 a negative answer; 2 wrong usage; 3 the store or a file failed.");
 

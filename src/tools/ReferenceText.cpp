@@ -47,8 +47,21 @@ std::string AllowedText(const DescribedSetting& setting)
     return text;
 }
 
+// In the order of loading, then what Load does not read.
+std::vector<DescribedSetting> AllSettings(const Table& table)
+{
+    auto settings = Describe(table);
+    for (auto& setting : DescribeOnRequest(table)) {
+        settings.push_back(std::move(setting));
+    }
+    return settings;
+}
+
 std::string SavedText(const DescribedSetting& setting)
 {
+    if (!setting.writtenBy.empty()) {
+        return "by `" + Utf8(setting.writtenBy) + '`';
+    }
     if (!setting.saved) {
         return "no";
     }
@@ -92,7 +105,7 @@ ordered_json ToJson(const ClassEntry& entry)
     out["base"] = table.base != nullptr ? ordered_json(Utf8(table.base().className)) : ordered_json(nullptr);
     out["deviceClass"] = deviceClass != nullptr ? ordered_json(Utf8(deviceClass)) : ordered_json(nullptr);
     auto settings = ordered_json::array();
-    for (const auto& setting : Describe(table)) {
+    for (const auto& setting : AllSettings(table)) {
         ordered_json row;
         row["root"] = NameOf(setting.root);
         row["key"] = Utf8(setting.key);
@@ -114,6 +127,12 @@ ordered_json ToJson(const ClassEntry& entry)
         row["saved"] = setting.saved;
         if (!setting.savedName.empty()) {
             row["savedAs"] = Utf8(setting.savedName);
+        }
+        if (!setting.readBy.empty()) {
+            row["readBy"] = Utf8(setting.readBy);
+        }
+        if (!setting.writtenBy.empty()) {
+            row["writtenBy"] = Utf8(setting.writtenBy);
         }
         if (setting.secret) {
             row["secret"] = true;
@@ -137,7 +156,7 @@ void WriteText(const ClassEntry& entry, std::ostream& out)
         out << ", device class " << Utf8(deviceClass);
     }
     out << '\n';
-    for (const auto& setting : Describe(table)) {
+    for (const auto& setting : AllSettings(table)) {
         out << "  " << KeyText(setting) << " : " << Utf8(setting.name) << "\n      " << NameOf(setting.type)
             << ", default " << DefaultText(setting);
         if (const auto allowed = AllowedText(setting); !allowed.empty()) {
@@ -145,6 +164,12 @@ void WriteText(const ClassEntry& entry, std::ostream& out)
         }
         if (setting.saved) {
             out << (setting.savedName.empty() ? ", saved" : ", saved as " + Utf8(setting.savedName));
+        }
+        if (!setting.readBy.empty()) {
+            out << ", read by " << Utf8(setting.readBy);
+        }
+        if (!setting.writtenBy.empty()) {
+            out << ", written by " << Utf8(setting.writtenBy);
         }
         if (setting.secret) {
             out << ", secret";
@@ -188,7 +213,7 @@ void WriteMarkdown(const ClassEntry& entry, std::ostream& out)
         }
         out << "\n\n";
     }
-    const auto settings = Describe(table);
+    const auto settings = AllSettings(table);
     if (settings.empty()) {
         out << "No settings of its own.\n\n";
         return;
@@ -198,7 +223,8 @@ void WriteMarkdown(const ClassEntry& entry, std::ostream& out)
     for (const auto& setting : settings) {
         out << "| " << Code(KeyText(setting)) << " | " << Code(Utf8(setting.name)) << " | " << NameOf(setting.type)
             << " | " << Cell(DefaultText(setting)) << " | " << AllowedText(setting) << " | " << SavedText(setting)
-            << " | " << Cell(Utf8(setting.meaning)) << (setting.secret ? " (secret)" : "") << " |\n";
+            << " | " << Cell(Utf8(setting.meaning)) << (setting.secret ? " (secret)" : "")
+            << (setting.readBy.empty() ? "" : " (read by `" + Utf8(setting.readBy) + "`)") << " |\n";
     }
     out << '\n';
 }
@@ -218,7 +244,8 @@ std::string Page(const std::string& title, const std::string& introduction, std:
 constexpr char kKeys[] =
     "A key is the subkey of the device key, `HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\` and the device key name, where "
     "nothing else is said; `WQCmnCfg` and the service keys lie in `HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS`. The "
-    "settings stand in the order in which they are read. This page is generated: `cmake --build --preset release "
+    "settings stand in the order in which they are read; those that an operation of the class reads or writes in its "
+    "own right name it and stand last. This page is generated: `cmake --build --preset release "
     "--target reference_docs`.";
 
 } // namespace

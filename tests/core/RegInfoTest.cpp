@@ -1,9 +1,15 @@
 #include "core/RegInfo.h"
 
+#include "core/settings/Reference.h"
 #include "platform/store/Session.h"
+#include "platform/text/Utf.h"
 #include "support/ConfigTest.h"
 
 #include <algorithm>
+#include <cwchar>
+#include <functional>
+#include <map>
+#include <utility>
 
 namespace {
 
@@ -452,6 +458,67 @@ TEST_F(RegInfoTest, GettersWorkWhenTheDeviceKeyIsNamedAfterTheExecutable)
     const CRegInfo config(L"Svc", false);
     EXPECT_EQ(config.GetErrorCodeDescKey(), L"FromCarrier");
     EXPECT_EQ(config.GetOnlyOpenReSetTimeout(), 1U);
+}
+
+// What the reference says of the getters is what they read.
+TEST_F(RegInfoTest, EveryValueOfAGetterIsReadByIt)
+{
+    CRegInfo config(L"Svc", false);
+    const CRegInfo physical(L"Phys", true);
+    Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Class", L"CRD");
+    const std::map<std::wstring_view, std::function<void()>> getters = {
+        {L"GetPhysicalName",
+         [&] {
+             config.m_strPhysicalName.Empty();
+             config.GetPhysicalName();
+         }},
+        {L"GetClassNameW",
+         [&] {
+             config.GetClassNameW(nullptr);
+             physical.GetClassNameW(nullptr);
+         }},
+        {L"GetType", [&] { config.GetType(nullptr); }},
+        {L"GetDeviceClassName", [&] { config.GetDeviceClassName(nullptr, 1); }},
+        {L"GetDllPathName", [&] { config.GetDllPathName(); }},
+        {L"GetExePathName", [&] { config.GetExePathName(0); }},
+        {L"GetVersion", [&] { config.GetVersion(); }},
+        {L"GetProductVersion", [&] { config.GetProductVersion(); }},
+        {L"GetSpSettingAppID", [&] { config.GetSpSettingAppID(); }},
+        {L"GetOnlyOpenReSetTimeout", [&] { config.GetOnlyOpenReSetTimeout(); }},
+        {L"GetReSetTimeout", [&] { config.GetReSetTimeout(L"Open", 0); }},
+        {L"GetIdleTimeInterval", [&] { config.GetIdleTimeInterval(L"Open"); }},
+        {L"GetErrorCodeDescKey", [&] { config.GetErrorCodeDescKey(); }},
+        {L"GetCapVendorDescKey", [&] { config.GetCapVendorDescKey(); }},
+        {L"GetCapVendorDescKeyValue", [&] { config.GetCapVendorDescKeyValue(); }},
+    };
+    std::size_t checked = 0;
+    for (const auto& setting : wqspcfg::DescribeOnRequest(CRegInfo::Settings())) {
+        if (setting.readBy == L"GetCmdMap") {
+            continue; // takes whatever names there are
+        }
+        ASSERT_TRUE(getters.contains(setting.readBy)) << wqspcfg::Utf8ForMessage(setting.readBy);
+        auto name = setting.name;
+        if (const auto at = name.find(L"%s"); at != std::wstring::npos) {
+            name.replace(at, 2, at == 0 && name.size() > 2 ? L"CRD" : L"Open");
+        }
+        auto path = wqspcfg::PathOf(setting);
+        path.erase(0, path.find(L'\\') + 1);
+        for (const auto& [placeholder, actual] :
+             {std::pair{L"<device>", L"Dev"}, {L"<service>", L"Phys"}, {L"<logical service>", L"Svc"}}) {
+            if (const auto at = path.find(placeholder); at != std::wstring::npos) {
+                path.replace(at, std::wcslen(placeholder), actual);
+            }
+        }
+        Set(path, L"Present", 1U);
+        ResetProcess();
+        ClearRecord();
+        getters.at(setting.readBy)();
+        const auto reads = Reads();
+        EXPECT_TRUE(std::find(reads.begin(), reads.end(), path + L'|' + name) != reads.end())
+            << wqspcfg::Utf8ForMessage(path + L'|' + name);
+        ++checked;
+    }
+    EXPECT_GE(checked, getters.size());
 }
 
 } // namespace

@@ -70,6 +70,11 @@ TEST(ReferenceTest, JsonTellsWhatTheRowsSay)
     EXPECT_EQ(wait.at("default"), 0);
     EXPECT_EQ(wait.at("constructed"), 1);
     EXPECT_EQ(setting("CRegInfo", "NetTimeOut").at("root"), "common");
+    // What Load does not read names the operation that does.
+    const auto& simulated = setting("CSpPTRRID100RegInfo", "SimCheckNo");
+    EXPECT_EQ(simulated.at("readBy"), "LoadSimData");
+    EXPECT_FALSE(simulated.contains("writtenBy") || port.contains("readBy"));
+    EXPECT_EQ(setting("CSpPTRRID100RegInfo", "Count").at("writtenBy"), "SaveRetainBinCount");
     // Loops appear turn by turn, and their labels with them.
     EXPECT_EQ(setting("CSPCRMWQ07RegInfo", "CasFull").at("key"), "Cassette\\Hopper\\A");
     EXPECT_EQ(setting("CSPCRMWQ07RegInfo", "CasFull").at("label"), "A.CasFull");

@@ -113,6 +113,20 @@ std::vector<DescribedSetting> Describe(const Table& table)
     return out;
 }
 
+std::vector<DescribedSetting> DescribeOnRequest(const Table& table)
+{
+    std::vector<DescribedSetting> out;
+    for (const auto& group : table.onRequest) {
+        const auto first = out.size();
+        Append(group.rows, nullptr, false, out);
+        for (auto i = first; i < out.size(); ++i) {
+            out[i].readBy = group.readBy;
+            out[i].writtenBy = group.writtenBy;
+        }
+    }
+    return out;
+}
+
 const char* NameOf(Type type) noexcept
 {
     switch (type) {

@@ -41,12 +41,16 @@ struct DescribedSetting
     bool secret = false;
 
     const Setting* row = nullptr;
-    unsigned turn = 0;        // the index to give to the row's member or accessor
-    bool conditional = false; // stands in a group that a Load may skip
+    std::wstring_view readBy;    // the operation that reads it in place of Load
+    std::wstring_view writtenBy; // the operation that writes it in place of Save
+    unsigned turn = 0;           // the index to give to the row's member or accessor
+    bool conditional = false;    // stands in a group that a Load may skip
 };
 
 // The table's own settings in the order of loading.
 WQSPCFG_API std::vector<DescribedSetting> Describe(const Table& table);
+// Those that operations of the class read or write in their own right.
+WQSPCFG_API std::vector<DescribedSetting> DescribeOnRequest(const Table& table);
 
 // "dword", "flag", "string" or "char".
 WQSPCFG_API const char* NameOf(Type type) noexcept;

@@ -426,12 +426,13 @@ void Loading::PrintMissing(const Setting& row, const Turn* turn)
 
 // ---- Saving ----
 
-Saving::Saving(CRegInfo& object)
-    : m_object(object), m_deviceKeyName(object.GetExeDllMother(1, nullptr)), m_serviceName(object.m_strPhysicalName),
-      m_logicalName(object.m_strLogicalName)
+Saving::Saving(CRegInfo& object, ExceptionCount inFlight)
+    : m_scope(inFlight), m_object(object), m_deviceKeyName(object.GetExeDllMother(1, nullptr)),
+      m_serviceName(object.m_strPhysicalName), m_logicalName(object.m_strLogicalName)
 {}
 
-Saving::Saving(CRegKeyEx& object, const CString& strDeviceKeyName) : m_object(object), m_deviceKeyName(strDeviceKeyName)
+Saving::Saving(CRegKeyEx& object, const CString& strDeviceKeyName, ExceptionCount inFlight)
+    : m_scope(inFlight), m_object(object), m_deviceKeyName(strDeviceKeyName)
 {}
 
 void Saving::Write(const Table& table)

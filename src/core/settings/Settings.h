@@ -11,6 +11,14 @@
 
 namespace wqspcfg {
 
+// Settings that an operation of the class reads or writes in its own right, for the reference.
+struct OnRequest
+{
+    const wchar_t* readBy;    // the operation's name; empty where nothing reads them
+    const wchar_t* writtenBy; // empty where nothing writes them
+    std::span<const Setting> rows;
+};
+
 // A class's settings, and what the catalogue tells of it.
 struct Table
 {
@@ -19,6 +27,7 @@ struct Table
     const wchar_t* deviceClass;      // null where the base tells it
     std::span<const Setting> rows;
     std::span<const Setting* const> saveOrder{}; // empty: the order of the table
+    std::span<const OnRequest> onRequest{};
 };
 
 // One Load of one table's settings. Opens a read scope, so that everything comes from one state of the store; a Load
@@ -86,8 +95,8 @@ class WQSPCFG_API Loading
 class WQSPCFG_API Saving
 {
   public:
-    explicit Saving(CRegInfo& object);
-    Saving(CRegKeyEx& object, const CString& strDeviceKeyName);
+    explicit Saving(CRegInfo& object, ExceptionCount inFlight = ExceptionsInFlight);
+    Saving(CRegKeyEx& object, const CString& strDeviceKeyName, ExceptionCount inFlight = ExceptionsInFlight);
     Saving(const Saving&) = delete;
     Saving& operator=(const Saving&) = delete;
 
@@ -155,8 +164,8 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
     }                                                                                                                  \
     WQSPCFG_CATALOGUE_ENTRY(Class)
 
-// Everything that such a class needs besides its table `rows`. An order of saving that is not the table's follows as a
-// further argument.
+// Everything that such a class needs besides its table `rows`. An order of saving that is not the table's ({} where it
+// is) and the settings that its operations read follow as further arguments.
 #define WQSPCFG_SETTINGS(Class, Base, rows, ...)                                                                       \
     const wqspcfg::Table& Class::Settings() noexcept                                                                   \
     {                                                                                                                  \

@@ -32,11 +32,15 @@ constexpr Setting kSettings[] = {
     {key::Device, L"StartPrintWaitTimes", &C::m_dwStartPrintWaitTimes, 0,    L"time in ms to wait before printing starts", Saved},
     {key::Device, L"RawDataAddLineCount", &C::m_dwRawDataAddLineCount, 0,    L"number of lines added after raw data", Saved},
 };
+constexpr Setting kReceiptsLeft[] = {
+    {key::Device, L"CurLastCount", DwordValue, 0, L"receipts left", NotLogged},
+};
 // clang-format on
+constexpr OnRequest kOnRequest[] = {{L"DescCurLowCount", L"DescCurLowCount", kReceiptsLeft}};
 
 } // namespace
 
-WQSPCFG_SETTINGS(CSpPTRMP512RegInfo, CPTRRegInfo, kSettings)
+WQSPCFG_SETTINGS(CSpPTRMP512RegInfo, CPTRRegInfo, kSettings, {}, kOnRequest)
 
 void CSpPTRMP512RegInfo::ResetValue()
 {
@@ -48,7 +52,8 @@ void CSpPTRMP512RegInfo::DescCurLowCount()
     const CString strDevice = GetExeDllMother(1, nullptr);
     const WriteScope scope;
     DWORD dwLeft = 0;
-    if (QueryValue(dwLeft, L"CurLastCount", L"%s%s", kDeviceRoot, strDevice) && dwLeft > 0) {
-        SetValue(dwLeft - 1, L"CurLastCount", L"%s%s", kDeviceRoot, strDevice);
+    const CString strName(kReceiptsLeft->name);
+    if (QueryValue(dwLeft, strName, L"%s%s", kDeviceRoot, strDevice) && dwLeft > 0) {
+        SetValue(dwLeft - 1, strName, L"%s%s", kDeviceRoot, strDevice);
     }
 }

@@ -13,7 +13,11 @@ constexpr Setting kSettings[] = {
     {key::Device, L"ProtocolType",            [](C& c, unsigned) -> DWORD& { return c.m_dwProtocolType; }, 0, L"protocol of the fingerprint commands: 0 the read-raw-data protocol; nonzero the chip-I/O protocol", Saved},
     {key::Device, L"DelDataAfterMatchFinger", &C::m_bDelDataAfterMatchFinger, 0, L"fingerprint data are deleted after the match: 0 no; nonzero yes", Saved},
 };
+constexpr Setting kReadImageRule[] = {
+    {key::Below(L"ReadImageRule"), L"%s", StringValue, L"", L"rule of the read-image command, under any name"},
+};
 // clang-format on
+constexpr OnRequest kOnRequest[] = {{L"LoadReadImageRuleCfg", L"", kReadImageRule}};
 
 constexpr const wchar_t* kSaved[] = {L"DelDataAfterMatchFinger"};
 constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved, false); // the mix-in writes the protocol
@@ -22,7 +26,8 @@ constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved, false); // the mix-in w
 
 const Table& CSpPTRPrdFPCNormalRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSpPTRPrdFPCNormalRegInfo", &CPTRRegInfo::Settings, nullptr, kSettings, kSaveOrder};
+    static constexpr Table kTable{
+        L"CSpPTRPrdFPCNormalRegInfo", &CPTRRegInfo::Settings, nullptr, kSettings, kSaveOrder, kOnRequest};
     return kTable;
 }
 

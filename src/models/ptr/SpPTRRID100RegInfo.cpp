@@ -12,8 +12,6 @@ using C = CSpPTRRID100RegInfo;
 namespace {
 
 constexpr Key kSim = key::Below(L"Sim");
-constexpr Key kRetainBin = key::Below(L"RetainBins\\RetainBin0");
-constexpr Key kPaperCounts = key::Below(L"PaperCounts");
 
 // clang-format off
 constexpr Setting kSettings[] = {
@@ -56,11 +54,22 @@ constexpr Setting kSimulation[] = {
     {kSim, L"SimCheckNo",  &C::m_strSimCheckNo,  L"", meaning::printer::kSimCheckNo},
     {kSim, L"SimRFIDData", &C::m_strSimRFIDData, L"", meaning::printer::kSimRFIDData},
 };
+constexpr Setting kRetained[] = {
+    {key::Below(L"RetainBins\\RetainBin0"), L"Count", &C::m_dwRetainBinCount, 0, L"count of the retain bin", NotLogged},
+};
+constexpr Setting kTicketsLeft[] = {
+    {key::Below(L"PaperCounts"), L"PaperCount", &C::m_dwPaperCount, 0, L"tickets left in the supply bin in use", NotLogged},
+};
+constexpr OnRequest kOnRequest[] = {
+    {L"LoadSimData",        L"",                   kSimulation},
+    {L"LoadRetainBinCount", L"SaveRetainBinCount", kRetained},
+    {L"",                   L"SaveSetPaperCount",  kTicketsLeft},
+};
 // clang-format on
 
 } // namespace
 
-WQSPCFG_SETTINGS(CSpPTRRID100RegInfo, CPTRRegInfo, kSettings)
+WQSPCFG_SETTINGS(CSpPTRRID100RegInfo, CPTRRegInfo, kSettings, {}, kOnRequest)
 
 bool CSpPTRRID100RegInfo::IsPrintAsTextField(const CString& strField) const
 {
@@ -79,16 +88,15 @@ void CSpPTRRID100RegInfo::LoadSimData(CLog* pLog)
 
 void CSpPTRRID100RegInfo::LoadRetainBinCount()
 {
-    m_dwRetainBinCount = 0;
-    Loading(*this, nullptr).Query(kRetainBin, L"Count", m_dwRetainBinCount);
+    Loading(*this, nullptr).Read(kRetained);
 }
 
 void CSpPTRRID100RegInfo::SaveRetainBinCount()
 {
-    Saving(*this).Put(kRetainBin, L"Count", m_dwRetainBinCount);
+    Saving(*this).Put(kRetained->key, kRetained->name, m_dwRetainBinCount);
 }
 
 void CSpPTRRID100RegInfo::SaveSetPaperCount()
 {
-    Saving(*this).Put(kPaperCounts, L"PaperCount", m_dwPaperCount);
+    Saving(*this).Put(kTicketsLeft->key, kTicketsLeft->name, m_dwPaperCount);
 }

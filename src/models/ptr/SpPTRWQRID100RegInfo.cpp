@@ -50,11 +50,12 @@ constexpr Setting kSimulation[] = {
     {kSim, L"SimCheckNo",  &C::m_strSimCheckNo,  L"", meaning::printer::kSimCheckNo},
     {kSim, L"SimRFIDData", &C::m_strSimRFIDData, L"", meaning::printer::kSimRFIDData},
 };
+constexpr OnRequest kOnRequest[] = {{L"LoadSimData", L"", kSimulation}};
 // clang-format on
 
 } // namespace
 
-WQSPCFG_SETTINGS(CSpPTRWQRID100RegInfo, CPTRRegInfo, kSettings)
+WQSPCFG_SETTINGS(CSpPTRWQRID100RegInfo, CPTRRegInfo, kSettings, {}, kOnRequest)
 
 void CSpPTRWQRID100RegInfo::LoadSimData(CLog* pLog)
 {

@@ -72,6 +72,11 @@ std::shared_ptr<Store> OpenStore(std::string_view address, const OpenOptions& op
         const auto view = options.view32 ? RegistryView::Of32Bit : RegistryView::OfProgram;
         return std::make_shared<WindowsStore>(whole, view, options.readOnly);
     }
+    if (address == "windows:64" && options.view32) {
+        error = {ErrorKind::BadArgument,
+                 whole + " is the view of 64-bit programs, and that of 32-bit ones was asked for"};
+        return nullptr;
+    }
     if (address == "windows:32" || address == "windows:64") {
         const auto view = address == "windows:32" ? RegistryView::Of32Bit : RegistryView::Of64Bit;
         return std::make_shared<WindowsStore>(whole, view, options.readOnly);

@@ -249,7 +249,8 @@ ReadScope::~ReadScope()
     }
 }
 
-WriteScope::WriteScope() : m_session(t_session), m_outer(t_session), m_exceptions(std::uncaught_exceptions())
+WriteScope::WriteScope(ExceptionCount inFlight)
+    : m_session(t_session), m_outer(t_session), m_inFlight(inFlight), m_exceptions(inFlight())
 {
     if (!m_session || m_session->GetAccess() == Access::Read) {
         m_session = &m_own.emplace(Access::Write);
@@ -260,7 +261,7 @@ WriteScope::WriteScope() : m_session(t_session), m_outer(t_session), m_exception
 
 WriteScope::~WriteScope()
 {
-    if (std::uncaught_exceptions() > m_exceptions) {
+    if (m_inFlight() > m_exceptions) {
         m_session->Refuse({ErrorKind::Io, "the write was given up half-way"});
     }
     Commit();

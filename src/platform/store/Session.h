@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <string>
@@ -130,13 +131,21 @@ class WQSPCFG_API ReadScope
     Session* m_session;
 };
 
+// The exceptions in flight, as the module that compiles this counts them: a DLL with a C++ runtime of its own has a
+// count of its own. A scope asks the module that opened it.
+inline int ExceptionsInFlight() noexcept
+{
+    return std::uncaught_exceptions();
+}
+using ExceptionCount = int (*)() noexcept;
+
 // Everything that this thread writes while the scope lives becomes visible and durable together when the outermost
 // write scope ends; reads inside it see the writes. When any of the writes failed, or an exception ends the scope, none
 // is kept. A failure counts for a read scope around it, too.
 class WQSPCFG_API WriteScope
 {
   public:
-    WriteScope();
+    explicit WriteScope(ExceptionCount inFlight = ExceptionsInFlight);
     ~WriteScope();
     WriteScope(const WriteScope&) = delete;
     WriteScope& operator=(const WriteScope&) = delete;
@@ -152,6 +161,7 @@ class WQSPCFG_API WriteScope
     std::optional<Session> m_own;
     Session* m_session;
     Session* m_outer;
+    ExceptionCount m_inFlight;
     int m_exceptions; // in flight when the scope began
     bool m_done = false;
 };

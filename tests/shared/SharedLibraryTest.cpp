@@ -1,0 +1,101 @@
+// What a service provider does with the shared library.
+#include "EveryClass.h"
+#include "catalogue/Catalogue.h"
+#include "platform/framework/InvalidArgException.h"
+#include "platform/store/Session.h"
+#include "support/ConfigTest.h"
+
+#include <type_traits>
+#include <utility>
+
+#if defined(WQSPCFG_STATIC)
+#error "this program links the shared library"
+#endif
+
+namespace wqspcfg::test {
+
+namespace {
+
+int g_destroyed = 0;
+
+// A service provider's own class.
+template <class C>
+class Provider final : public C
+{
+  public:
+    using C::C;
+    ~Provider() override { ++g_destroyed; }
+};
+
+class SharedLibraryTest : public ConfigTest
+{
+  protected:
+    // The keys without which a Load returns false.
+    static void AddRequiredKeys()
+    {
+        Set(Device(L"SNRData"), L"Present", 1U);
+        Set(L"SOFTWARE\\TARNO\\Driver\\WQDrOKIUsbAgent", L"CanpostKeyEvent", 0U);
+        Set(L"SOFTWARE\\TARNO\\Driver\\WQDrOKIUsbAgent\\KeyboardMapping", L"1", L"13");
+    }
+
+    // Base is the class whose Load and Save are called; some models hide their own.
+    template <class Base>
+    void LoadAndSave(Base& object)
+    {
+        m_log.Clear();
+        EXPECT_TRUE(object.Load(&m_log));
+        EXPECT_FALSE(m_log.Entries().empty());
+        object.Save();
+        EXPECT_TRUE(LastStoreError().message.empty()) << LastStoreError().message;
+    }
+
+    template <class C>
+    void Check(const wchar_t* name)
+    {
+        EXPECT_STREQ(C::Settings().className, name);
+        ASSERT_NE(FindClass(name), nullptr);
+        EXPECT_EQ(&FindClass(name)->table(), &C::Settings());
+
+        if constexpr (std::is_base_of_v<CRegInfo, C>) {
+            {
+                C object(L"Svc", false);
+                LoadAndSave<CRegInfo>(object);
+            }
+            std::unique_ptr<CRegInfo> provider = std::make_unique<Provider<C>>(L"Svc", false);
+            EXPECT_NE(dynamic_cast<C*>(provider.get()), nullptr);
+            LoadAndSave(*provider);
+        } else {
+            Provider<C> object;
+            object.m_strKeyName = L"Dev";
+            LoadAndSave<C>(object);
+        }
+        EXPECT_EQ(std::exchange(g_destroyed, 0), 1);
+    }
+};
+
+} // namespace
+
+TEST_F(SharedLibraryTest, EveryClassIsMadeLoadedSavedAndDestroyed)
+{
+    std::size_t count = 0;
+#define CLASS(Class)                                                                                                   \
+    {                                                                                                                  \
+        SCOPED_TRACE(#Class);                                                                                          \
+        ResetProcess();                                                                                                \
+        AddRequiredKeys();                                                                                             \
+        Check<Class>(L## #Class);                                                                                      \
+        ++count;                                                                                                       \
+    }
+#include "catalogue/all.inc"
+#undef CLASS
+    EXPECT_EQ(count, AllClasses().size());
+}
+
+TEST_F(SharedLibraryTest, ItsExceptionsAreCaughtByTheProgram)
+{
+    CString text(L"abc");
+    EXPECT_THROW(text.SetAt(3, L'x'), CInvalidArgException);
+    EXPECT_THROW(text.SetAt(-1, L'x'), std::exception);
+}
+
+} // namespace wqspcfg::test
