@@ -493,17 +493,19 @@ CString CRegInfo::DescKey(CString& strCache, LPCWSTR lpszName, LPCWSTR lpszDefau
 
 CString CRegInfo::GetErrorCodeDescKey() const
 {
-    return DescKey(m_strErrorCodeDescKey, shared::kErrorCodeDescKey.name, shared::kErrorCodeDescKey.fallback.text);
+    return DescKey(m_strErrorCodeDescKey, shared::kErrorCodeDescKey.name.data(),
+                   shared::kErrorCodeDescKey.fallback.text);
 }
 
 CString CRegInfo::GetCapVendorDescKey() const
 {
-    return DescKey(m_strCapVendorDescKey, shared::kCapVendorDescKey.name, shared::kCapVendorDescKey.fallback.text);
+    return DescKey(m_strCapVendorDescKey, shared::kCapVendorDescKey.name.data(),
+                   shared::kCapVendorDescKey.fallback.text);
 }
 
 CString CRegInfo::GetCapVendorDescKeyValue() const
 {
-    return DescKey(m_strCapVendorDescKeyValue, shared::kCapVendorDescKeyValue.name,
+    return DescKey(m_strCapVendorDescKeyValue, shared::kCapVendorDescKeyValue.name.data(),
                    shared::kCapVendorDescKeyValue.fallback.text);
 }
 
