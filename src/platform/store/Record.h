@@ -23,6 +23,8 @@ static_assert(std::endian::native == std::endian::little, "records are little-en
 
 constexpr std::size_t kRecordHeader = 10;
 
+constexpr std::uint64_t kSumFactor = 0x9E3779B97F4A7C15;
+
 struct RecordView
 {
     std::uint32_t type = 0;
@@ -30,16 +32,15 @@ struct RecordView
     std::span<const std::byte> data;
 };
 
-// Mixes bytes into a running sum, eight at a time. Each step is a bijection of the word that it takes in, so that no
-// change within a single word goes unseen.
+// Mixes bytes into a running sum, eight at a time. Each step is a bijection of the word that it takes in, so that a
+// change within a single word changes the sum.
 inline std::uint64_t MixBytes(std::uint64_t sum, std::string_view bytes) noexcept
 {
-    constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
     const auto* data = bytes.data();
     auto left = bytes.size();
     sum += left;
     const auto mix = [&sum](std::uint64_t word) {
-        sum = (sum ^ word) * kFactor;
+        sum = (sum ^ word) * kSumFactor;
         sum ^= sum >> 32;
     };
     for (; left >= 8; data += 8, left -= 8) {
@@ -65,7 +66,9 @@ inline std::uint64_t NameSum(std::string_view prefix) noexcept
 inline std::uint32_t RecordSum(std::uint64_t prefixSum, std::string_view name, std::string_view record) noexcept
 {
     const auto sum = MixBytes(MixBytes(prefixSum, name), record.substr(4));
-    return static_cast<std::uint32_t>(sum ^ (sum >> 32));
+    // The upper half of a product depends on every bit. (The last step of MixBytes has folded the halves: folding them
+    // once more would undo it and lose half of the last word.)
+    return static_cast<std::uint32_t>((sum * kSumFactor) >> 32);
 }
 
 // Everything but the check sum.
