@@ -2,6 +2,7 @@
 // the Windows registry itself refuses to hold never reaches a class.
 #include "catalogue/CatalogueTesting.h"
 
+#include "support/Sanitizers.h"
 #include "support/StoreTesting.h"
 
 #include <cwchar>
@@ -13,19 +14,7 @@ namespace wqspcfg::test {
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool kSlow = true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-constexpr bool kSlow = true;
-#else
-constexpr bool kSlow = false;
-#endif
-#else
-constexpr bool kSlow = false;
-#endif
-
-constexpr std::size_t kLongText = kSlow ? 8 * 1024 : 512 * 1024; // in characters of two bytes: a megabyte
+constexpr std::size_t kLongText = kSanitized ? 8 * 1024 : 512 * 1024; // in characters of two bytes: a megabyte
 
 // Takes lines and keeps none.
 class CountingLog final : public CLog

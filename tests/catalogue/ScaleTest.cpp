@@ -8,7 +8,7 @@
 #include "models/ptr/SpPTRPrdFPCNormalRegInfo.h"
 #include "platform/store/Session.h"
 #include "support/ConfigTest.h"
-#include "support/StoreTesting.h"
+#include "support/Sanitizers.h"
 
 #include <memory>
 #include <string>
@@ -18,17 +18,7 @@ namespace wqspcfg::test {
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr DWORD kMany = 10'000;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-constexpr DWORD kMany = 10'000;
-#else
-constexpr DWORD kMany = 100'000;
-#endif
-#else
-constexpr DWORD kMany = 100'000;
-#endif
+constexpr DWORD kMany = kSanitized ? 10'000 : 100'000;
 constexpr DWORD kFew = kMany / 10;
 
 // Counts what passes through: queries, opened keys, visited names and writes.
@@ -261,6 +251,16 @@ TEST_F(CatalogueScaleTest, MappingKeys)
         },
         [](CPINRegInfo& config, DWORD count) {
             EXPECT_EQ(config.m_mapKeyboardMapping.GetCount(), static_cast<INT_PTR>(count));
+        });
+    ExpectLinear<CTTURegInfo>(
+        [](DWORD count) {
+            for (DWORD i = 0; i < count; ++i) {
+                Set(Device(L"KeyboardInfo\\KeyboardMapping"), std::to_wstring(i), L"ENTER");
+                Set(Device(L"KeyboardInfo\\KeyboardMapping\\" + Numbered(L"Key", i)), L"Unrelated", 1U);
+            }
+        },
+        [](CTTURegInfo& config, DWORD count) {
+            EXPECT_EQ(config.m_mapKeyboardMapping.GetCount(), static_cast<INT_PTR>(2 * count));
         });
     ExpectLinear<CSpPTRPrdFPCNormalRegInfo>(
         [](DWORD count) {

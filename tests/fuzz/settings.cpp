@@ -16,12 +16,19 @@ namespace {
 class Registry final : public CatalogueTest
 {
   public:
+    // Without a record of what is read and written, which costs more than the rest.
+    Registry() : m_plain(Open("memory:"))
+    {
+        SetCurrentStore(m_plain);
+        Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Provider", L"Phys");
+        Set(Service(), L"ExeDllMother", L"Dev.exe");
+    }
     void TestBody() override {}
 
     void Fill(const ClassEntry& entry, fuzz::Input& input)
     {
         const auto& settings = SettingsOf(entry);
-        const auto transaction = Begin(*m_store, Access::Write);
+        const auto transaction = Begin(*m_plain, Access::Write);
         for (int count = 0; count < 64 && !input.IsEmpty(); ++count) {
             const auto where = input.Byte();
             std::wstring path;
@@ -60,13 +67,15 @@ class Registry final : public CatalogueTest
             const bool loaded = object->Load(&log);
             const auto members = Members(entry, *object);
             EXPECT_TRUE(CheckRanges(entry, members));
-            EXPECT_EQ(object->Load(nullptr), loaded);
-            EXPECT_TRUE(Members(entry, *object) == members);
-            UseGetters(*object);
+            if (&state == states) {
+                EXPECT_EQ(object->Load(nullptr), loaded);
+                EXPECT_TRUE(Members(entry, *object) == members);
+                UseGetters(*object);
+            }
             object->Save();
             // The carrier's name names the device key, and may be longer than a key's.
             EXPECT_TRUE(!LastStoreError() || LastStoreError().kind == ErrorKind::TooLong) << LastStoreError().message;
-            state = Dump(*m_store, {}) + Dump(*m_store, {}, Hive::Users);
+            state = Dump(*m_plain, {}) + Dump(*m_plain, {}, Hive::Users);
             ResetProcess();
         }
         EXPECT_EQ(states[0], states[1]) << "the second Save writes something else";
@@ -214,6 +223,8 @@ class Registry final : public CatalogueTest
             EXPECT_EQ(crm->m_arSupportCurrencyExponent.GetSize(), crm->m_arSupportCurrencyID.GetSize());
         }
     }
+
+    std::shared_ptr<Store> m_plain;
 };
 
 } // namespace
