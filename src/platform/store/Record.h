@@ -23,8 +23,6 @@ static_assert(std::endian::native == std::endian::little, "records are little-en
 
 constexpr std::size_t kRecordHeader = 10;
 
-constexpr std::uint64_t kSumFactor = 0x9E3779B97F4A7C15;
-
 struct RecordView
 {
     std::uint32_t type = 0;
@@ -32,8 +30,10 @@ struct RecordView
     std::span<const std::byte> data;
 };
 
-// Mixes bytes into a running sum, eight at a time. Each step is a bijection of the word that it takes in, so that a
-// change within a single word changes the sum.
+constexpr std::uint64_t kSumFactor = 0x9E3779B97F4A7C15;
+
+// Mixes bytes into a running sum, eight at a time. Each step is a bijection of the word that it takes in, so that no
+// change within a single word goes unseen in the sum's 64 bits.
 inline std::uint64_t MixBytes(std::uint64_t sum, std::string_view bytes) noexcept
 {
     const auto* data = bytes.data();
@@ -65,9 +65,8 @@ inline std::uint64_t NameSum(std::string_view prefix) noexcept
 
 inline std::uint32_t RecordSum(std::uint64_t prefixSum, std::string_view name, std::string_view record) noexcept
 {
+    // The last word has been through one step only: without another, the upper half of it would not reach some bits.
     const auto sum = MixBytes(MixBytes(prefixSum, name), record.substr(4));
-    // The upper half of a product depends on every bit. (The last step of MixBytes has folded the halves: folding them
-    // once more would undo it and lose half of the last word.)
     return static_cast<std::uint32_t>((sum * kSumFactor) >> 32);
 }
 
