@@ -2,29 +2,32 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+namespace wqspcfg::test {
 
-namespace wqspcfg {
-
-TEST(Record, EveryChangedByteBreaksTheSeal)
+TEST(RecordTest, TheCheckSumSeesEveryBit)
 {
+    const std::string name = "MSOFTWARE\\XFS\\DEVICE";
+    std::string record;
     for (std::size_t size = 0; size < 40; ++size) {
-        const std::string data(size, 'd');
-        std::string record;
-        BuildRecord(1, "Name", std::as_bytes(std::span(data)), record);
-        SealRecord(NameSum("path"), "NAME", record);
-        ASSERT_TRUE(IsSealed(NameSum("path"), "NAME", record));
-        for (std::size_t at = 0; at < record.size(); ++at) {
-            for (const unsigned change : {0x01U, 0x10U, 0x80U, 0xFFU}) {
+        const std::string data(size, 'x');
+        BuildRecord(1, {}, std::as_bytes(std::span(data)), record);
+        SealRecord(NameSum(name), "VALUE", record);
+        ASSERT_TRUE(IsSealed(NameSum(name), "VALUE", record));
+        EXPECT_FALSE(IsSealed(NameSum(name), "VALUF", record));
+        EXPECT_FALSE(IsSealed(NameSum(name + '\\'), "VALUE", record));
+        for (std::size_t bit = 0; bit < record.size() * 8; ++bit) {
+            for (std::size_t other = bit; other < record.size() * 8; ++other) {
                 auto changed = record;
-                changed[at] = static_cast<char>(static_cast<unsigned char>(changed[at]) ^ change);
-                EXPECT_FALSE(IsSealed(NameSum("path"), "NAME", changed)) << size << " bytes, changed at " << at;
+                changed[bit / 8] = static_cast<char>(changed[bit / 8] ^ (1 << (bit % 8)));
+                if (other != bit) {
+                    changed[other / 8] = static_cast<char>(changed[other / 8] ^ (1 << (other % 8)));
+                }
+                ASSERT_FALSE(IsSealed(NameSum(name), "VALUE", changed)) << size << ": bits " << bit << ", " << other;
             }
-            EXPECT_FALSE(IsSealed(NameSum("path"), "NAME", record.substr(0, at))) << size << " bytes, cut at " << at;
         }
-        EXPECT_FALSE(IsSealed(NameSum("path"), "NAMF", record));
-        EXPECT_FALSE(IsSealed(NameSum("patg"), "NAME", record));
+        EXPECT_FALSE(IsSealed(NameSum(name), "VALUE", std::string(record) + std::string(1, 0)));
+        EXPECT_FALSE(IsSealed(NameSum(name), "VALUE", std::string_view(record).substr(0, record.size() - 1)));
     }
 }
 
-} // namespace wqspcfg
+} // namespace wqspcfg::test
