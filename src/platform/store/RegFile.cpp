@@ -276,6 +276,10 @@ class RegFileParser::Impl
             return true;
         }
         if (!AppendUtf16FromUtf8(line, m_text)) {
+            // What is wrong in a line before this one is told first, however the file arrives.
+            if (!ParseLines(false)) {
+                return false;
+            }
             m_line = m_decodedLines;
             return Fail(ErrorKind::BadText, "the text is not well-formed UTF-8");
         }

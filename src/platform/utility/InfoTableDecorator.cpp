@@ -20,6 +20,10 @@ std::size_t InsertionIndex(int index, std::size_t size)
     return index < 0 ? size : std::min(static_cast<std::size_t>(index), size);
 }
 
+// A cell that is longer than this stands out of its column: padding all others to it would make a table that grows with
+// the number of rows times the longest text.
+constexpr std::size_t kWidestColumn = 256;
+
 std::ptrdiff_t Offset(std::size_t index)
 {
     return static_cast<std::ptrdiff_t>(index);
@@ -71,7 +75,7 @@ CString CInfoTableDecorator::Format(int maxRows, char fill, char separator) cons
         for (std::size_t row = 0; row < shown; ++row) {
             width = std::max(width, m_rows[row][column].size());
         }
-        widths.push_back(width);
+        widths.push_back(std::min(width, kWidestColumn));
     }
 
     std::wstring table;
@@ -86,7 +90,7 @@ CString CInfoTableDecorator::Format(int maxRows, char fill, char separator) cons
         for (std::size_t column = 0; column < row.size(); ++column) {
             table += row[column];
             if (column + 1 < row.size()) {
-                table.append(widths[column] - row[column].size(), fillChar);
+                table.append(widths[column] - std::min(row[column].size(), widths[column]), fillChar);
                 table += separatorChar;
             }
         }

@@ -196,6 +196,7 @@ TEST(RegFileTest, SaysWhatIsWrongAndWhere)
         {std::string("\"a\0b\"=dword:1", 13), "3: the value's name holds a NUL"},
         {std::string("\"a\"=\"\0\"", 7), "3: the value's text holds a NUL"},
         {"\"\xFF\"=dword:1", "3: the text is not well-formed UTF-8"},
+        {"\"x\"=dword\n\"\xFF\"=dword:1", "3: unknown kind of data"}, // the first one counts
         {"[HKLM\\" + std::string(300, 'k') + "]", "3: memory:: the key name \"kkk"},
     };
     for (const auto& [line, message] : lines) {

@@ -49,4 +49,19 @@ TEST(InfoTable, TakesAnyOrderAndRefusesCellsOutside)
                                                  L"last_______ ");
 }
 
+TEST(InfoTable, AVeryLongCellDoesNotWidenTheOthers)
+{
+    constexpr int kRows = 1000;
+    CInfoTableDecorator table(L"", 0);
+    table.InsertColumn(0, L"Name");
+    table.InsertColumn(1, L"Count");
+    for (int row = 0; row < kRows; ++row) {
+        table.InsertItem(row, row == 7 ? std::wstring(100'000, L'x').c_str() : L"short");
+        table.SetItemText(row, 1, L"0");
+    }
+    const auto text = table.Format(-1, ' ', ' ').Std();
+    EXPECT_LT(text.size(), 500'000U);
+    EXPECT_NE(text.find(L"x 0\r\nshort "), std::wstring::npos);
+}
+
 } // namespace

@@ -1,0 +1,237 @@
+// What tests over the whole catalogue share: the settings of a class with those it inherits, what an object holds for
+// each, and a fixture whose registry can be wiped.
+#pragma once
+
+#include "catalogue/Catalogue.h"
+#include "core/settings/Reference.h"
+#include "platform/store/Session.h"
+#include "platform/text/CaseFold.h"
+#include "platform/text/Utf.h"
+#include "support/ConfigTest.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <ostream>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace wqspcfg {
+
+inline void PrintTo(const DescribedValue& value, std::ostream* out)
+{
+    *out << value.number << " \"" << Utf8ForMessage(value.text) << '"';
+}
+
+} // namespace wqspcfg
+
+namespace wqspcfg::test {
+
+inline std::string Narrow(std::wstring_view text)
+{
+    return Utf8ForMessage(text);
+}
+
+inline std::string NameOfClass(const ClassEntry& entry)
+{
+    return Narrow(entry.table().className);
+}
+
+// Every class that can be made.
+inline std::vector<const ClassEntry*> Concrete()
+{
+    std::vector<const ClassEntry*> entries;
+    for (const auto* entry : AllClasses()) {
+        if (entry->create != nullptr) {
+            entries.push_back(entry);
+        }
+    }
+    return entries;
+}
+
+inline bool Is(const ClassEntry& entry, std::wstring_view name)
+{
+    const auto tables = Lineage(entry.table());
+    return std::any_of(tables.begin(), tables.end(), [&](const Table* table) { return table->className == name; });
+}
+
+inline const void* MemberOf(const DescribedSetting& setting, CRegKeyEx& object)
+{
+    const auto& row = *setting.row;
+    if (row.locate != nullptr) {
+        return row.locate(object, setting.turn);
+    }
+    switch (row.type) {
+    case Type::Dword:
+        return &(object.*row.member.dword);
+    case Type::Flag:
+        return &(object.*row.member.flag);
+    case Type::String:
+        return &(object.*row.member.string);
+    case Type::Char:
+    case Type::None:
+        break;
+    }
+    return &(object.*row.member.character);
+}
+
+inline DescribedValue Held(const DescribedSetting& setting, CRegKeyEx& object)
+{
+    const auto* member = MemberOf(setting, object);
+    switch (setting.type) {
+    case Type::Dword:
+        return {*static_cast<const DWORD*>(member), {}};
+    case Type::Flag:
+        return {*static_cast<const bool*>(member) ? 1U : 0U, {}};
+    case Type::String:
+        return {0, static_cast<const CString*>(member)->Std()};
+    case Type::Char: {
+        const auto character = *static_cast<const wchar_t*>(member);
+        return {0, character != 0 ? std::wstring(1, character) : std::wstring()};
+    }
+    case Type::None:
+        break;
+    }
+    return {};
+}
+
+// Models whose Save leaves out what their bases save.
+inline bool SavesOnlyItsOwn(const ClassEntry& entry)
+{
+    static const std::set<std::wstring_view> kNames{L"CSpMCRCF66RegInfo", L"CSpIDCPrdFPCNormalRegInfo"};
+    return kNames.contains(entry.table().className);
+}
+
+inline bool IsText(Type type)
+{
+    return type == Type::String || type == Type::Char;
+}
+
+// Nothing but the query and its default says what the member holds.
+inline bool IsPlain(const DescribedSetting& setting)
+{
+    const auto& row = *setting.row;
+    // A switch without a polarity, which is read later, becomes 0.
+    const bool decidedLater = setting.key == L"Switches\\Index";
+    return row.bound && !row.preloaded && row.step == nullptr && row.correct == nullptr && row.correctText == nullptr &&
+           !setting.conditional && !decidedLater;
+}
+
+// A setting of one class, and which.
+struct Owned
+{
+    const Table* table;
+    DescribedSetting setting;
+    std::string Name() const { return Narrow(table->className) + ": " + Narrow(setting.key + L"\\" + setting.name); }
+};
+
+// The settings of a class and its bases in the order of loading.
+inline std::vector<Owned> WithInherited(const ClassEntry& entry)
+{
+    std::vector<Owned> all;
+    auto tables = Lineage(entry.table());
+    std::reverse(tables.begin(), tables.end());
+    for (const auto* table : tables) {
+        for (auto& setting : Describe(*table)) {
+            all.push_back({table, std::move(setting)});
+        }
+    }
+    return all;
+}
+
+class CatalogueTest : public ConfigTest
+{
+  protected:
+    // The keys without which a Load returns false.
+    void AddRequiredKeys()
+    {
+        Set(Device(L"SNRData"), L"Present", 1U);
+        Set(L"SOFTWARE\\TARNO\\Driver\\WQDrOKIUsbAgent", L"CanpostKeyEvent", 0U);
+        Set(L"SOFTWARE\\TARNO\\Driver\\WQDrOKIUsbAgent\\KeyboardMapping", L"1", L"13");
+    }
+
+    void Wipe()
+    {
+        Error error;
+        const auto transaction = m_store->Begin(Access::Write, error);
+        ASSERT_TRUE(transaction) << error.message;
+        transaction->DeleteKey(Hive::LocalMachine, L"SOFTWARE");
+        transaction->DeleteKey(Hive::Users, L".DEFAULT");
+        ASSERT_NE(transaction->Commit(false), Outcome::Failed);
+        Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Provider", L"Phys");
+        Set(Service(), L"ExeDllMother", L"Dev.exe");
+        ResetProcess();
+        ClearStoreError();
+        m_log.Clear();
+    }
+
+    static std::wstring PathOfSetting(const DescribedSetting& setting)
+    {
+        switch (setting.root) {
+        case Root::Device:
+            return Device(setting.key);
+        case Root::Service:
+            return Service(setting.key);
+        case Root::Logical:
+            return setting.key.empty() ? L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc"
+                                       : L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc\\" + setting.key;
+        case Root::Common:
+            return Common(setting.key);
+        case Root::Absolute:
+            break;
+        }
+        return setting.key;
+    }
+
+    // Everything below the three service roots and the drivers' root, as "path|name" and data.
+    std::map<std::wstring, std::wstring> Snapshot()
+    {
+        std::map<std::wstring, std::wstring> values;
+        Error error;
+        const auto transaction = m_store->Begin(Access::Read, error);
+        const auto visit = [&](auto&& self, const std::wstring& path) -> void {
+            KeyId key = 0;
+            if (transaction->OpenKey(Hive::LocalMachine, path, key) != Outcome::Found) {
+                return;
+            }
+            transaction->EnumValues(key, [&](std::wstring_view name, const ValueView& value) {
+                std::wstring data = std::to_wstring(static_cast<unsigned>(value.type)) + L":";
+                for (const auto byte : value.data) {
+                    data += static_cast<wchar_t>(std::to_integer<unsigned>(byte));
+                }
+                values[UpCase(path + L"|" + std::wstring(name))] = data;
+                return true;
+            });
+            std::vector<std::wstring> subkeys;
+            transaction->EnumKeys(key, [&](std::wstring_view name) {
+                subkeys.emplace_back(name);
+                return true;
+            });
+            for (const auto& subkey : subkeys) {
+                self(self, path + L"\\" + subkey);
+            }
+        };
+        visit(visit, L"SOFTWARE");
+        return values;
+    }
+
+    std::unique_ptr<CRegInfo> Make(const ClassEntry& entry) { return Create(entry, CString(L"Svc"), false); }
+
+    // Loads the class and saves it into a store that holds nothing of it.
+    std::map<std::wstring, std::wstring> LoadAndSave(const ClassEntry& entry, bool& loaded)
+    {
+        const auto object = Make(entry);
+        loaded = object->Load(&m_log);
+        Wipe();
+        // A cash module's Save ends early without its serial-number key.
+        if (Is(entry, L"CCRMRegInfo")) {
+            Set(Device(L"SNRData"), L"Present", 1U);
+        }
+        object->Save();
+        return Snapshot();
+    }
+};
+
+} // namespace wqspcfg::test
