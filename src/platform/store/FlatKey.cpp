@@ -25,25 +25,28 @@ constexpr std::array<HiveEntry, 5> kHives = {{
     {'F', L"HKEY_CURRENT_CONFIG"},
 }};
 
-// The upper case of an ASCII character, 0 for NUL and any other character.
-struct AsciiUpper
+// Writes the text in upper case, as many characters as it has. False when it is not all ASCII, or holds a NUL; what was
+// written means nothing then. (Without a branch in the loop, so that the compiler can take many characters at once.)
+bool FoldAscii(std::wstring_view text, char* to)
 {
-    std::array<char, 128> table{};
-
-    constexpr AsciiUpper()
-    {
-        for (std::size_t ch = 1; ch < table.size(); ++ch) {
-            table[ch] = static_cast<char>(ch >= 'a' && ch <= 'z' ? ch - ('a' - 'A') : ch);
-        }
+    unsigned wrong = 0;
+    for (const auto ch : text) {
+        const auto code = static_cast<std::uint32_t>(ch);
+        wrong |= static_cast<unsigned>(code - 1 > 126);
+        *to++ = static_cast<char>(code - (static_cast<std::uint32_t>(code - 'a' < 26) << 5));
     }
-    char operator[](wchar_t ch) const
-    {
-        const auto code = static_cast<std::make_unsigned_t<wchar_t>>(ch); // NOLINT(bugprone-signed-char-misuse)
-        return code < table.size() ? table[code] : '\0';
-    }
-};
+    return wrong == 0;
+}
 
-constexpr AsciiUpper kAsciiUpper;
+// Whether a component of the path is empty.
+bool HasEmptyComponent(std::string_view path)
+{
+    unsigned empty = path.starts_with('\\') || path.ends_with('\\') ? 1 : 0;
+    for (std::size_t pos = 1; pos < path.size(); ++pos) {
+        empty |= static_cast<unsigned>(path[pos - 1] == '\\') & static_cast<unsigned>(path[pos] == '\\');
+    }
+    return empty != 0;
+}
 
 const HiveEntry& EntryOf(Hive hive)
 {
@@ -66,44 +69,25 @@ bool AppendFolded(std::wstring_view name, std::string& out)
 {
     const auto start = out.size();
     out.resize(start + name.size());
-    auto* to = out.data() + start;
-    std::size_t pos = 0;
-    for (; pos < name.size() && kAsciiUpper[name[pos]] != 0; ++pos) {
-        to[pos] = kAsciiUpper[name[pos]];
-    }
-    if (pos == name.size()) {
+    if (FoldAscii(name, out.data() + start)) {
         return true;
     }
-    out.resize(start + pos);
-    const auto rest = UpCase(name.substr(pos));
-    return rest.find(L'\0') == std::wstring::npos && AppendCesu8(rest, out);
+    out.resize(start);
+    const auto upper = UpCase(name);
+    return upper.find(L'\0') == std::wstring::npos && AppendCesu8(upper, out);
 }
 
 bool AppendFoldedPath(Hive hive, std::wstring_view path, std::string& out)
 {
-    out.push_back(HiveLetter(hive));
     const auto start = out.size();
-    out.resize(start + path.size());
-    auto* to = out.data() + start;
-    std::size_t length = 0;
-    for (std::size_t pos = 0; pos < path.size(); ++pos) {
-        const auto ch = kAsciiUpper[path[pos]];
-        if (ch == 0) {
-            FlatPath slow;
-            out.resize(start - 1);
-            return slow.Assign(hive, path) && (out.append(slow.Whole()), true);
-        }
-        // Empty components do not count.
-        if (ch == '\\' && (length == 0 || to[length - 1] == '\\')) {
-            continue;
-        }
-        to[length++] = ch;
+    out.resize(start + 1 + path.size());
+    out[start] = HiveLetter(hive);
+    if (FoldAscii(path, out.data() + start + 1) && !HasEmptyComponent(std::string_view(out).substr(start + 1))) {
+        return true;
     }
-    if (length > 0 && to[length - 1] == '\\') {
-        --length;
-    }
-    out.resize(start + length);
-    return true;
+    out.resize(start);
+    FlatPath slow;
+    return slow.Assign(hive, path) && (out.append(slow.Whole()), true);
 }
 
 bool FlatPath::Assign(Hive hive, std::wstring_view path)

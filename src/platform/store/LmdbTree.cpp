@@ -30,21 +30,26 @@ int CompareFrom(std::string_view left, std::string_view right, std::size_t& same
 {
     const auto size = std::min(left.size(), right.size());
     auto at = std::min(same, size);
-    while (at + 8 <= size) {
-        const auto differing = ReadAt<std::uint64_t>(left.data() + at) ^ ReadAt<std::uint64_t>(right.data() + at);
-        if (differing != 0) {
-            at += static_cast<std::size_t>(std::countr_zero(differing)) / 8;
-            break;
+    if (size < 8) {
+        while (at < size && left[at] == right[at]) {
+            ++at;
         }
-        at += 8;
+        if (at < size) {
+            same = at;
+            return static_cast<unsigned char>(left[at]) < static_cast<unsigned char>(right[at]) ? -1 : 1;
+        }
     }
-    while (at < size && left[at] == right[at]) {
-        ++at;
+    while (at < size) {
+        const auto from = std::min(at, size - 8); // the last word begins within what is equal
+        const auto a = ReadAt<std::uint64_t>(left.data() + from);
+        const auto b = ReadAt<std::uint64_t>(right.data() + from);
+        if (a != b) {
+            same = from + static_cast<std::size_t>(std::countr_zero(a ^ b)) / 8;
+            return __builtin_bswap64(a) < __builtin_bswap64(b) ? -1 : 1;
+        }
+        at = from + 8;
     }
-    same = at;
-    if (at < size) {
-        return static_cast<unsigned char>(left[at]) < static_cast<unsigned char>(right[at]) ? -1 : 1;
-    }
+    same = size;
     return left.size() == right.size() ? 0 : (left.size() < right.size() ? -1 : 1);
 }
 
