@@ -26,16 +26,27 @@ constexpr std::array<HiveEntry, 5> kHives = {{
 }};
 
 // Writes the text in upper case, as many characters as it has. False when it is not all ASCII, or holds a NUL; what was
-// written means nothing then. (Without a branch in the loop, so that the compiler can take many characters at once.)
+// written means nothing then. (No branches in the loops, so that the compiler takes many characters at once.)
 bool FoldAscii(std::wstring_view text, char* to)
 {
-    unsigned wrong = 0;
-    for (const auto ch : text) {
-        const auto code = static_cast<std::uint32_t>(ch);
-        wrong |= static_cast<unsigned>(code - 1 > 126);
-        *to++ = static_cast<char>(code - (static_cast<std::uint32_t>(code - 'a' < 26) << 5));
+    const auto* const from = text.data();
+    const auto size = text.size();
+    std::uint32_t all = 0;
+    std::uint32_t less = 0; // its sign tells of a NUL
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto code = static_cast<std::uint32_t>(from[i]);
+        all |= code;
+        less |= code - 1;
+        to[i] = static_cast<char>(code);
     }
-    return wrong == 0;
+    if (all > 0x7F || less > 0x7F) {
+        return false;
+    }
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto letter = static_cast<unsigned char>(to[i] - 'a');
+        to[i] = static_cast<char>(to[i] - (letter < 26 ? 'a' - 'A' : 0));
+    }
+    return true;
 }
 
 // Whether a component of the path is empty.

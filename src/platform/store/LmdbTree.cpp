@@ -26,7 +26,7 @@ constexpr std::size_t kNodeHeader = sizeof(lmdb::NodeHeader);
 constexpr std::size_t kFirstPage = 2; // behind the two heads
 
 // Compares two names that begin with the same `same` bytes, and leaves in it how many they do have in common.
-int CompareFrom(std::string_view left, std::string_view right, std::size_t& same)
+[[gnu::always_inline]] inline int CompareFrom(std::string_view left, std::string_view right, std::size_t& same)
 {
     const auto size = std::min(left.size(), right.size());
     auto at = std::min(same, size);

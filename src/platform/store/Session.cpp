@@ -30,6 +30,9 @@ thread_local Error t_error;
 bool IsUsersPath(std::wstring_view path)
 {
     constexpr std::wstring_view kDefaultUser = L".DEFAULT";
+    if (!path.starts_with(kDefaultUser.front())) {
+        return false;
+    }
     const auto first = path.substr(0, path.find(L'\\'));
     return first.size() == kDefaultUser.size() && CompareNoCase(first, kDefaultUser) == 0;
 }
