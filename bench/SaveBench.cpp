@@ -5,21 +5,38 @@
 
 #include <benchmark/benchmark.h>
 
+#include <array>
 #include <map>
 
 namespace bench {
 
 namespace {
 
+// Two states of the device whose values differ: a Save writes only what is not there yet.
+constexpr std::size_t kStates = 2;
+
 struct SaveCase
 {
     std::shared_ptr<wqspcfg::Store> store;
-    std::vector<Call> writes;
+    std::array<std::vector<Call>, kStates> writes; // the same values in the same order
     std::unique_ptr<RawLmdb> raw;
     std::vector<std::string> keys;
 
-    void Put(MDB_txn* txn, std::size_t i) { raw->Put(txn, keys[i], writes[i].data.data(), writes[i].data.size()); }
+    void Put(MDB_txn* txn, std::size_t i, std::size_t state)
+    {
+        const auto& data = writes[state][i].data;
+        raw->Put(txn, keys[i], data.data(), data.size());
+    }
 };
+
+// An object that holds one of the states.
+std::unique_ptr<CRegInfo> ObjectIn(const wqspcfg::ClassEntry& entry, std::size_t state)
+{
+    StoreDevice(entry, kPhysicalName, static_cast<DWORD>(1 + state), state == 0 ? L"some text" : L"more text");
+    auto config = wqspcfg::Create(entry, kPhysicalName, true);
+    config->Load(nullptr);
+    return config;
+}
 
 SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
 {
@@ -28,15 +45,17 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
     auto& which = cases[name];
     if (!which.store) {
         which.store = CreateDeviceStore(name, entry, kTerminalValues);
-        const auto config = wqspcfg::Create(entry, kPhysicalName, true);
-        config->Load(nullptr);
-        const wqspcfg::MemoryLog log;
-        const auto recording = std::make_shared<RecordingStore>(which.store, log);
-        wqspcfg::SetCurrentStore(recording);
-        config->Save();
-        for (const auto& call : recording->Calls()) {
-            if (call.kind == Call::Kind::Set) {
-                which.writes.push_back(call);
+        for (std::size_t state = 0; state < kStates; ++state) {
+            wqspcfg::SetCurrentStore(which.store);
+            const auto config = ObjectIn(entry, state);
+            const wqspcfg::MemoryLog log;
+            const auto recording = std::make_shared<RecordingStore>(which.store, log);
+            wqspcfg::SetCurrentStore(recording);
+            config->Save();
+            for (const auto& call : recording->Calls()) {
+                if (call.kind == Call::Kind::Set) {
+                    which.writes[state].push_back(call);
+                }
             }
         }
 
@@ -47,12 +66,12 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
                              std::string(1, '\0') + "VALUE" + std::to_string(i % 20);
             which.raw->Put(txn, key, &i, 4);
         }
-        for (std::size_t i = 0; i < which.writes.size(); ++i) {
+        for (const auto& write : which.writes[0]) {
             auto& key = which.keys.emplace_back();
-            wqspcfg::AppendFoldedPath(which.writes[i].hive, which.writes[i].path, key);
+            wqspcfg::AppendFoldedPath(write.hive, write.path, key);
             key += '\0';
-            wqspcfg::AppendFolded(which.writes[i].name, key);
-            which.Put(txn, i);
+            wqspcfg::AppendFolded(write.name, key);
+            which.Put(txn, which.keys.size() - 1, 0);
         }
         Check(mdb_txn_commit(txn), "mdb_txn_commit");
     }
@@ -63,35 +82,39 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
 void Save(benchmark::State& state, const wqspcfg::ClassEntry& entry)
 {
     const auto& which = CaseOf(entry);
-    const auto config = wqspcfg::Create(entry, kPhysicalName, true);
-    config->Load(nullptr);
+    const std::array<std::unique_ptr<CRegInfo>, kStates> objects{ObjectIn(entry, 0), ObjectIn(entry, 1)};
+    std::size_t turn = 0;
     for (auto _ : state) {
-        config->Save();
+        objects[turn++ % kStates]->Save();
     }
-    state.counters["values"] = static_cast<double>(which.writes.size());
+    state.counters["values"] = static_cast<double>(which.keys.size());
 }
 
 void CommitOnce(benchmark::State& state, const wqspcfg::ClassEntry& entry)
 {
     auto& which = CaseOf(entry);
+    std::size_t turn = 0;
     for (auto _ : state) {
         auto* txn = which.raw->Begin(0);
         for (std::size_t i = 0; i < which.keys.size(); ++i) {
-            which.Put(txn, i);
+            which.Put(txn, i, turn % kStates);
         }
         Check(mdb_txn_commit(txn), "mdb_txn_commit");
+        ++turn;
     }
 }
 
 void CommitEach(benchmark::State& state, const wqspcfg::ClassEntry& entry)
 {
     auto& which = CaseOf(entry);
+    std::size_t turn = 0;
     for (auto _ : state) {
         for (std::size_t i = 0; i < which.keys.size(); ++i) {
             auto* txn = which.raw->Begin(0);
-            which.Put(txn, i);
+            which.Put(txn, i, turn % kStates);
             Check(mdb_txn_commit(txn), "mdb_txn_commit");
         }
+        ++turn;
     }
 }
 

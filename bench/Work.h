@@ -190,7 +190,8 @@ inline void NameDevice(const std::wstring& physicalName)
 }
 
 // Stores every value of the class's settings in the current store.
-inline void StoreDevice(const wqspcfg::ClassEntry& entry, const std::wstring& physicalName = kPhysicalName)
+inline void StoreDevice(const wqspcfg::ClassEntry& entry, const std::wstring& physicalName = kPhysicalName,
+                        DWORD number = 1, const wchar_t* text = L"some text")
 {
     using wqspcfg::Type;
     const wqspcfg::WriteScope scope;
@@ -202,9 +203,9 @@ inline void StoreDevice(const wqspcfg::ClassEntry& entry, const std::wstring& ph
         for (const auto& setting : wqspcfg::Describe(*table)) {
             const wqspcfg::Key key{setting.root, setting.key.c_str()};
             if (setting.type == Type::String || setting.type == Type::Char) {
-                saving.Put(key, CString(setting.name), CString(L"some text"));
+                saving.Put(key, CString(setting.name), CString(text));
             } else {
-                saving.Put(key, CString(setting.name), 1);
+                saving.Put(key, CString(setting.name), number);
             }
         }
     }

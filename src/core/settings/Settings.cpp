@@ -476,14 +476,19 @@ void Saving::WriteRow(const Setting& row, const wchar_t* turnName, unsigned turn
         return;
     }
     const wchar_t* name = row.savedName != nullptr ? row.savedName : row.name.data();
-    std::wstring subkeyOfTurn;
+    Session::Key key = 0;
     std::wstring nameOfTurn;
-    Key key = row.key;
     if (turnName != nullptr || turnNumber != kNoTurn) {
-        subkeyOfTurn = ForTurn(key.subkey, turnName, turnNumber);
+        const auto subkey = ForTurn(row.key.subkey, turnName, turnNumber);
+        key = Open({row.key.root, subkey.c_str()});
         nameOfTurn = ForTurn(name, turnName, turnNumber);
-        key.subkey = subkeyOfTurn.c_str();
         name = nameOfTurn.c_str();
+    } else {
+        if (row.key.subkey != m_lastKey.subkey || row.key.root != m_lastKey.root) {
+            m_lastOpened = Open(row.key);
+            m_lastKey = row.key;
+        }
+        key = m_lastOpened;
     }
     switch (row.type) {
     case Type::Dword: {
@@ -514,13 +519,23 @@ Session::Key Saving::Open(Key key)
 
 void Saving::Put(Key key, const CString& strName, DWORD value)
 {
-    const DwordBytes bytes(value);
-    m_scope->Set(Open(key), strName.View(), bytes.View());
+    Put(Open(key), strName, value);
 }
 
 void Saving::Put(Key key, const CString& strName, const CString& value)
 {
-    SetText(*m_scope, Open(key), strName.View(), value.View());
+    Put(Open(key), strName, value);
+}
+
+void Saving::Put(Session::Key key, const CString& strName, DWORD value)
+{
+    const DwordBytes bytes(value);
+    m_scope->Set(key, strName.View(), bytes.View());
+}
+
+void Saving::Put(Session::Key key, const CString& strName, const CString& value)
+{
+    SetText(*m_scope, key, strName.View(), value.View());
 }
 
 } // namespace wqspcfg

@@ -110,6 +110,8 @@ class WQSPCFG_API Saving
 
   private:
     Session::Key Open(Key key);
+    void Put(Session::Key key, const CString& strName, DWORD value);
+    void Put(Session::Key key, const CString& strName, const CString& value);
     void WriteRow(const Setting& row, const wchar_t* turnName, unsigned turnNumber, unsigned index);
 
     WriteScope m_scope;
@@ -117,6 +119,9 @@ class WQSPCFG_API Saving
     CString m_deviceKeyName;
     CString m_serviceName;
     CString m_logicalName;
+    // The key of the last row of a table, which most rows share with their neighbours.
+    Key m_lastKey{Root::Device, nullptr};
+    Session::Key m_lastOpened = 0;
 };
 
 // Sets every member to what its constructor is to set.

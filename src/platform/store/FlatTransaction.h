@@ -440,6 +440,9 @@ class FlatTransaction final : public Transaction
         if (Engine::kChecked) {
             SealRecord(sum, name, m_record);
         }
+        if (found == Lookup::Found && record == m_record) {
+            return Outcome::Found; // a Save mostly writes what is there
+        }
         return FromEngine(m_engine.Put(m_name, m_record));
     }
 
