@@ -32,7 +32,8 @@ enum class Locality : std::uint8_t
 //   static constexpr std::size_t kMaxFlatName   the longest name it takes
 //   bool Usable()                               false, with Failure() set, when the transaction cannot go on
 //   bool CanWrite() const
-//   Lookup Get(name, locality, record), Put(name, record), Erase(name), ErasePrefix(prefix), Commit(flush)
+//   Lookup Get(name, locality, record), Erase(name), ErasePrefix(prefix), Commit(flush)
+//   Lookup Put(name, record, isThere)           isThere: the call before was a Get that found the name
 //   Lookup Scan(prefix, visit)                  all names with the prefix in order, until visit(name, record) is false
 //   bool ScanChecks() const                     whether Scan has verified the check sums of what it visits
 //   const Error& Failure() const, const std::string& Address() const
@@ -443,7 +444,7 @@ class FlatTransaction final : public Transaction
         if (found == Lookup::Found && record == m_record) {
             return Outcome::Found; // a Save mostly writes what is there
         }
-        return FromEngine(m_engine.Put(m_name, m_record));
+        return FromEngine(m_engine.Put(m_name, m_record, found == Lookup::Found));
     }
 
     Engine m_engine;

@@ -107,7 +107,7 @@ class LmdbEngine
 
     bool ScanChecks() const { return !m_write; }
 
-    Lookup Put(std::string_view name, std::string_view record)
+    Lookup Put(std::string_view name, std::string_view record, bool isThere)
     {
         if (const auto opened = OpenCursor(); opened != Lookup::Found) {
             return opened;
@@ -115,7 +115,7 @@ class LmdbEngine
         auto key = ToValue(name);
         auto value = ToValue(record);
         m_changed = true;
-        return Result(mdb_cursor_put(m_cursor, &key, &value, 0), "write");
+        return Result(mdb_cursor_put(m_cursor, &key, &value, isThere ? MDB_CURRENT : 0), "write");
     }
 
     Lookup Erase(std::string_view name)

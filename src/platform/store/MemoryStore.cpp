@@ -95,7 +95,7 @@ class MemoryEngine
         return Lookup::Found;
     }
 
-    Lookup Put(std::string_view name, std::string_view record)
+    Lookup Put(std::string_view name, std::string_view record, bool)
     {
         auto entry = std::make_shared<const Entry>(Entry{std::string(name), std::string(record)});
         auto at = Find(name);
