@@ -3,6 +3,8 @@
 #include "Benchmarks.h"
 #include "RawLmdb.h"
 
+#include "platform/store/Backup.h"
+
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -17,7 +19,8 @@ constexpr std::size_t kStates = 2;
 
 struct SaveCase
 {
-    std::shared_ptr<wqspcfg::Store> store;
+    std::shared_ptr<wqspcfg::Store> prepared;      // where the objects are loaded
+    std::shared_ptr<wqspcfg::Store> store;         // written in one go, as the limit's is: neither is fragmented
     std::array<std::vector<Call>, kStates> writes; // the same values in the same order
     std::unique_ptr<RawLmdb> raw;
     std::vector<std::string> keys;
@@ -44,12 +47,12 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
     const auto name = "save-" + NameOf(entry);
     auto& which = cases[name];
     if (!which.store) {
-        which.store = CreateDeviceStore(name, entry, kTerminalValues);
+        which.prepared = CreateDeviceStore(name, entry, kTerminalValues);
         for (std::size_t state = 0; state < kStates; ++state) {
-            wqspcfg::SetCurrentStore(which.store);
+            wqspcfg::SetCurrentStore(which.prepared);
             const auto config = ObjectIn(entry, state);
             const wqspcfg::MemoryLog log;
-            const auto recording = std::make_shared<RecordingStore>(which.store, log);
+            const auto recording = std::make_shared<RecordingStore>(which.prepared, log);
             wqspcfg::SetCurrentStore(recording);
             config->Save();
             for (const auto& call : recording->Calls()) {
@@ -57,6 +60,15 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
                     which.writes[state].push_back(call);
                 }
             }
+        }
+
+        const auto compact = Scratch() / (name + "-compact");
+        std::filesystem::create_directories(compact);
+        wqspcfg::BackupCounts counts;
+        wqspcfg::Error error;
+        if (!wqspcfg::BackUpStore(which.prepared->Address(), compact + "/data.mdb", counts, error) ||
+            !(which.store = wqspcfg::OpenStore("lmdb:" + compact, {}, error))) {
+            Die(error.message);
         }
 
         which.raw = std::make_unique<RawLmdb>(Scratch() / (name + "-raw"));
@@ -75,14 +87,15 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
         }
         Check(mdb_txn_commit(txn), "mdb_txn_commit");
     }
-    wqspcfg::SetCurrentStore(which.store);
     return which;
 }
 
 void Save(benchmark::State& state, const wqspcfg::ClassEntry& entry)
 {
     const auto& which = CaseOf(entry);
+    wqspcfg::SetCurrentStore(which.prepared);
     const std::array<std::unique_ptr<CRegInfo>, kStates> objects{ObjectIn(entry, 0), ObjectIn(entry, 1)};
+    wqspcfg::SetCurrentStore(which.store);
     std::size_t turn = 0;
     for (auto _ : state) {
         objects[turn++ % kStates]->Save();
