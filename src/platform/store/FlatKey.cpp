@@ -34,7 +34,7 @@ bool FoldAscii(std::wstring_view text, char* to)
     std::uint32_t all = 0;
     std::uint32_t less = 0; // its sign tells of a NUL
     for (std::size_t i = 0; i < size; ++i) {
-        const auto code = static_cast<std::uint32_t>(from[i]);
+        const auto code = static_cast<std::uint32_t>(from[i]); // NOLINT(bugprone-signed-char-misuse)
         all |= code;
         less |= code - 1;
         to[i] = static_cast<char>(code);
