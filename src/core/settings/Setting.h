@@ -551,11 +551,17 @@ template <std::size_t N>
 consteval std::array<const Setting*, N> FindRows(std::span<const Setting> rows, const wchar_t* const (&names)[N])
 {
     std::array<const Setting*, N> found{};
-    for (std::size_t i = 0; i < N; ++i) {
-        found[i] = FindRow(rows, names[i]);
-        if (found[i] == nullptr) {
-            throw "no setting has this name";
+    std::size_t count = 0;
+    for (const auto* name : names) {
+        for (const auto& row : rows) {
+            if (row.rows == nullptr && row.name == name) {
+                found[count++] = &row;
+                break;
+            }
         }
+    }
+    if (count != N) { // counted, as GCC's sanitizer does not know here that an address is not null
+        throw "no setting has one of the names";
     }
     return found;
 }
