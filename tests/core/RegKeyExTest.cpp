@@ -156,6 +156,9 @@ TEST_F(RegKeyExTest, AReadScopeSeesOneStateAndWhatItsThreadWrites)
     Set(Device(L"New"), L"B", 5);
     EXPECT_EQ(Number(Device(L"New"), L"B"), 5U); // its own is, in a key that did not exist too
     EXPECT_EQ(Number(Device(L"new"), L"b"), 5U);
+    EXPECT_EQ(Number(Device(L"New\\"), L"B"), 5U);
+    Set(Device(L"\\New\\"), L"B", 6); // the same key
+    EXPECT_EQ(Number(Device(L"New"), L"B"), 6U);
 }
 
 TEST_F(RegKeyExTest, AnExceptionEndsAWriteScopeWithoutAWrite)
