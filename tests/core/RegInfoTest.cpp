@@ -1,6 +1,7 @@
 #include "core/RegInfo.h"
 
 #include "core/settings/Reference.h"
+#include "core/settings/Settings.h"
 #include "platform/store/Session.h"
 #include "platform/text/Utf.h"
 #include "support/ConfigTest.h"
@@ -81,6 +82,34 @@ TEST_F(RegInfoTest, TheDeviceKeyIsNamedAfterTheCarrier)
     Set(Service(), L"Executable", L"D:\\sp\\WQSpCRD");
     EXPECT_EQ(mother(L"", isExe), L"WQSpCRD");
     EXPECT_EQ(config.GetExeDllMother(0, nullptr), L"");
+}
+
+TEST_F(RegInfoTest, ALoadKnowsTheDeviceKeyOfItsOwnObjectOnly)
+{
+    const auto service = [](const wchar_t* name) { return L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\" + std::wstring(name); };
+    Set(service(L"One"), L"ExeDllMother", L"DevOne.exe");
+    Set(service(L"Two"), L"ExeDllMother", L"DevTwo.exe");
+    CRegInfo one(L"One", true);
+    CRegInfo two(L"Two", true);
+    const auto expect = [&](const wchar_t* nameOfOne) {
+        EXPECT_EQ(one.GetExeDllMother(1, nullptr), nameOfOne);
+        EXPECT_EQ(two.GetExeDllMother(1, nullptr), L"DevTwo");
+    };
+    {
+        const wqspcfg::Loading outer(one, nullptr);
+        expect(L"DevOne");
+        try {
+            const wqspcfg::Loading inner(two, nullptr);
+            expect(L"DevOne");
+            const wqspcfg::Loading again(one, nullptr);
+            expect(L"DevOne");
+            throw 1;
+        } catch (int) {
+        }
+        Set(service(L"One"), L"ExeDllMother", L"Other.exe");
+        expect(L"DevOne"); // until the Load ends
+    }
+    expect(L"Other");
 }
 
 TEST_F(RegInfoTest, PathsAreCompleted)

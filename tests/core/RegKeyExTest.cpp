@@ -93,6 +93,51 @@ TEST_F(RegKeyExTest, AWriteScopeFindsAKeyThatItMissedAndThenCreated)
     EXPECT_EQ(values.GetCount(), 1);
 }
 
+// A key that is asked for a value before anything else is not looked for until that is needed.
+TEST_F(RegKeyExTest, AKeyThatWasAskedFirstIsFoundOnceItExists)
+{
+    using wqspcfg::Outcome;
+    wqspcfg::Error error;
+    wqspcfg::SetCurrentStore(wqspcfg::OpenStore("memory:", {}, error));
+    const auto ask = [](wqspcfg::Session& session, const std::wstring& path) {
+        wqspcfg::ValueView value;
+        return session.Query(session.Open(path), L"v", value);
+    };
+    {
+        const WriteScope scope;
+        EXPECT_EQ(ask(*scope, Device(L"One\\Two")), Outcome::Missing);
+        EXPECT_FALSE(scope->Exists(scope->Open(Device(L"One"))));
+        Set(Device(L"ONE\\two\\"), L"V", 1);
+        EXPECT_EQ(ask(*scope, Device(L"One\\Two")), Outcome::Found);
+        EXPECT_TRUE(scope->Exists(scope->Open(Device(L"One"))));
+        EXPECT_EQ(ask(*scope, Device(L"One")), Outcome::Missing);
+        // Both spellings write to the one key.
+        Set(Device(L"One\\Two"), L"v", 2);
+        EXPECT_EQ(Number(Device(L"ONE\\two\\"), L"v"), 2U);
+    }
+    const ReadScope outer;
+    EXPECT_EQ(ask(*outer, Device(L"One\\Two")), Outcome::Found);
+    EXPECT_EQ(ask(*outer, Device(L"New")), Outcome::Missing);
+    {
+        const WriteScope inner;
+        EXPECT_EQ(ask(*inner, Device(L"New")), Outcome::Missing);
+        Set(Device(L"new"), L"v", 3);
+        EXPECT_EQ(ask(*inner, Device(L"New")), Outcome::Found);
+    }
+    EXPECT_EQ(ask(*outer, Device(L"New")), Outcome::Found);
+    {
+        const WriteScope failing;
+        Set(Device(L"Newer"), L"v", 4);
+        failing->Refuse({wqspcfg::ErrorKind::Io, "full"});
+    }
+    EXPECT_EQ(ask(*outer, Device(L"Newer")), Outcome::Missing);
+    wqspcfg::ClearStoreError();
+    // A key that no store can hold is a failure, and stays missing.
+    EXPECT_EQ(ask(*outer, Device(std::wstring(1, L'\0'))), Outcome::Missing);
+    EXPECT_EQ(wqspcfg::LastStoreError().kind, wqspcfg::ErrorKind::BadText);
+    wqspcfg::ClearStoreError();
+}
+
 TEST_F(RegKeyExTest, AReadScopeSeesOneStateAndWhatItsThreadWrites)
 {
     Set(Device(), L"A", 1);
@@ -111,6 +156,9 @@ TEST_F(RegKeyExTest, AReadScopeSeesOneStateAndWhatItsThreadWrites)
     Set(Device(L"New"), L"B", 5);
     EXPECT_EQ(Number(Device(L"New"), L"B"), 5U); // its own is, in a key that did not exist too
     EXPECT_EQ(Number(Device(L"new"), L"b"), 5U);
+    EXPECT_EQ(Number(Device(L"New\\"), L"B"), 5U);
+    Set(Device(L"\\New\\"), L"B", 6); // the same key
+    EXPECT_EQ(Number(Device(L"New"), L"B"), 6U);
 }
 
 TEST_F(RegKeyExTest, AnExceptionEndsAWriteScopeWithoutAWrite)

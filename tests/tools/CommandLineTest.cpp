@@ -252,6 +252,25 @@ TEST_F(CommandLineTest, SavingWritesWhatWasLoaded)
     EXPECT_NE(m_err.find("read-only"), std::string::npos) << m_err;
 }
 
+// What it writes on the way goes nowhere, and the rest of it reads that.
+TEST_F(CommandLineTest, ALoadThatWritesLeavesAReadOnlyStoreAlone)
+{
+    MakeTerminal();
+    const auto* const device = "HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200";
+    const auto* const bank = "HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\CGB_Encryptor";
+    ASSERT_EQ(Run({"set", device, "IsAutomaticForceUseSM", "1", "--type", "dword"}), 0) << m_err;
+    ASSERT_EQ(Run({"set", bank, "UseSMAlgorithm", "1", "--type", "sz"}), 0) << m_err;
+    ASSERT_EQ(Run({"export", "-o", File("terminal.reg")}), 0);
+    ASSERT_EQ(Run({"load", "Svc", "--model", "CPINRegInfo"}), 0) << m_err;
+    const auto lines = m_out;
+    EXPECT_NE(lines.find(" ForceUseSM : 01["), std::string::npos) << lines;
+    ASSERT_EQ(Run({"get", device, "ForceUseSM"}), 0);
+    EXPECT_EQ(m_out, "1\n");
+    ASSERT_EQ(RunOn("reg:" + File("terminal.reg"), {"load", "Svc", "--model", "CPINRegInfo"}), 0) << m_err;
+    EXPECT_EQ(m_out, lines);
+    EXPECT_EQ(RunOn("reg:" + File("terminal.reg"), {"get", device, "ForceUseSM"}), 1);
+}
+
 TEST_F(CommandLineTest, EveryServiceOfTheExampleTerminalIsLoadedByItsModel)
 {
     const auto terminal = std::filesystem::path(WQSPCFG_SOURCE_DIR) / "examples" / "terminal.reg";

@@ -425,19 +425,23 @@ bool LmdbTree::VerifyPage(const Page& page, bool isLeaf, const Bounds& bounds, b
 }
 
 // The pages from the root to the current leaf. A page does not change while this state is read: it is looked through
-// once, as long as its place in the list of those that were is not taken by another.
+// once, as long as its place in the list of those that were is not taken by another. Below a page that is looked
+// through all are, since a damaged page above may lead to it from two places, which give those below it other bounds.
 bool LmdbTree::VerifyPath()
 {
     constexpr std::size_t kRemembered = 64;
     m_verified.resize(kRemembered);
     Verified path;
+    bool isKnown = true;
     for (std::size_t level = 0; level < m_depth; ++level) {
         const auto& page = m_levels[level].page;
         path.number = page.number;
         auto& known = m_verified[page.number % m_verified.size()];
-        if (known != path) {
+        isKnown = isKnown && known == path;
+        if (!isKnown) {
             Bounds bounds;
             if (!BoundsOf(level, bounds) || !VerifyPage(page, level + 1 == m_depth, bounds, true)) {
+                m_verified.clear();
                 return false;
             }
             known = path;

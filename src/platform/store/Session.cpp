@@ -42,6 +42,29 @@ Hive HiveOf(std::wstring_view path)
     return IsUsersPath(path) ? Hive::Users : Hive::LocalMachine;
 }
 
+// Whether two paths name one key: backslashes at their ends and repeated ones do not count.
+bool IsSameKey(std::wstring_view left, std::wstring_view right)
+{
+    const auto take = [](std::wstring_view& path) {
+        path.remove_prefix(std::min(path.find_first_not_of(L'\\'), path.size()));
+        const auto component = path.substr(0, path.find(L'\\'));
+        path.remove_prefix(component.size());
+        return component;
+    };
+    if (HiveOf(left) != HiveOf(right)) {
+        return false;
+    }
+    for (;;) {
+        const auto component = take(left);
+        if (CompareNoCase(component, take(right)) != 0) {
+            return false;
+        }
+        if (component.empty()) {
+            return true;
+        }
+    }
+}
+
 } // namespace
 
 void SetCurrentStore(std::shared_ptr<Store> store)
@@ -135,7 +158,7 @@ bool Session::Exists(Key key)
 {
     auto& opened = m_keys[key];
     return Find(opened) || std::any_of(m_overlay.begin(), m_overlay.end(), [&](const WrittenValue& written) {
-               return CompareNoCase(written.path, opened.path) == 0;
+               return IsSameKey(written.path, opened.path);
            });
 }
 
@@ -143,7 +166,7 @@ const Session::WrittenValue* Session::FindWritten(std::wstring_view path, std::w
 {
     // The last write wins.
     for (auto written = m_overlay.rbegin(); written != m_overlay.rend(); ++written) {
-        if (CompareNoCase(written->name, name) == 0 && CompareNoCase(written->path, path) == 0) {
+        if (CompareNoCase(written->name, name) == 0 && IsSameKey(written->path, path)) {
             return &*written;
         }
     }

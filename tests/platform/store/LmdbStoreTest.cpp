@@ -6,7 +6,9 @@
 
 #include <lmdb.h>
 
+#include <algorithm>
 #include <csignal>
+#include <cstring>
 #include <functional>
 #include <random>
 #include <sys/resource.h>
@@ -373,6 +375,99 @@ TEST_F(LmdbStoreTest, DoesNotWriteWhereAHeadGivesAnotherOrderOfNames)
     EXPECT_FALSE(store->Begin(Access::Write, error));
     EXPECT_EQ(error.kind, ErrorKind::Damaged) << error.message;
     EXPECT_EQ(ReadFile(DataFile()), content);
+}
+
+// A page above that leads to one place twice: what was found whole within the bounds of the one is not within those of
+// the other.
+TEST_F(LmdbStoreTest, APageReachedThroughAWrongPlaceIsNotTakenForWhole)
+{
+    const auto path = std::wstring(kKey) + L'\\' + std::wstring(250, L'x');
+    {
+        const auto store = Create();
+        const auto transaction = Begin(*store, Access::Write);
+        KeyId key = 0;
+        ASSERT_EQ(transaction->CreateKey(Hive::LocalMachine, path, key), Outcome::Found);
+        for (int v = 1000; v < 1500; ++v) {
+            ASSERT_EQ(transaction->SetValue(key, std::to_wstring(v), {ValueType::Binary, ToBytes("data")}),
+                      Outcome::Found);
+        }
+        ASSERT_EQ(transaction->Commit(true), Outcome::Found);
+    }
+    auto content = ReadFile(DataFile());
+    const auto read = [&content](std::size_t at, auto value) {
+        std::memcpy(&value, content.data() + at, sizeof value);
+        return value;
+    };
+    const auto write = [&content](std::size_t at, const auto& value) {
+        std::memcpy(content.data() + at, &value, sizeof value);
+    };
+    const auto metaOf = [&](std::size_t head) { return read(head + sizeof(lmdb::PageHeader), lmdb::Meta{}); };
+    const auto tree = std::max(metaOf(0), metaOf(4096), [](const lmdb::Meta& a, const lmdb::Meta& b) {
+                          return a.transaction < b.transaction;
+                      }).main;
+    ASSERT_EQ(tree.depth, 3);
+    const auto root = tree.root * 4096;
+    const auto nodeOf = [&](std::size_t page, std::size_t index) {
+        return page + read(page + sizeof(lmdb::PageHeader) + index * 2, std::uint16_t{0});
+    };
+    // The root's first child keeps its first child only, and is the root's last child as well.
+    const auto first = read(nodeOf(root, 0), lmdb::NodeHeader{});
+    const auto branch = (first.low | std::size_t{first.high} << 16) * 4096;
+    const auto leaf = read(nodeOf(branch, 0), lmdb::NodeHeader{});
+    ASSERT_EQ(leaf.keySize, 0);
+    auto header = read(branch, lmdb::PageHeader{});
+    header.lower = sizeof header + 2;
+    header.upper = 4096 - sizeof leaf;
+    write(branch, header);
+    write(branch + sizeof header, header.upper);
+    write(branch + header.upper, leaf);
+    const auto last = nodeOf(root, (read(root, lmdb::PageHeader{}).lower - sizeof header) / 2U - 1U);
+    auto wrong = read(last, lmdb::NodeHeader{});
+    wrong.low = first.low;
+    wrong.high = first.high;
+    write(last, wrong);
+    WriteFile(DataFile(), content);
+
+    const auto store = Open(Address());
+    const auto transaction = Begin(*store, Access::Read);
+    ASSERT_TRUE(transaction);
+    ValueView value;
+    EXPECT_EQ(transaction->QueryAt(Hive::LocalMachine, L"A", L"none", value), Outcome::Missing);
+    for (int tries = 0; tries < 2; ++tries) {
+        EXPECT_EQ(transaction->QueryAt(Hive::LocalMachine, path, L"1499", value), Outcome::Failed);
+    }
+}
+
+TEST_F(LmdbStoreTest, WritesOnlyWhatChanges)
+{
+    const auto store = Create();
+    Put(*store, kKey, L"Port", ToBytes("a distinct text"), ValueType::Binary);
+    Put(*store, kKey, L"Quiet", DwordBytes(7));
+    auto content = ReadFile(DataFile());
+    Put(*store, kKey, L"PORT", ToBytes("a distinct text"), ValueType::Binary);
+    Put(*store, L"software\\xfs\\device", L"Quiet", DwordBytes(7));
+    EXPECT_EQ(ReadFile(DataFile()), content);
+    Put(*store, kKey, L"Quiet", DwordBytes(7), ValueType::Binary);
+    EXPECT_EQ(Get(*store, kKey, L"Quiet"), "3:07000000");
+    Put(*store, kKey, L"Quiet", DwordBytes(8), ValueType::Binary);
+    EXPECT_EQ(Get(*store, kKey, L"quiet"), "3:08000000");
+    EXPECT_EQ(ValueNames(*store, kKey), (std::vector<std::wstring>{L"Port", L"Quiet"}));
+}
+
+TEST_F(LmdbStoreTest, WritingADamagedValueAgainMendsIt)
+{
+    Put(*Create(), kKey, L"Port", ToBytes("a distinct text"), ValueType::Binary);
+    const auto whole = Get(*Open(Address()), kKey, L"Port");
+    auto content = ReadFile(DataFile());
+    // In the check sum, so that all the rest is what will be written.
+    for (std::size_t at = 0; (at = content.find("Porta distinct text", at)) != std::string::npos; ++at) {
+        content[at - kRecordHeader] = static_cast<char>(content[at - kRecordHeader] ^ 1);
+    }
+    WriteFile(DataFile(), content);
+    const auto store = Open(Address());
+    ASSERT_NE(Get(*store, kKey, L"Port"), whole);
+    Put(*store, kKey, L"Port", ToBytes("a distinct text"), ValueType::Binary);
+    EXPECT_EQ(Get(*store, kKey, L"Port"), whole);
 }
 
 TEST_F(LmdbStoreTest, NamesTheDamagedValue)

@@ -2,7 +2,10 @@
 #include "platform/store/RegFile.h"
 #include "support/StoreTesting.h"
 
+#include <algorithm>
 #include <functional>
+#include <map>
+#include <random>
 #include <sstream>
 #include <thread>
 
@@ -183,6 +186,71 @@ TEST_P(StoreContract, EnumeratesInCaseInsensitiveOrder)
     int seen = 0;
     EXPECT_EQ(transaction->EnumKeys(key, [&seen](std::wstring_view) { return ++seen < 3; }), Outcome::Found);
     EXPECT_EQ(seen, 3);
+}
+
+// Names of every length that share beginnings of every length, on many pages, looked for near the last one and far from
+// it, and among them names that differ in little and do not exist.
+TEST_P(StoreContract, FindsEveryNameAmongItsLikes)
+{
+    std::mt19937 random(1);
+    const auto below = [&random](std::size_t end) { return static_cast<std::size_t>(random() % end); };
+    std::vector<std::wstring> paths;
+    for (const auto* path : {L"A", L"A\\B", L"A\\B\\CCCCCCC", L"A B", L"AB", L"A\\B\\CCCCCCCC"}) {
+        paths.push_back(At(path));
+    }
+    std::map<std::pair<std::size_t, std::wstring>, std::uint32_t> written;
+    {
+        const auto transaction = test::Begin(*store, Access::Write);
+        std::vector<KeyId> keys(paths.size());
+        for (std::size_t i = 0; i < paths.size(); ++i) {
+            ASSERT_EQ(transaction->CreateKey(hive, paths[i], keys[i]), Outcome::Found);
+        }
+        std::wstring name;
+        for (std::uint32_t n = 0; n < 1500; ++n) {
+            name.resize(below(name.size() + 1));
+            for (auto more = below(20); more > 0; --more) {
+                name.push_back(L"AB \x00C9\xFF21"[below(5)]);
+            }
+            name.resize(std::min(name.size(), std::size_t{60}));
+            const auto path = below(paths.size());
+            ASSERT_EQ(transaction->SetValue(keys[path], name, {ValueType::Dword, DwordBytes(n)}), Outcome::Found);
+            written[{path, name}] = n;
+        }
+        ASSERT_EQ(transaction->Commit(false), Outcome::Found);
+    }
+    const std::vector<std::pair<std::pair<std::size_t, std::wstring>, std::uint32_t>> all(written.begin(),
+                                                                                          written.end());
+    const auto transaction = test::Begin(*store, Access::Read);
+    std::vector<KeyId> keys(paths.size());
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        ASSERT_EQ(transaction->NameKey(hive, paths[i], keys[i]), Outcome::Found);
+    }
+    std::size_t at = 0;
+    for (int n = 0; n < 12000; ++n) {
+        at = below(8) == 0 ? below(all.size()) : (at + below(4)) % all.size();
+        auto [path, name] = all[at].first;
+        switch (below(6)) {
+        case 0:
+            name.push_back(L'A');
+            break;
+        case 1:
+            name.resize(name.size() - (name.empty() ? 0 : 1));
+            break;
+        case 2:
+            path = below(paths.size());
+            break;
+        default:
+            break;
+        }
+        const auto found = written.find({path, name});
+        ValueView value;
+        const auto outcome = below(2) == 0 ? transaction->Query(keys[path], name, value)
+                                           : transaction->QueryAt(hive, paths[path], name, value);
+        ASSERT_EQ(outcome, found != written.end() ? Outcome::Found : Outcome::Missing) << n;
+        if (found != written.end()) {
+            ASSERT_EQ(Bytes(value.data.begin(), value.data.end()), DwordBytes(found->second)) << n;
+        }
+    }
 }
 
 TEST_P(StoreContract, CreatesAndDeletesWholeBranches)
