@@ -156,7 +156,11 @@ class LmdbEngine
         if (m_status != 0) {
             mdb_txn_abort(m_txn);
         } else {
-            m_status = mdb_txn_commit(m_txn);
+            // What is there already may be of a writer that was killed before it was durable.
+            m_status = m_changed ? 0 : mdb_env_sync(mdb_txn_env(m_txn), 1);
+            if (const auto committed = mdb_txn_commit(m_txn); m_status == 0) {
+                m_status = committed;
+            }
         }
         m_txn = nullptr;
         m_environment->EndWrite(m_status);
