@@ -4,6 +4,8 @@
 #include "RawLmdb.h"
 #include "Reader.h"
 
+#include "platform/store/KeyHandle.h"
+
 #include <benchmark/benchmark.h>
 
 #include <cstring>
@@ -92,14 +94,17 @@ class HandWritten final : public Reader
     std::vector<std::string> m_keys;
 };
 
-// A plain port: this library's static query for every value, each of them a transaction that opens and closes.
+// A plain port: every value has its key opened, is queried, and has its key closed.
 void LoadPlainly(const Work& work, CLog& log)
 {
     DWORD number = 0;
     CString text;
     for (const auto& question : work.questions) {
-        const bool found = question.isText ? CRegKeyEx::QueryValue(text, question.name, L"%s", question.path) != 0
-                                           : CRegKeyEx::QueryValue(number, question.name, L"%s", question.path) != 0;
+        bool found = false;
+        if (wqspcfg::KeyHandle key; key.Open(question.path)) {
+            wqspcfg::KeyReader reader(key.Get());
+            found = question.isText ? reader.Query(question.name, text) : reader.Query(question.name, number);
+        }
         for (const auto& line : question.lines) {
             const auto* format = line.format.c_str();
             switch (line.form) {

@@ -62,6 +62,21 @@ SaveCase& CaseOf(const wqspcfg::ClassEntry& entry)
             }
         }
 
+        auto& [first, second] = which.writes;
+        if (first.size() != second.size()) {
+            Die("a Save writes other values in another state");
+        }
+        // What is the same in both is written by nobody.
+        for (auto i = first.size(); i-- > 0;) {
+            if (first[i].path != second[i].path || first[i].name != second[i].name) {
+                Die("a Save writes other values in another state");
+            }
+            if (first[i].data == second[i].data) {
+                first.erase(first.begin() + static_cast<std::ptrdiff_t>(i));
+                second.erase(second.begin() + static_cast<std::ptrdiff_t>(i));
+            }
+        }
+
         const auto compact = Scratch() / (name + "-compact");
         std::filesystem::create_directories(compact);
         wqspcfg::BackupCounts counts;

@@ -108,11 +108,11 @@ void CheckWriting(const std::shared_ptr<Store>& store, const std::wstring& text)
     ClearStoreError();
     std::u16string units;
     const bool wellFormed = AppendUtf16(text, units);
-    EXPECT_EQ(CRegKeyEx::SetValue(CString(text), L"written", L"%s", kKey), wellFormed ? 1 : 0);
+    EXPECT_EQ(CRegKeyEx::SetValue(CString(text), L"written", L"%s\\Text", kKey), wellFormed ? 1 : 0);
     EXPECT_EQ(LastStoreError().kind == ErrorKind::BadText, !wellFormed);
     ClearStoreError();
     CString read(kUntouched);
-    EXPECT_EQ(CRegKeyEx::QueryValue(read, L"written", L"%s", kKey), wellFormed ? 1 : 0);
+    EXPECT_EQ(CRegKeyEx::QueryValue(read, L"written", L"%s\\Text", kKey), wellFormed ? 1 : 0);
     EXPECT_EQ(read.Std(), wellFormed ? text.substr(0, text.find(L'\0')) : kUntouched);
     SetCurrentStore(nullptr);
 }
