@@ -103,7 +103,8 @@ void LoadPlainly(const Work& work, CLog& log)
         bool found = false;
         if (wqspcfg::KeyHandle key; key.Open(question.path)) {
             wqspcfg::KeyReader reader(key.Get());
-            found = question.isText ? reader.Query(question.name, text) : reader.Query(question.name, number);
+            found =
+                question.isText ? reader.Query(question.name.View(), text) : reader.Query(question.name.View(), number);
         }
         for (const auto& line : question.lines) {
             const auto* format = line.format.c_str();
