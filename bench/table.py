@@ -38,7 +38,7 @@ class Results:
                     clock = "cpu_time" if name.startswith(PROCESSOR_TIME) else "real_time"
                     times[name].append(run[clock] * SECONDS[run["time_unit"]])
                     self.counted[name] = run
-        # What else the machine does only ever adds to what computes; where a disk or a process takes part, luck does too.
+        # What else the machine does only adds to what computes; where a disk or a process takes part, luck does too.
         self.times = {
             name: min(repetitions) if name.startswith(PROCESSOR_TIME) else statistics.median(repetitions)
             for name, repetitions in times.items()
