@@ -12,18 +12,6 @@ namespace {
 // What is restored, in turn: one is much longer than the other.
 constexpr std::uint32_t kGenerations[] = {10, 11};
 
-std::string MakeStore(const std::string& directory, std::uint32_t generation)
-{
-    return InChild([&] {
-        if (const auto error = UseStore(directory, true)) {
-            return error.message;
-        }
-        Dispenser config;
-        const auto installed = Dispenser::Install();
-        return installed ? installed.message : Save(config, generation).message;
-    });
-}
-
 std::string BackUp(const std::string& directory, const std::string& file)
 {
     BackupCounts counts;
@@ -68,7 +56,7 @@ Result BackupScenario(const Plan& plan)
     };
 
     // Backing up beside a writer, now and then killed.
-    if (auto why = MakeStore(directory, 1); !why.empty()) {
+    if (auto why = MakeStoreInChild(directory, 1); !why.empty()) {
         return Failed(why);
     }
     auto half = plan;
@@ -119,7 +107,7 @@ Result BackupScenario(const Plan& plan)
     const std::string files[] = {scratch / "backup0", scratch / "backup1"};
     for (const auto i : {0U, 1U}) {
         const auto source = scratch / ("source" + std::to_string(i));
-        auto why = MakeStore(source, kGenerations[i]);
+        auto why = MakeStoreInChild(source, kGenerations[i]);
         why = why.empty() ? BackUp(source, files[i]) : why;
         why = why.empty() ? Restore(directory, files[i]) : why;
         if (!why.empty()) {

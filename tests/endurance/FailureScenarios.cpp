@@ -62,21 +62,6 @@ class Steps
     std::string m_failure;
 };
 
-std::string Make(const std::string& directory, std::uint32_t generation)
-{
-    if (const auto error = UseStore(directory, true)) {
-        return error.message;
-    }
-    Dispenser config;
-    const auto installed = Dispenser::Install();
-    return installed ? installed.message : Save(config, generation).message;
-}
-
-std::string MakeInChild(const std::string& directory, std::uint32_t generation)
-{
-    return InChild([&] { return Make(directory, generation); });
-}
-
 std::string BecomeNobody()
 {
     return setgroups(0, nullptr) == 0 && setresgid(kNobody, kNobody, kNobody) == 0 &&
@@ -147,7 +132,7 @@ std::string UseFullFileSystem(const std::string& mounted)
     const auto ballast = mounted + "/ballast";
     const auto backup = mounted + "/backup";
     Steps steps;
-    steps.Then("making the store", MakeInChild(directory, 1)).Then("opening it", UseStore(directory).message);
+    steps.Then("making the store", MakeStoreInChild(directory, 1)).Then("opening it", UseStore(directory).message);
     BackupCounts counts;
     Error error;
     if (!BackUpStore("lmdb:" + directory, backup, counts, error)) {
@@ -191,7 +176,7 @@ std::string UseLimitedFile(const std::string& directory)
 {
     (void)signal(SIGXFSZ, SIG_IGN);
     Steps steps;
-    steps.Then("making the store", MakeInChild(directory, 1)).Then("opening it", UseStore(directory).message);
+    steps.Then("making the store", MakeStoreInChild(directory, 1)).Then("opening it", UseStore(directory).message);
     Dispenser config;
     std::uint32_t last = 1;
     const auto limitTo = [](rlim_t size) {
@@ -241,7 +226,7 @@ Result ReadOnlyFileScenario(const Plan&)
     }
     const auto why = InChild([&] {
         Steps steps;
-        steps.Then("making the store", MakeInChild(directory, 1));
+        steps.Then("making the store", MakeStoreInChild(directory, 1));
         if (geteuid() == 0) {
             steps.Then("giving it away", Own(directory, kNobody, 0755)).Then("dropping rights", BecomeNobody());
         }
@@ -275,7 +260,7 @@ Result ReadOnlyMountScenario(const Plan&)
         };
         Steps steps;
         steps.Then("mounting", MountSmall(mounted))
-            .Then("making the store", MakeInChild(directory, 1))
+            .Then("making the store", MakeStoreInChild(directory, 1))
             .Then("mounting it read-only", remount(MS_RDONLY))
             .Then("opening it", UseStore(directory).message);
         Dispenser config;
@@ -296,7 +281,7 @@ Result ForeignOwnerScenario(const Plan&)
     }
     const Scratch scratch;
     const auto directory = scratch / "store";
-    auto why = MakeInChild(directory, 1);
+    auto why = MakeStoreInChild(directory, 1);
     if (why.empty() && (chmod(scratch.Path().c_str(), 0755) != 0 || chmod(directory.c_str(), 0700) != 0)) {
         why = System("chmod");
     }
@@ -369,7 +354,7 @@ Result RemovedDirectoryScenario(const Plan&)
     const auto backup = scratch / "backup";
     const auto why = InChild([&] {
         Steps steps;
-        steps.Then("making the store", Make(directory, 1));
+        steps.Then("making the store", MakeStore(directory, 1));
         BackupCounts counts;
         Error error;
         (void)BackUpStore("lmdb:" + directory, backup, counts, error);

@@ -38,14 +38,7 @@ Result KillScenario(const Plan& plan)
     const Scratch scratch;
     const auto directory = scratch / "store";
     std::uint32_t acknowledged = 1;
-    auto why = InChild([&] {
-        if (const auto error = UseStore(directory, true)) {
-            return error.message;
-        }
-        Dispenser config;
-        const auto installed = Dispenser::Install();
-        return installed ? installed.message : Save(config, 1).message;
-    });
+    auto why = MakeStoreInChild(directory, 1);
     if (!why.empty()) {
         return Failed("the store was not made: " + why);
     }

@@ -126,14 +126,7 @@ Result ProcessesScenario(const Plan& plan)
 {
     const Scratch scratch;
     const auto directory = scratch / "store";
-    const auto made = InChild([&] {
-        if (const auto error = UseStore(directory, true)) {
-            return error.message;
-        }
-        Dispenser config;
-        const auto installed = Dispenser::Install();
-        return installed ? installed.message : Save(config, 0).message;
-    });
+    const auto made = MakeStoreInChild(directory, 0);
     if (!made.empty()) {
         return Failed("the store was not made: " + made);
     }

@@ -228,6 +228,21 @@ std::string ExpectGeneration(std::uint32_t least, std::uint32_t most, std::uint3
     return {};
 }
 
+std::string MakeStore(const std::string& directory, std::uint32_t generation)
+{
+    if (const auto error = UseStore(directory, true)) {
+        return error.message;
+    }
+    Dispenser config;
+    const auto installed = Dispenser::Install();
+    return installed ? installed.message : Save(config, generation).message;
+}
+
+std::string MakeStoreInChild(const std::string& directory, std::uint32_t generation)
+{
+    return InChild([&] { return MakeStore(directory, generation); });
+}
+
 std::string HoldState(const std::string& directory, const Channel& channel)
 {
     if (const auto error = UseStore(directory)) {

@@ -91,6 +91,11 @@ Error Load(Dispenser& config, bool* isInLog = nullptr);
 // Loads a fresh object and expects one generation in it, at least `least` and at most `most`. Why not, or empty.
 std::string ExpectGeneration(std::uint32_t least, std::uint32_t most, std::uint32_t* found = nullptr, int number = 0);
 
+// Makes a store with one service in the generation. Why not, or empty.
+std::string MakeStore(const std::string& directory, std::uint32_t generation);
+// In a process of its own, so that this one does not have the store open.
+std::string MakeStoreInChild(const std::string& directory, std::uint32_t generation);
+
 // A child's work: holds a state of the store until it is killed, and tells when it begins to.
 std::string HoldState(const std::string& directory, const Channel& channel);
 
