@@ -109,21 +109,17 @@ class Registry final : public CatalogueTest
     static std::wstring ListKey(unsigned which, fuzz::Input& input)
     {
         const auto number = [&input] { return std::to_wstring(input.Below(5)); };
+        static constexpr const wchar_t* kLists[] = {L"CheckErrorHandler",
+                                                    L"ExeCmdMap",
+                                                    L"InfoCmdMap",
+                                                    L"ErrCodeMap",
+                                                    L"AutoEnable",
+                                                    L"KeybordInfo\\KeyboardMapping",
+                                                    L"KeybordInfo\\FDKPosition"};
+        if (which < std::size(kLists)) {
+            return Device(kLists[which]);
+        }
         switch (which) {
-        case 0:
-            return Device(L"CheckErrorHandler");
-        case 1:
-            return Device(L"ExeCmdMap");
-        case 2:
-            return Device(L"InfoCmdMap");
-        case 3:
-            return Device(L"ErrCodeMap");
-        case 4:
-            return Device(L"AutoEnable");
-        case 5:
-            return Device(L"KeybordInfo\\KeyboardMapping");
-        case 6:
-            return Device(L"KeybordInfo\\FDKPosition");
         case 7:
             return L"SOFTWARE\\TARNO\\Driver\\WQDrOKIUsbAgent\\KeyboardMapping";
         case 8:
