@@ -293,13 +293,12 @@ int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi)
 bool LmdbEnvironment::CheckState(const std::string& address, const std::string& path, LmdbTree& tree,
                                  std::uint64_t last, Error& error)
 {
-    const auto prefix = address.empty() ? address : address + ": ";
     std::string_view record;
     switch (tree.Get(kStateName, Locality::Far, record)) {
     case Lookup::Found:
         break;
     case Lookup::Absent:
-        error = {ErrorKind::Damaged, prefix + path + " is an LMDB file but holds no registry store"};
+        error = {ErrorKind::Damaged, ErrorPrefix(address) + path + " is an LMDB file but holds no registry store"};
         return false;
     case Lookup::Failed:
         error = DamagedFile(address, path, tree.Cause());
@@ -312,9 +311,9 @@ bool LmdbEnvironment::CheckState(const std::string& address, const std::string& 
         return false;
     }
     if (view.type > kStoreFormat) {
-        error = {ErrorKind::NewerFormat, prefix + path + " has store format " + std::to_string(view.type) +
-                                             ", written by a newer version; this one knows formats up to " +
-                                             std::to_string(kStoreFormat)};
+        error = {ErrorKind::NewerFormat,
+                 ErrorPrefix(address) + path + " has store format " + std::to_string(view.type) +
+                     ", written by a newer version; this one knows formats up to " + std::to_string(kStoreFormat)};
         return false;
     }
     std::uint64_t number = 0;

@@ -67,12 +67,12 @@ bool IsNearlyFull(const std::string& path)
            static_cast<std::uint64_t>(file.st_size) + kLittle > limit.rlim_cur;
 }
 
-std::string Prefix(const std::string& address)
+} // namespace
+
+std::string ErrorPrefix(const std::string& address)
 {
     return address.empty() ? address : address + ": ";
 }
-
-} // namespace
 
 std::string LmdbWords(int status)
 {
@@ -92,7 +92,8 @@ std::string LmdbWords(int status)
 
 Error LmdbError(const std::string& address, std::string_view action, const std::string& path, int status)
 {
-    return {KindOf(status), Prefix(address) + "cannot " + std::string(action) + ' ' + path + ": " + LmdbWords(status)};
+    return {KindOf(status),
+            ErrorPrefix(address) + "cannot " + std::string(action) + ' ' + path + ": " + LmdbWords(status)};
 }
 
 int LmdbWriteStatus(const std::string& path, int status)
@@ -102,7 +103,7 @@ int LmdbWriteStatus(const std::string& path, int status)
 
 Error DamagedFile(const std::string& address, const std::string& path, std::string_view cause)
 {
-    return {ErrorKind::Damaged, Prefix(address) + path + " is damaged: " + std::string(cause)};
+    return {ErrorKind::Damaged, ErrorPrefix(address) + path + " is damaged: " + std::string(cause)};
 }
 
 bool CheckFile(const std::string& address, const std::string& path, struct stat& status, Error& error)
@@ -113,7 +114,7 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
         return false;
     }
     if (!S_ISREG(status.st_mode)) {
-        error = {ErrorKind::BadArgument, Prefix(address) + path + " is not a regular file"};
+        error = {ErrorKind::BadArgument, ErrorPrefix(address) + path + " is not a regular file"};
         return false;
     }
     const auto size = static_cast<std::size_t>(status.st_size);
@@ -141,7 +142,7 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
         return false;
     }
     if (metas[0].version != lmdb::kDataVersion) {
-        error = {ErrorKind::NewerFormat, Prefix(address) + path + " has LMDB's data version " +
+        error = {ErrorKind::NewerFormat, ErrorPrefix(address) + path + " has LMDB's data version " +
                                              std::to_string(metas[0].version) + "; this program knows version " +
                                              std::to_string(lmdb::kDataVersion) + " only"};
         return false;

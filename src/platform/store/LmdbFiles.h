@@ -37,7 +37,9 @@ class FileDescriptor
     int m_fd;
 };
 
-// An LMDB or system error in words; without an address it begins with what failed.
+// What a message begins with; nothing without an address.
+std::string ErrorPrefix(const std::string& address);
+// An LMDB or system error in words.
 std::string LmdbWords(int status);
 Error LmdbError(const std::string& address, std::string_view action, const std::string& path, int status);
 // What a write to `path` really failed for: LMDB gives one that came back short, mostly since the file system was full,
