@@ -153,7 +153,7 @@ inline constexpr const wchar_t* kPolicyLineNames[] = {L"DevBusy",
                                                       L"RaiseShutdownPriority",
                                                       L"RecordDeferReqCount"};
 inline constexpr auto kPolicyLines = FindRows(kPolicy, kPolicyLineNames);
-inline constexpr const Setting* kMediaDetectLine = FindRow(kPolicy, L"Buff2OfCDMMediaDetectEvent");
+inline constexpr const Setting* kMediaDetectLine = FindRows(kPolicy, {L"Buff2OfCDMMediaDetectEvent"})[0];
 
 // Everything in one table, for the reference.
 inline constexpr auto kSettings = [] {
