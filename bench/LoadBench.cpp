@@ -4,7 +4,7 @@
 #include "RawLmdb.h"
 #include "Reader.h"
 
-#include "platform/store/KeyHandle.h"
+#include "wqspcfg/platform/store/KeyHandle.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
 // Opens a store and exits: what a program that uses one costs at the least.
-#include "platform/store/Store.h"
+#include "wqspcfg/platform/store/Store.h"
 
 #include <cstdio>
 

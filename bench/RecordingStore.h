@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/Log.h"
-#include "platform/store/Store.h"
+#include "wqspcfg/core/Log.h"
+#include "wqspcfg/platform/store/Store.h"
 
 #include <map>
 #include <memory>

@@ -3,7 +3,7 @@
 #include "Benchmarks.h"
 #include "RawLmdb.h"
 
-#include "platform/store/Backup.h"
+#include "wqspcfg/platform/store/Backup.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,7 +4,7 @@
 #include "Benchmarks.h"
 #include "RawLmdb.h"
 
-#include "platform/store/Record.h"
+#include "wqspcfg/platform/store/Record.h"
 
 #include <benchmark/benchmark.h>
 

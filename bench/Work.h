@@ -4,15 +4,15 @@
 
 #include "RecordingStore.h"
 
-#include "catalogue/Catalogue.h"
-#include "core/Log.h"
-#include "core/RegistryRoots.h"
-#include "core/settings/Reference.h"
-#include "core/settings/Settings.h"
-#include "platform/store/FlatKey.h"
-#include "platform/store/RegistryValue.h"
-#include "platform/store/Session.h"
-#include "platform/text/Utf.h"
+#include "wqspcfg/catalogue/Catalogue.h"
+#include "wqspcfg/core/Log.h"
+#include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/platform/store/FlatKey.h"
+#include "wqspcfg/platform/store/RegistryValue.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/text/Utf.h"
 
 #include <algorithm>
 #include <cstdio>

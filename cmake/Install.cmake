@@ -3,16 +3,22 @@
 include(CMakePackageConfigHelpers)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/WQSpCfg)
 
-foreach(layer IN ITEMS platform core classes models catalogue)
-    if(IS_DIRECTORY "${PROJECT_SOURCE_DIR}/src/${layer}")
-        install(
-            DIRECTORY src/${layer}
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/wqspcfg
-            FILES_MATCHING
-            PATTERN "*.h"
-            PATTERN "*Lmdb*.h" EXCLUDE)
-    endif()
-endforeach()
+# What a service provider or a tool writer includes. The package test compiles each of these by itself.
+install(
+    DIRECTORY src/wqspcfg
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+    FILES_MATCHING
+    PATTERN "*.h"
+    PATTERN "RegInfoSettings.h" EXCLUDE
+    PATTERN "meanings" EXCLUDE
+    PATTERN "tools" EXCLUDE
+    PATTERN "lmdb" EXCLUDE
+    PATTERN "memory" EXCLUDE
+    PATTERN "windows" EXCLUDE
+    PATTERN "RegFileStore.h" EXCLUDE
+    PATTERN "FlatKey.h" EXCLUDE
+    PATTERN "FlatTransaction.h" EXCLUDE
+    PATTERN "Record.h" EXCLUDE)
 
 install(
     TARGETS wqspcfg_static wqspcfg_shared

@@ -3,9 +3,9 @@
 //
 //     wqspcfg --store lmdb:/tmp/terminal import examples/terminal.reg
 //     example_CardDispenser lmdb:/tmp/terminal CardDispenser 2
-#include "models/crd/SpCRDWQTYM1200RegInfo.h"
-#include "platform/store/Session.h"
-#include "platform/text/NarrowText.h"
+#include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/text/NarrowText.h"
 
 #include <cstdlib>
 #include <iostream>

@@ -1,7 +1,7 @@
 // What holds for every class of the library.
 #include "catalogue/CatalogueTesting.h"
 
-#include "platform/format/Format.h"
+#include "wqspcfg/platform/format/Format.h"
 
 #include <filesystem>
 
@@ -16,11 +16,11 @@ TEST_F(CatalogueTest, EverySourcePairHasItsLine)
     std::size_t files = 0;
     for (const auto* folder : {"classes", "models"}) {
         for (const auto& file : std::filesystem::recursive_directory_iterator(
-                 std::filesystem::path(WQSPCFG_SOURCE_DIR) / "src" / folder)) {
+                 std::filesystem::path(WQSPCFG_SOURCE_DIR) / "src" / "wqspcfg" / folder)) {
             const auto stem = file.path().stem().string();
             if (file.path().extension() == ".h" && stem.ends_with("RegInfo")) {
                 ++files;
-                EXPECT_TRUE(names.contains("C" + stem)) << file.path() << " has no line in src/catalogue";
+                EXPECT_TRUE(names.contains("C" + stem)) << file.path() << " has no line in src/wqspcfg/catalogue";
             }
         }
     }

@@ -2,12 +2,12 @@
 // each, and a fixture whose registry can be wiped.
 #pragma once
 
-#include "catalogue/Catalogue.h"
-#include "core/settings/Reference.h"
-#include "platform/store/Session.h"
-#include "platform/text/CaseFold.h"
-#include "platform/text/Utf.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/catalogue/Catalogue.h"
+#include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/platform/text/Utf.h"
 
 #include <algorithm>
 #include <map>

@@ -1,4 +1,4 @@
-#include "catalogue/ModelSelection.h"
+#include "wqspcfg/catalogue/ModelSelection.h"
 
 #include "support/ConfigTest.h"
 

@@ -1,14 +1,14 @@
 // Whole keys, lists and numbered subkeys of any length: ten times as much costs ten times the work of the store, and a
 // hundred thousand are no harm.
-#include "classes/CRDRegInfo.h"
-#include "classes/CRMRegInfo.h"
-#include "classes/PINRegInfo.h"
-#include "classes/SIURegInfo.h"
-#include "classes/TTURegInfo.h"
-#include "models/ptr/SpPTRPrdFPCNormalRegInfo.h"
-#include "platform/store/Session.h"
 #include "support/ConfigTest.h"
 #include "support/Sanitizers.h"
+#include "wqspcfg/classes/CRDRegInfo.h"
+#include "wqspcfg/classes/CRMRegInfo.h"
+#include "wqspcfg/classes/PINRegInfo.h"
+#include "wqspcfg/classes/SIURegInfo.h"
+#include "wqspcfg/classes/TTURegInfo.h"
+#include "wqspcfg/models/ptr/SpPTRPrdFPCNormalRegInfo.h"
+#include "wqspcfg/platform/store/Session.h"
 
 #include <memory>
 #include <string>

@@ -1,4 +1,4 @@
-#include "classes/CRDRegInfo.h"
+#include "wqspcfg/classes/CRDRegInfo.h"
 
 #include "support/ConfigTest.h"
 

@@ -1,8 +1,8 @@
-#include "classes/CRMRegInfo.h"
+#include "wqspcfg/classes/CRMRegInfo.h"
 
-#include "platform/store/Session.h"
-#include "platform/xfs/XfsResult.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/xfs/XfsResult.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,6 @@
-#include "classes/CardUnitEx.h"
+#include "wqspcfg/classes/CardUnitEx.h"
 
-#include "platform/framework/FrameworkTypes.h"
+#include "wqspcfg/platform/framework/FrameworkTypes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "classes/IDCRegInfo.h"
+#include "wqspcfg/classes/IDCRegInfo.h"
 
 #include "support/ConfigTest.h"
 

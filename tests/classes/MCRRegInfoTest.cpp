@@ -1,4 +1,4 @@
-#include "classes/MCRRegInfo.h"
+#include "wqspcfg/classes/MCRRegInfo.h"
 
 #include "support/ConfigTest.h"
 

@@ -1,4 +1,4 @@
-#include "classes/PINRegInfo.h"
+#include "wqspcfg/classes/PINRegInfo.h"
 
 #include "support/ConfigTest.h"
 

@@ -1,4 +1,4 @@
-#include "classes/PTRRegInfo.h"
+#include "wqspcfg/classes/PTRRegInfo.h"
 
 #include "support/ConfigTest.h"
 

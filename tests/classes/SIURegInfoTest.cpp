@@ -1,7 +1,7 @@
-#include "classes/SIURegInfo.h"
+#include "wqspcfg/classes/SIURegInfo.h"
 
-#include "platform/store/Session.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/platform/store/Session.h"
 
 #include <algorithm>
 #include <chrono>

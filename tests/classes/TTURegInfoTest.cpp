@@ -1,4 +1,4 @@
-#include "classes/TTURegInfo.h"
+#include "wqspcfg/classes/TTURegInfo.h"
 
 #include "support/ConfigTest.h"
 

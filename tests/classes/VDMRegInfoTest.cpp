@@ -1,7 +1,7 @@
-#include "classes/VDMRegInfo.h"
+#include "wqspcfg/classes/VDMRegInfo.h"
 
-#include "platform/utility/Utility.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/platform/utility/Utility.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "core/RegInfo.h"
+#include "wqspcfg/core/RegInfo.h"
 
-#include "core/settings/Reference.h"
-#include "core/settings/Settings.h"
-#include "platform/store/Session.h"
-#include "platform/text/Utf.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/text/Utf.h"
 
 #include <algorithm>
 #include <cwchar>

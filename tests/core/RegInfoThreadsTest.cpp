@@ -1,8 +1,8 @@
 // Getters of a loaded object from several threads while another thread saves it; for the thread sanitizer above all.
-#include "models/crd/SpCRDWQTYM1200RegInfo.h"
-#include "platform/store/Session.h"
 #include "support/ConfigTest.h"
 #include "support/StoreTesting.h"
+#include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
+#include "wqspcfg/platform/store/Session.h"
 
 #include <atomic>
 #include <thread>

@@ -1,7 +1,7 @@
-#include "core/RegKeyEx.h"
+#include "wqspcfg/core/RegKeyEx.h"
 
-#include "platform/store/Session.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/platform/store/Session.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Backups of a store that is being written, and backing up and restoring killed at random moments: a backup is one
 // generation and whole, and a store holds what it held or what was restored.
 #include "endurance/Scenario.h"
-#include "platform/store/Backup.h"
+#include "wqspcfg/platform/store/Backup.h"
 
 #include <thread>
 

@@ -1,8 +1,8 @@
 // A store whose file was cut, zeroed or overwritten. Opening or reading it gives an error or right data, never a crash,
 // a hang or silent defaults; nothing right is lost by writing to it; and a restore brings everything back.
 #include "endurance/Scenario.h"
-#include "platform/store/Backup.h"
-#include "platform/store/RegFile.h"
+#include "wqspcfg/platform/store/Backup.h"
+#include "wqspcfg/platform/store/regfile/RegFile.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,7 +1,7 @@
 // Causes that come and go: no space, no rights, no directory. Each gives a clear error and leaves the old state intact,
 // and work goes on in the same process when the cause is gone.
 #include "endurance/Scenario.h"
-#include "platform/store/Backup.h"
+#include "wqspcfg/platform/store/Backup.h"
 
 #include <cerrno>
 #include <csignal>

@@ -1,8 +1,8 @@
 #include "endurance/Scenario.h"
 
-#include "platform/store/Store.h"
-#include "platform/text/NarrowText.h"
-#include "platform/text/Utf.h"
+#include "wqspcfg/platform/store/Store.h"
+#include "wqspcfg/platform/text/NarrowText.h"
+#include "wqspcfg/platform/text/Utf.h"
 
 #include <algorithm>
 #include <array>

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "endurance/Process.h"
-#include "models/crd/SpCRDWQTYM1200RegInfo.h"
-#include "platform/base/Error.h"
-#include "platform/store/Session.h"
+#include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
+#include "wqspcfg/platform/base/Error.h"
+#include "wqspcfg/platform/store/Session.h"
 
 #include <cstdint>
 #include <filesystem>

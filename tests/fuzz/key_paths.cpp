@@ -1,8 +1,8 @@
 // Any sequence of operations on keys and values: the memory store, the embedded one and a plain model of the registry
 // agree on every outcome and on what there is in the end.
 #include "fuzz/Fuzzing.h"
-#include "platform/store/FlatKey.h"
-#include "platform/text/CaseFold.h"
+#include "wqspcfg/platform/store/FlatKey.h"
+#include "wqspcfg/platform/text/CaseFold.h"
 
 #include <map>
 #include <memory>

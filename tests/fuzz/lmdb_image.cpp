@@ -1,7 +1,7 @@
 // The data file of an embedded store with any damage: a read gives what was stored or an error. Where whole records are
 // forged, check sum included, all that can be asked is that the reader stays within the file and comes to an end.
 #include "fuzz/Fuzzing.h"
-#include "platform/store/LmdbTree.h"
+#include "wqspcfg/platform/store/lmdb/LmdbTree.h"
 
 #include <fcntl.h>
 #include <map>

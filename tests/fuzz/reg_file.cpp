@@ -1,6 +1,6 @@
 // Registry exports: whatever is read without an error comes out of an export as it went in.
 #include "fuzz/Fuzzing.h"
-#include "platform/store/RegFile.h"
+#include "wqspcfg/platform/store/regfile/RegFile.h"
 
 #include <sstream>
 

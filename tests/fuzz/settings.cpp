@@ -2,8 +2,8 @@
 // Load and Save come to an end without a failure of the store, a log changes nothing, members keep within the bounds
 // that the class sets, and what Save wrote gives the same when it is loaded and saved again.
 #include "catalogue/CatalogueTesting.h"
-#include "classes/CRMRegInfo.h"
 #include "fuzz/Fuzzing.h"
+#include "wqspcfg/classes/CRMRegInfo.h"
 
 #include <map>
 #include <memory>

@@ -1,11 +1,11 @@
 // Values of any type and any bytes: a query takes those of its type, as they are, and leaves its output alone
 // otherwise. Records as a store keeps them: what is written is what is read.
-#include "core/RegKeyEx.h"
 #include "fuzz/Fuzzing.h"
-#include "platform/store/KeyHandle.h"
-#include "platform/store/Record.h"
-#include "platform/store/RegistryValue.h"
-#include "platform/store/Session.h"
+#include "wqspcfg/core/RegKeyEx.h"
+#include "wqspcfg/platform/store/KeyHandle.h"
+#include "wqspcfg/platform/store/Record.h"
+#include "wqspcfg/platform/store/RegistryValue.h"
+#include "wqspcfg/platform/store/Session.h"
 
 #include <optional>
 

@@ -1,10 +1,10 @@
-#include "core/settings/Settings.h"
-#include "models/bcr/SpBCRMotoRegInfo.h"
-#include "models/bcr/SpBCRMotoScannerRegInfo.h"
-#include "models/bcr/SpBCRNewLandRegInfo.h"
-#include "models/bcr/SpBCRPrdScannerRegInfo.h"
-#include "models/idc/SpIDCMotoScannerRegInfo.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/bcr/SpBCRMotoRegInfo.h"
+#include "wqspcfg/models/bcr/SpBCRMotoScannerRegInfo.h"
+#include "wqspcfg/models/bcr/SpBCRNewLandRegInfo.h"
+#include "wqspcfg/models/bcr/SpBCRPrdScannerRegInfo.h"
+#include "wqspcfg/models/idc/SpIDCMotoScannerRegInfo.h"
 
 namespace {
 

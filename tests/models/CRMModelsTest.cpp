@@ -1,10 +1,10 @@
-#include "models/crm/SPCRMWQ07RegInfo.h"
-#include "models/crm/SPCRMWQ09RegInfo.h"
-#include "models/crm/SpC81DriverRegInfo.h"
-#include "models/crm/SpCRMFujitsuCRF3RegInfo.h"
-#include "models/crm/SpCRMSBBHopperRegInfo.h"
-#include "models/crm/SpCRMTCRRegInfo.h"
-#include "models/crm/SpCcadRegInfo.h"
+#include "wqspcfg/models/crm/SPCRMWQ07RegInfo.h"
+#include "wqspcfg/models/crm/SPCRMWQ09RegInfo.h"
+#include "wqspcfg/models/crm/SpC81DriverRegInfo.h"
+#include "wqspcfg/models/crm/SpCRMFujitsuCRF3RegInfo.h"
+#include "wqspcfg/models/crm/SpCRMSBBHopperRegInfo.h"
+#include "wqspcfg/models/crm/SpCRMTCRRegInfo.h"
+#include "wqspcfg/models/crm/SpCcadRegInfo.h"
 
 #include "support/ConfigTest.h"
 

@@ -1,7 +1,7 @@
-#include "models/cam/SpCAMEm27585RegInfo.h"
-#include "models/cam/SpCAMPrdMNCCameraRegInfo.h"
-#include "models/cam/SpCAMPrdYGBRegInfo.h"
-#include "models/cam/SpCAMWQTJWI300RegInfo.h"
+#include "wqspcfg/models/cam/SpCAMEm27585RegInfo.h"
+#include "wqspcfg/models/cam/SpCAMPrdMNCCameraRegInfo.h"
+#include "wqspcfg/models/cam/SpCAMPrdYGBRegInfo.h"
+#include "wqspcfg/models/cam/SpCAMWQTJWI300RegInfo.h"
 
 #include "support/ConfigTest.h"
 

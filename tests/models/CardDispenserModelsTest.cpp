@@ -1,11 +1,11 @@
-#include "models/crd/SpCRDACT3UKeyRegInfo.h"
-#include "models/crd/SpCRDACTF55540RegInfo.h"
-#include "models/crd/SpCRDKoreaTLD1000RegInfo.h"
-#include "models/crd/SpCRDTD2001GetRegInfo.h"
-#include "models/crd/SpCRDWQTKoreaTLD1000RegInfo.h"
-#include "models/crd/SpCRDWQTSankyo3A7230RegInfo.h"
-#include "models/crd/SpCRDWQTYRM3800RegInfo.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/models/crd/SpCRDACT3UKeyRegInfo.h"
+#include "wqspcfg/models/crd/SpCRDACTF55540RegInfo.h"
+#include "wqspcfg/models/crd/SpCRDKoreaTLD1000RegInfo.h"
+#include "wqspcfg/models/crd/SpCRDTD2001GetRegInfo.h"
+#include "wqspcfg/models/crd/SpCRDWQTKoreaTLD1000RegInfo.h"
+#include "wqspcfg/models/crd/SpCRDWQTSankyo3A7230RegInfo.h"
+#include "wqspcfg/models/crd/SpCRDWQTYRM3800RegInfo.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 // What card reader models have beyond their tables, and the mix-in of fingerprint collectors.
-#include "core/settings/Settings.h"
-#include "models/idc/SpIDCDCT10NRegInfo.h"
-#include "models/idc/SpIDCMT4DPR312RegInfo.h"
-#include "models/idc/SpIDCPrdFPCNormalRegInfo.h"
-#include "models/idc/SpIDCTTD2001RegInfo.h"
-#include "models/idc/SpRCMDlpRegInfo.h"
-#include "models/mcr/SpMCRCF66RegInfo.h"
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/idc/SpIDCDCT10NRegInfo.h"
+#include "wqspcfg/models/idc/SpIDCMT4DPR312RegInfo.h"
+#include "wqspcfg/models/idc/SpIDCPrdFPCNormalRegInfo.h"
+#include "wqspcfg/models/idc/SpIDCTTD2001RegInfo.h"
+#include "wqspcfg/models/idc/SpRCMDlpRegInfo.h"
+#include "wqspcfg/models/mcr/SpMCRCF66RegInfo.h"
 
 #include "support/ConfigTest.h"
 

@@ -1,4 +1,4 @@
-#include "models/crd/SpCRDWQTYM1200RegInfo.h"
+#include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
 
 #include "support/ConfigTest.h"
 

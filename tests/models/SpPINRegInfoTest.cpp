@@ -1,8 +1,8 @@
 // The PIN pad models.
-#include "models/pin/SpPINJstdE6020K02EASRegInfo.h"
-#include "models/pin/SpPINPrdEppRegInfo.h"
-#include "models/pin/SpPINXZSE8098BRegInfo.h"
-#include "models/pin/SpPINYMSE01RegInfo.h"
+#include "wqspcfg/models/pin/SpPINJstdE6020K02EASRegInfo.h"
+#include "wqspcfg/models/pin/SpPINPrdEppRegInfo.h"
+#include "wqspcfg/models/pin/SpPINXZSE8098BRegInfo.h"
+#include "wqspcfg/models/pin/SpPINYMSE01RegInfo.h"
 
 #include "support/ConfigTest.h"
 

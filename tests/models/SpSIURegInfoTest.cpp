@@ -1,8 +1,8 @@
 // The sensors and indicators models.
-#include "models/siu/SpSIUCABCRegInfo.h"
-#include "models/siu/SpSIUJMBTRegInfo.h"
-#include "models/siu/SpSIUPrdSIUNormalRegInfo.h"
-#include "models/siu/SpSIUTEK0816RegInfo.h"
+#include "wqspcfg/models/siu/SpSIUCABCRegInfo.h"
+#include "wqspcfg/models/siu/SpSIUJMBTRegInfo.h"
+#include "wqspcfg/models/siu/SpSIUPrdSIUNormalRegInfo.h"
+#include "wqspcfg/models/siu/SpSIUTEK0816RegInfo.h"
 
 #include "support/ConfigTest.h"
 

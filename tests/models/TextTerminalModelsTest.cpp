@@ -1,7 +1,7 @@
-#include "core/settings/Settings.h"
-#include "models/ttu/SpTTUVirtualRegInfo.h"
-#include "models/ttu/SpTtuExeRegInfo.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/ttu/SpTTUVirtualRegInfo.h"
+#include "wqspcfg/models/ttu/SpTtuExeRegInfo.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // What a service provider does with the shared library.
 #include "EveryClass.h"
-#include "catalogue/Catalogue.h"
-#include "platform/framework/InvalidArgException.h"
-#include "platform/store/Session.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/catalogue/Catalogue.h"
+#include "wqspcfg/platform/framework/InvalidArgException.h"
+#include "wqspcfg/platform/store/Session.h"
 
 #include <type_traits>
 #include <utility>
@@ -86,7 +86,7 @@ TEST_F(SharedLibraryTest, EveryClassIsMadeLoadedSavedAndDestroyed)
         Check<Class>(L## #Class);                                                                                      \
         ++count;                                                                                                       \
     }
-#include "catalogue/all.inc"
+#include "wqspcfg/catalogue/all.inc"
 #undef CLASS
     EXPECT_EQ(count, AllClasses().size());
 }

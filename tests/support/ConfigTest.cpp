@@ -1,7 +1,7 @@
 #include "support/ConfigTest.h"
 
-#include "platform/store/Session.h"
-#include "platform/utility/Utility.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/utility/Utility.h"
 
 namespace wqspcfg::test {
 

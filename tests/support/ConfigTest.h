@@ -2,8 +2,8 @@
 // device key `Dev`, and a process whose shared state is as at its start.
 #pragma once
 
-#include "core/RegInfo.h"
 #include "support/RecordingStore.h"
+#include "wqspcfg/core/RegInfo.h"
 
 #include <gtest/gtest.h>
 

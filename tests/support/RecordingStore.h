@@ -1,7 +1,7 @@
 // A store that notes every query and write that passes through it, in order.
 #pragma once
 
-#include "platform/store/Store.h"
+#include "wqspcfg/platform/store/Store.h"
 
 #include <memory>
 #include <mutex>

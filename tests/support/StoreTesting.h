@@ -1,8 +1,8 @@
 // What tests of stores share.
 #pragma once
 
-#include "platform/store/Store.h"
-#include "platform/text/Utf.h"
+#include "wqspcfg/platform/store/Store.h"
+#include "wqspcfg/platform/text/Utf.h"
 
 #include <gtest/gtest.h>
 

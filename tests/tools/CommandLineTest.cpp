@@ -1,7 +1,7 @@
-#include "tools/CommandLine.h"
+#include "wqspcfg/tools/CommandLine.h"
 
-#include "platform/store/Session.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/platform/store/Session.h"
 
 #include <gtest/gtest.h>
 

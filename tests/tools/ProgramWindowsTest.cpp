@@ -1,8 +1,8 @@
 // The program itself, on the registry of the machine.
-#include "platform/base/WinTypes.h"
+#include "wqspcfg/platform/base/WinTypes.h"
 
-#include "platform/store/RegFile.h"
 #include "support/StoreTesting.h"
+#include "wqspcfg/platform/store/regfile/RegFile.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,7 +1,7 @@
-#include "tools/ReferenceText.h"
+#include "wqspcfg/tools/ReferenceText.h"
 
-#include "platform/text/Utf.h"
-#include "tools/CommandLine.h"
+#include "wqspcfg/platform/text/Utf.h"
+#include "wqspcfg/tools/CommandLine.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

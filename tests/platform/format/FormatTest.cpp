@@ -1,7 +1,7 @@
-#include "platform/format/Format.h"
+#include "wqspcfg/platform/format/Format.h"
 
-#include "platform/base/WinTypes.h"
-#include "platform/framework/String.h"
+#include "wqspcfg/platform/base/WinTypes.h"
+#include "wqspcfg/platform/framework/String.h"
 
 #include <climits>
 #include <cstdarg>

@@ -1,6 +1,6 @@
-#include "platform/framework/Array.h"
+#include "wqspcfg/platform/framework/Array.h"
 
-#include "platform/xfs/XfsCim.h"
+#include "wqspcfg/platform/xfs/XfsCim.h"
 
 #include <gtest/gtest.h>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "platform/framework/Map.h"
+#include "wqspcfg/platform/framework/Map.h"
 
 #include <gtest/gtest.h>
 #include <string>

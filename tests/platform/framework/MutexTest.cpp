@@ -1,4 +1,4 @@
-#include "platform/framework/Mutex.h"
+#include "wqspcfg/platform/framework/Mutex.h"
 
 #include <gtest/gtest.h>
 #include <thread>

@@ -1,4 +1,4 @@
-#include "platform/framework/String.h"
+#include "wqspcfg/platform/framework/String.h"
 
 #include <functional>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
-#include "platform/store/KeyHandle.h"
+#include "wqspcfg/platform/store/KeyHandle.h"
 
-#include "platform/serial/BillFSNRegInfo.h"
-#include "platform/serial/BillSNRegInfo.h"
 #include "support/ConfigTest.h"
+#include "wqspcfg/parts/serial/BillFSNRegInfo.h"
+#include "wqspcfg/parts/serial/BillSNRegInfo.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-#include "platform/serial/BillFSNRegInfo.h"
-#include "platform/store/KeyHandle.h"
+#include "wqspcfg/parts/serial/BillFSNRegInfo.h"
+#include "wqspcfg/platform/store/KeyHandle.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/store/Record.h"
+#include "wqspcfg/platform/store/Record.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What every store promises.
-#include "platform/store/RegFile.h"
 #include "support/StoreTesting.h"
+#include "wqspcfg/platform/store/regfile/RegFile.h"
 
 #include <algorithm>
 #include <functional>

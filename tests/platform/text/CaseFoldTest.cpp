@@ -1,4 +1,4 @@
-#include "platform/text/CaseFold.h"
+#include "wqspcfg/platform/text/CaseFold.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <vector>
 
 #if defined(_WIN32)
-#include "platform/base/WinTypes.h"
+#include "wqspcfg/platform/base/WinTypes.h"
 #endif
 
 namespace wqspcfg::test {

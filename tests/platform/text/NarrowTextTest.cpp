@@ -1,4 +1,4 @@
-#include "platform/text/NarrowText.h"
+#include "wqspcfg/platform/text/NarrowText.h"
 
 #include <gtest/gtest.h>
 #include <random>

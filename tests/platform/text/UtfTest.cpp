@@ -1,4 +1,4 @@
-#include "platform/text/Utf.h"
+#include "wqspcfg/platform/text/Utf.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/utility/InfoTableDecorator.h"
+#include "wqspcfg/platform/utility/InfoTableDecorator.h"
 
 #include <gtest/gtest.h>
 

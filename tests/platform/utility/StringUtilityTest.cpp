@@ -1,4 +1,4 @@
-#include "platform/utility/StringUtility.h"
+#include "wqspcfg/platform/utility/StringUtility.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,6 +1,6 @@
-#include "platform/utility/Utility.h"
+#include "wqspcfg/platform/utility/Utility.h"
 
-#include "platform/utility/ValueInterlocker.h"
+#include "wqspcfg/platform/utility/ValueInterlocker.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,0 +1,196 @@
+#include "wqspcfg/catalogue/ModelSelection.h"
+
+#include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/text/CaseFold.h"
+
+#include <array>
+
+namespace wqspcfg {
+
+namespace {
+
+constexpr std::size_t kShortestPart = 4; // a shorter name says too little to find it within another
+
+std::wstring_view WithoutPrefix(std::wstring_view name, std::wstring_view prefix)
+{
+    return name.size() > prefix.size() && EqualNoCase(name.substr(0, prefix.size()), prefix)
+               ? name.substr(prefix.size())
+               : name;
+}
+
+std::wstring_view FileTitle(std::wstring_view path)
+{
+    const auto folder = path.find_last_of(L"\\/");
+    if (folder != std::wstring_view::npos) {
+        path.remove_prefix(folder + 1);
+    }
+    for (const auto* extension : {L".exe", L".dll"}) {
+        if (path.size() > 4 && EqualNoCase(path.substr(path.size() - 4), extension)) {
+            path.remove_suffix(4);
+        }
+    }
+    return path;
+}
+
+// "WQSpCRDWQTYM1200.exe" and "CSpCRDWQTYM1200RegInfo" both give "CRDWQTYM1200", in upper case.
+std::wstring Stem(std::wstring_view name)
+{
+    name = FileTitle(name);
+    return UpCase(WithoutPrefix(WithoutPrefix(name, L"WQSp"), L"Sp"));
+}
+
+std::wstring StemOf(const ClassEntry& entry)
+{
+    std::wstring_view name(entry.table().className);
+    name.remove_prefix(1);
+    constexpr std::wstring_view kEnd = L"RegInfo";
+    if (name.ends_with(kEnd)) {
+        name.remove_suffix(kEnd.size());
+    }
+    return Stem(name);
+}
+
+// One object configures both faces of a cash module.
+std::wstring DeviceClassFor(std::wstring_view xfsClass)
+{
+    auto deviceClass = UpCase(xfsClass);
+    return deviceClass == L"CDM" || deviceClass == L"CIM" ? L"CRM" : deviceClass;
+}
+
+bool IsModel(const ClassEntry& entry)
+{
+    return entry.create != nullptr && std::wstring_view(entry.table().className).size() > 3 &&
+           EqualNoCase(std::wstring_view(entry.table().className).substr(0, 3), L"CSp");
+}
+
+const ClassEntry* ClassBase(const std::wstring& deviceClass)
+{
+    for (const auto* each : AllClasses()) {
+        const auto* own = each->table().deviceClass;
+        if (!IsModel(*each) && own != nullptr && *own != 0 && deviceClass == own) {
+            return each;
+        }
+    }
+    return nullptr;
+}
+
+struct Candidate
+{
+    const wchar_t* what;
+    const std::wstring* name;
+    std::wstring stem;
+};
+
+std::wstring Reason(const Candidate& candidate, const wchar_t* verb)
+{
+    return std::wstring(candidate.what) + L" \"" + *candidate.name + L"\" " + verb;
+}
+
+} // namespace
+
+ServiceIdentity IdentifyService(const CString& strName, bool bPhysicalName)
+{
+    const ReadScope scope;
+    ServiceIdentity service;
+    const CRegInfo object(strName, bPhysicalName);
+    const CString strPhysical = object.GetPhysicalName();
+    service.logicalName = object.GetLogicalName().Std();
+    service.physicalName = strPhysical.Std();
+    CString strClass = object.GetClassNameW(nullptr);
+    if (strClass.IsEmpty()) {
+        CRegKeyEx::QueryValue(strClass, L"Class", L"%s%s", kServiceRoot, strPhysical);
+    }
+    service.xfsClass = strClass.Std();
+    service.deviceKey = object.GetExeDllMother(1, nullptr).Std();
+    service.executable = FileTitle(object.GetExeFileTitle(0).View());
+    CString strModule;
+    CRegKeyEx::QueryValue(strModule, L"DLLName", L"%s%s", kServiceRoot, strPhysical);
+    service.module = FileTitle(strModule.View());
+    service.classModule = object.GetDeviceClassName(nullptr, 0).Std();
+    const auto exists = [&](const wchar_t* root, const std::wstring& name) {
+        return !name.empty() && scope->Exists(scope->Open(root + name));
+    };
+    service.exists = bPhysicalName
+                         ? exists(kServiceRoot, service.physicalName) || exists(kDeviceRoot, service.deviceKey)
+                         : exists(kLogicalRoot, service.logicalName);
+    return service;
+}
+
+ModelSelection SelectModel(const ServiceIdentity& service)
+{
+    const std::array<Candidate, 5> candidates{{{L"device key name", &service.deviceKey, Stem(service.deviceKey)},
+                                               {L"executable", &service.executable, Stem(service.executable)},
+                                               {L"module", &service.module, Stem(service.module)},
+                                               {L"class module", &service.classModule, Stem(service.classModule)},
+                                               {L"physical name", &service.physicalName, Stem(service.physicalName)}}};
+    const auto deviceClass = DeviceClassFor(service.xfsClass);
+
+    struct Model
+    {
+        const ClassEntry* entry;
+        std::wstring stem;
+        bool fits; // the class value does not speak against it
+    };
+    std::vector<Model> models;
+    for (const auto* each : AllClasses()) {
+        if (IsModel(*each)) {
+            const auto* own = DeviceClassOf(each->table());
+            auto stem = StemOf(*each);
+            const bool fits = deviceClass.empty() || (own != nullptr && deviceClass == own) ||
+                              stem.starts_with(UpCase(service.xfsClass));
+            models.push_back({each, std::move(stem), fits});
+        }
+    }
+
+    for (const auto& candidate : candidates) {
+        for (const auto& model : models) {
+            if (model.stem == candidate.stem) {
+                return {model.entry, Reason(candidate, L"is the model's name")};
+            }
+        }
+    }
+    for (const auto& candidate : candidates) {
+        for (const auto& model : models) {
+            if (model.fits && !candidate.stem.empty() && model.stem == deviceClass + candidate.stem) {
+                return {model.entry, Reason(candidate, L"is the model's name within its class")};
+            }
+        }
+    }
+    for (const auto& candidate : candidates) {
+        const Model* longest = nullptr;
+        for (const auto& model : models) {
+            if (model.fits && model.stem.size() >= kShortestPart &&
+                candidate.stem.find(model.stem) != std::wstring::npos &&
+                (longest == nullptr || longest->stem.size() < model.stem.size())) {
+                longest = &model;
+            }
+        }
+        if (longest != nullptr) {
+            return {longest->entry, Reason(candidate, L"holds the model's name")};
+        }
+    }
+    for (const auto& candidate : candidates) {
+        const Model* only = nullptr;
+        unsigned count = 0;
+        for (const auto& model : models) {
+            if (model.fits && candidate.stem.size() >= kShortestPart &&
+                model.stem.find(candidate.stem) != std::wstring::npos) {
+                only = &model;
+                ++count;
+            }
+        }
+        if (count == 1) {
+            return {only->entry, Reason(candidate, L"is part of this model's name only")};
+        }
+    }
+    if (const auto* base = ClassBase(deviceClass)) {
+        return {base, L"class base of class value \"" + service.xfsClass + L"\"; no name of the service tells a model"};
+    }
+    return {FindClass(L"CRegInfo"), service.xfsClass.empty()
+                                        ? L"the service has no class value"
+                                        : L"class value \"" + service.xfsClass + L"\" has no class base"};
+}
+
+} // namespace wqspcfg

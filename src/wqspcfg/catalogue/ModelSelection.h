@@ -1,0 +1,38 @@
+// Finds the class that configures a service, from what the registry tells of the service.
+#pragma once
+
+#include "wqspcfg/catalogue/Catalogue.h"
+
+#include <string>
+
+namespace wqspcfg {
+
+// What a service is called in the registry. Names of files are without their folder and extension; what the registry
+// does not tell is empty.
+struct ServiceIdentity
+{
+    std::wstring logicalName;
+    std::wstring physicalName;
+    std::wstring xfsClass;    // the class value: "CRD"
+    std::wstring deviceKey;   // the device key name
+    std::wstring executable;  // of the service key's `Executable`
+    std::wstring module;      // of the service key's `DLLName`
+    std::wstring classModule; // of the service key's module for its class, such as `PTRName`
+    bool exists = false;      // the logical key, or for a physical name the service key or the device key, is there
+};
+
+// Reads the current store. As objects of the classes are, for one thread at a time.
+WQSPCFG_API ServiceIdentity IdentifyService(const CString& strName, bool bPhysicalName);
+
+struct ModelSelection
+{
+    const ClassEntry* entry; // never null
+    std::wstring reason;     // for a person: what told it
+};
+
+// A model whose name one of the service's names equals, then one whose name is part of it or that it is part of, and
+// else the class base of the class value. Names compare without regard to case and without "WQSp" or "Sp" before them.
+// A service of no known class gets CRegInfo.
+WQSPCFG_API ModelSelection SelectModel(const ServiceIdentity& service);
+
+} // namespace wqspcfg

@@ -1,0 +1,59 @@
+#include "wqspcfg/core/Log.h"
+
+#include "wqspcfg/platform/text/Utf.h"
+
+#include <chrono>
+#include <ctime>
+#include <fstream>
+#include <ostream>
+
+namespace wqspcfg {
+
+namespace {
+
+const char* NameOf(Severity severity)
+{
+    switch (severity) {
+    case Severity::Error:
+        return "ERROR";
+    case Severity::Fatal:
+        return "FATAL";
+    case Severity::Info:
+        break;
+    }
+    return "INFO ";
+}
+
+} // namespace
+
+int StreamLog::Write(Severity, DWORD, std::wstring_view text)
+{
+    m_stream << Utf8ForMessage(text) << '\n';
+    return m_stream.good() ? 1 : 0;
+}
+
+int FileLog::Write(Severity severity, DWORD, std::wstring_view text)
+{
+    const std::lock_guard lock(m_mutex);
+    std::ofstream file(m_path, std::ios::app | std::ios::binary);
+    const auto now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    std::tm local{};
+#if defined(_WIN32)
+    localtime_s(&local, &now);
+#else
+    localtime_r(&now, &local);
+#endif
+    char time[32];
+    std::strftime(time, sizeof time, "%Y-%m-%d %H:%M:%S", &local);
+    file << time << ' ' << NameOf(severity) << ' ' << Utf8ForMessage(text) << '\n';
+    file.flush();
+    return file.good() ? 1 : 0;
+}
+
+int MemoryLog::Write(Severity severity, DWORD dwCategory, std::wstring_view text)
+{
+    m_entries.push_back({severity, dwCategory, std::wstring(text)});
+    return 1;
+}
+
+} // namespace wqspcfg

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "wqspcfg/classes/CRDRegInfo.h"
+
+// The ACT F5-6100 card dispenser.
+class WQSPCFG_API CSpCRDWQACTF56100RegInfo : public CCRDRegInfo
+{
+  public:
+    CSpCRDWQACTF56100RegInfo(const CString& strName, bool bPhysicalName);
+    bool Load(CLog* pLog) override;
+    void Save() override;
+
+    static const wqspcfg::Table& Settings() noexcept;
+
+    DWORD m_dwPort;
+    DWORD m_dwBaudRate;
+    DWORD m_dwPowerOnOption;
+    DWORD m_dwCloseOption;
+    DWORD m_dwDispenseBin1;
+    DWORD m_dwDispenseBin2;
+    DWORD m_dwDispenseBin3;
+    DWORD m_dwRetainBin;
+    DWORD m_dwMaxSupplyCard;
+    DWORD m_dwSupplyBinLow;
+    bool m_bAllowRetainOfRetainBinErr;
+    DWORD m_dwMoveTansPortCardOptionWhenRest;
+    DWORD m_dwMoveTansPortCardOptionWhenIDCDispense;
+    CString m_strErrorCodeToHardwareError;
+    DWORD m_dwReturnHardErrWhenSuppBinMiss;
+    DWORD m_dwChangeIDCStatusToBusy;
+    bool m_bMoveTransPortToSuppBin1WhenRetain;
+    bool m_bNeedSupportMediaLatched;
+    CString m_strLogicalNameOfIDCReader;
+    bool m_bShutterFailNeedRetainWhenEjectCard;
+    bool m_bCheckShutterOpenHwErr;
+    bool m_bIsSupTEMPORARY;
+    DWORD m_dwNumRetainBin2;
+    DWORD m_dwRetainBin2Count;
+    DWORD m_dwRetainBin2High;
+    DWORD m_dwRetainBin2Full;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "wqspcfg/classes/IDCRegInfo.h"
+
+// The CPU card reader of the DC T10N.
+class WQSPCFG_API CSpIDCDCT10NCPURegInfo : public CIDCRegInfo
+{
+  public:
+    CSpIDCDCT10NCPURegInfo(const CString& strName, bool bPhysicalName);
+    bool Load(CLog* pLog) override;
+    void Save() override;
+
+    static const wqspcfg::Table& Settings() noexcept;
+
+    DWORD m_dwBaudRate;
+    DWORD m_dwPort;
+    DWORD m_dwCpuCardType;
+    DWORD m_dwTimesOfGetStIfSwitchLed;
+    DWORD m_dwHandleRepeatCardPolicy;
+    bool m_bCheckCardInsertOfIdle;
+    bool m_bTranformIC2Hex;
+};

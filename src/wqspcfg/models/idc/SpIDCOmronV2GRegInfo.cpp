@@ -1,0 +1,34 @@
+#include "wqspcfg/models/idc/SpIDCOmronV2GRegInfo.h"
+
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/parts/meanings/IDC.h"
+#include "wqspcfg/parts/meanings/Shared.h"
+
+using namespace wqspcfg;
+using C = CSpIDCOmronV2GRegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,    meaning::kPowerOffOption, Saved, OneOf<0, 1, 2>},
+    {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Comm,    L"Type",                          &C::m_dwType,                         0,    meaning::crd::kType, Saved},
+    {key::Comm,    L"Port",                          &C::m_dwPort,                         1,    meaning::kPort, Saved},
+    {key::Comm,    L"BaudRate",                      &C::m_dwBaudRate,                     9600, meaning::kBaudRate, Saved},
+    {key::Comm,    L"VendorID",                      &C::m_dwVendorID,                     0,    L"USB vendor ID of the device", Saved},
+    {key::Comm,    L"ProductID",                     &C::m_dwProductID,                    0,    L"USB product ID of the device", Saved},
+    {key::Control, L"SkimOfInsertCard",              &C::m_dwSkimOfInsertCard,             0,    meaning::crd::kSkimOfInsertCard, Saved},
+    {key::Control, L"NeedResetOfRecoverSkimmerSt",   &C::m_bNeedResetOfRecoverSkimmerSt,   0,    meaning::kNeedResetOfRecoverSkimmerSt, Saved},
+    {key::Control, L"IsUseSLE4442",                  &C::m_bIsUseSLE4442,                  0,    meaning::kIsUseSLE4442, Saved},
+    {key::Control, L"PolicyOfSetMediaEntering",      &C::m_dwPolicyOfSetMediaEntering,     0,    meaning::kPolicyOfSetMediaEntering, Saved},
+    {key::Control, L"UnPresentOfMoveCardManual",     &C::m_bUnPresentOfMoveCardManual,     0,    meaning::kUnPresentOfMoveCardManual, Saved},
+    {key::Control, L"ToReadPositionIfNoActionReset", &C::m_bToReadPositionIfNoActionReset, 0,    meaning::kToReadPositionIfNoActionReset, Saved},
+    {key::Control, L"TimeDelayOnline",               &C::m_dwTimeDelayOnline,              0,    meaning::kTimeDelayOnline, Saved},
+    {key::Control, L"InitRelationEjectVolume",       &C::m_dwInitRelationEjectVolume,      0,    meaning::kInitRelationEjectVolume, Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpIDCOmronV2GRegInfo, CIDCRegInfo, kSettings)

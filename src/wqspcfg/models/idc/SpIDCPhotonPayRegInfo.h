@@ -1,0 +1,12 @@
+#pragma once
+
+#include "wqspcfg/classes/IDCRegInfo.h"
+
+// The PhotonPay card reader, with the settings of every card reader and none of its own.
+class WQSPCFG_API CSpIDCPhotonPayRegInfo : public CIDCRegInfo
+{
+  public:
+    CSpIDCPhotonPayRegInfo(const CString& strName, bool bPhysicalName);
+
+    static const wqspcfg::Table& Settings() noexcept;
+};

@@ -1,0 +1,48 @@
+#include "wqspcfg/models/idc/SpIDCPrdFPCNormalRegInfo.h"
+
+#include "wqspcfg/core/settings/Settings.h"
+
+using namespace wqspcfg;
+using C = CSpIDCPrdFPCNormalRegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Device,            L"ProtocolType",  [](C& c, unsigned) -> DWORD& { return c.m_dwProtocolType; }, 0,   L"protocol with the application: 0 ReadRawData; nonzero chip I/O"},
+    // The line has a number's conversion, which prints the text all the same.
+    {key::Below(L"Collect"), L"FingerPicPath", &C::m_strFingerPicPath, L"", L"path that captured fingerprint images are saved to", Saved, QualifiedLabel, Format(L"%d")},
+};
+// clang-format on
+
+} // namespace
+
+const Table& CSpIDCPrdFPCNormalRegInfo::Settings() noexcept
+{
+    static constexpr Table kTable{L"CSpIDCPrdFPCNormalRegInfo", &CIDCRegInfo::Settings, nullptr, kSettings};
+    return kTable;
+}
+
+CSpIDCPrdFPCNormalRegInfo::CSpIDCPrdFPCNormalRegInfo(const CString& strName, bool bPhysicalName)
+    : CIDCRegInfo(strName, bPhysicalName)
+{
+    Construct(static_cast<CRegInfo&>(*this), kSettings);
+    m_strKeyName = GetExeDllMother(1, nullptr);
+}
+
+bool CSpIDCPrdFPCNormalRegInfo::Load(CLog* pLog)
+{
+    Loading loading(*this, pLog);
+    const bool bResult = CIDCRegInfo::Load(pLog);
+    m_strKeyName = GetExeDllMother(1, nullptr);
+    CSpFPCRegInfo::Load(pLog);
+    return loading.Read(Settings()) && bResult;
+}
+
+void CSpIDCPrdFPCNormalRegInfo::Save()
+{
+    Saving saving(*this);
+    saving.Write(Settings());
+}
+
+WQSPCFG_CATALOGUE_ENTRY(CSpIDCPrdFPCNormalRegInfo)

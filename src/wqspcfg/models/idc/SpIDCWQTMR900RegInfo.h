@@ -1,0 +1,16 @@
+#pragma once
+
+#include "wqspcfg/classes/IDCRegInfo.h"
+
+// The MR900 identity card reader.
+class WQSPCFG_API CSpIDCWQTMR900RegInfo : public CIDCRegInfo
+{
+  public:
+    CSpIDCWQTMR900RegInfo(const CString& strName, bool bPhysicalName);
+    bool Load(CLog* pLog) override;
+    void Save() override;
+
+    static const wqspcfg::Table& Settings() noexcept;
+
+    CString m_strIDCardImagePath;
+};

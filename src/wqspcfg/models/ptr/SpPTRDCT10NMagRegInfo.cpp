@@ -1,0 +1,24 @@
+#include "wqspcfg/models/ptr/SpPTRDCT10NMagRegInfo.h"
+
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/parts/meanings/PTR.h"
+#include "wqspcfg/parts/meanings/Shared.h"
+
+using namespace wqspcfg;
+using C = CSpPTRDCT10NMagRegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Comm,   L"Port",            &C::m_dwPort,             1,         meaning::kPort, Saved},
+    {key::Comm,   L"Baudrate",        &C::m_dwBaudrate,         9600,      meaning::kBaudRate, Saved},
+    {key::Device, L"Track1TiledName", &C::m_strTrack1TiledName, L"Track1", meaning::printer::kTrack1TiledName, Saved},
+    {key::Device, L"Track2TiledName", &C::m_strTrack2TiledName, L"Track2", meaning::printer::kTrack2TiledName, Saved},
+    {key::Device, L"Track3TiledName", &C::m_strTrack3TiledName, L"Track3", meaning::printer::kTrack3TiledName, Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpPTRDCT10NMagRegInfo, CPTRRegInfo, kSettings)

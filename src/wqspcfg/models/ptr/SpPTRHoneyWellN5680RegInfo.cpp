@@ -1,0 +1,22 @@
+#include "wqspcfg/models/ptr/SpPTRHoneyWellN5680RegInfo.h"
+
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/parts/meanings/PTR.h"
+#include "wqspcfg/parts/meanings/Shared.h"
+
+using namespace wqspcfg;
+using C = CSpPTRHoneyWellN5680RegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Comm, L"Type",     &C::m_dwType,     0,    meaning::printer::kType, Saved, OneOf<0, 1>},
+    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved},
+    {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpPTRHoneyWellN5680RegInfo, CPTRRegInfo, kSettings)

@@ -1,0 +1,19 @@
+#include "wqspcfg/models/ptr/SpPTRTTCERU180RegInfo.h"
+
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/parts/meanings/PTR.h"
+
+using namespace wqspcfg;
+using C = CSpPTRTTCERU180RegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Control, L"BrushWait", &C::m_dwBrushWait, 30, meaning::printer::kBrushWait, Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpPTRTTCERU180RegInfo, CPTRRegInfo, kSettings)

@@ -1,0 +1,21 @@
+#include "wqspcfg/models/ptr/SpPTRZzSM2BRegInfo.h"
+
+#include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/parts/meanings/PTR.h"
+#include "wqspcfg/parts/meanings/Shared.h"
+
+using namespace wqspcfg;
+using C = CSpPTRZzSM2BRegInfo;
+
+namespace {
+
+// clang-format off
+constexpr Setting kSettings[] = {
+    {key::Control, L"MatchLev", &C::m_dwMatchLev, 3, meaning::printer::kMatchLev, Saved},
+    {key::Comm,    L"Port",     &C::m_dwPort,     1, meaning::kPort, Saved},
+};
+// clang-format on
+
+} // namespace
+
+WQSPCFG_SETTINGS(CSpPTRZzSM2BRegInfo, CPTRRegInfo, kSettings)

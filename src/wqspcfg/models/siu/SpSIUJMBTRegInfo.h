@@ -1,0 +1,31 @@
+#pragma once
+
+#include "wqspcfg/classes/SIURegInfo.h"
+
+// The JMBT controller board: eight lights, four switches, and a second serial controller for the screens.
+class WQSPCFG_API CSpSIUJMBTRegInfo : public CSIURegInfo
+{
+  public:
+    CSpSIUJMBTRegInfo(const CString& strName, bool bPhysicalName);
+    // Writes an error line for each missing value, and is true whatever is missing.
+    bool Load(CLog* pLog) override;
+    void Save() override;
+
+    static const wqspcfg::Table& Settings() noexcept;
+
+    DWORD m_dwPort;
+    DWORD m_dwBaudRate;
+    DWORD m_dwPortScr;
+    DWORD m_dwBaudrateScr;
+    DWORD m_dwCoolingTime;
+    DWORD m_dwBSTIsNotUsed;
+    // Lights 1 to 8 and switches 1 to 4, each at its number less one; index -1: not used.
+    DWORD m_dwLight[8];
+    DWORD m_dwALL_Lights_OFF_Pol;
+    DWORD m_dwLight_OFF_Pol[8];
+    DWORD m_dwALL_Lights_ON_Pol;
+    DWORD m_dwLight_ON_Pol[8];
+    DWORD m_dwSwitch[4];
+    DWORD m_dwSwitch_Pol[4];
+    CString m_strSwitch_ToType[4];
+};

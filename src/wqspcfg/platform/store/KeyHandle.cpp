@@ -1,0 +1,212 @@
+#include "wqspcfg/platform/store/KeyHandle.h"
+
+#include "wqspcfg/platform/store/RegistryValue.h"
+
+#include <mutex>
+#include <unordered_set>
+
+namespace wqspcfg {
+
+namespace {
+
+// The handles that are open in this process. A HKEY is the address of its path.
+struct OpenHandles
+{
+    std::mutex mutex;
+    std::unordered_set<const std::wstring*> paths;
+};
+
+OpenHandles& Handles()
+{
+    static OpenHandles handles;
+    return handles;
+}
+
+// The path of the key, when it is one of a KeyHandle.
+std::optional<std::wstring> PathOf(HKEY key, std::wstring_view subkey)
+{
+    const auto* path = reinterpret_cast<const std::wstring*>(key);
+    auto& handles = Handles();
+    const std::lock_guard lock(handles.mutex);
+    if (!handles.paths.contains(path)) {
+        return std::nullopt;
+    }
+    auto whole = *path;
+    if (!subkey.empty()) {
+        whole += L'\\';
+        whole += subkey;
+    }
+    return whole;
+}
+
+} // namespace
+
+KeyHandle::~KeyHandle()
+{
+    Close();
+}
+
+bool KeyHandle::Open(std::wstring_view path)
+{
+    Close();
+    ReadScope scope;
+    if (!scope->Exists(scope->Open(path))) {
+        return false;
+    }
+    m_path = std::make_unique<std::wstring>(path);
+    auto& handles = Handles();
+    const std::lock_guard lock(handles.mutex);
+    handles.paths.insert(m_path.get());
+    return true;
+}
+
+void KeyHandle::Close() noexcept
+{
+    if (m_path) {
+        auto& handles = Handles();
+        const std::lock_guard lock(handles.mutex);
+        handles.paths.erase(m_path.get());
+        m_path.reset();
+    }
+}
+
+HKEY KeyHandle::Get() const noexcept
+{
+    return reinterpret_cast<HKEY>(m_path.get());
+}
+
+// ---- Reading ----
+
+KeyReader::KeyReader(HKEY key, std::wstring_view subkey)
+{
+    if (const auto path = PathOf(key, subkey)) {
+        m_scope.emplace();
+        m_key = (*m_scope)->Open(*path);
+        m_exists = (*m_scope)->Exists(m_key);
+        return;
+    }
+#if defined(_WIN32)
+    if (key != nullptr && RegOpenKeyExW(key, std::wstring(subkey).c_str(), 0, KEY_READ, &m_native) == ERROR_SUCCESS) {
+        m_exists = true;
+    }
+#endif
+}
+
+KeyReader::~KeyReader() // NOLINT(modernize-use-equals-default): on Windows there is something to close
+{
+#if defined(_WIN32)
+    if (m_native != nullptr) {
+        RegCloseKey(m_native);
+    }
+#endif
+}
+
+bool KeyReader::Find(std::wstring_view name, ValueView& view)
+{
+    if (m_scope) {
+        return (*m_scope)->Query(m_key, name, view) == Outcome::Found;
+    }
+#if defined(_WIN32)
+    if (m_native != nullptr) {
+        const std::wstring terminated(name);
+        DWORD type = 0;
+        DWORD size = 0;
+        auto result = RegQueryValueExW(m_native, terminated.c_str(), nullptr, &type, nullptr, &size);
+        // Another process may replace the value by a longer one in between.
+        while (result == ERROR_SUCCESS || result == ERROR_MORE_DATA) {
+            m_data.resize(size);
+            result = RegQueryValueExW(m_native, terminated.c_str(), nullptr, &type,
+                                      reinterpret_cast<BYTE*>(m_data.data()), &size);
+            if (result == ERROR_SUCCESS) {
+                view = {static_cast<ValueType>(type), std::span(m_data).first(size)};
+                return true;
+            }
+        }
+    }
+#endif
+    return false;
+}
+
+bool KeyReader::Query(std::wstring_view name, DWORD& value)
+{
+    ValueView view;
+    return Find(name, view) && ToValue(view, value);
+}
+
+bool KeyReader::Query(std::wstring_view name, CString& value)
+{
+    ValueView view;
+    return Find(name, view) && ToValue(view, value);
+}
+
+// ---- Writing ----
+
+KeyWriter::KeyWriter(HKEY key, std::wstring_view subkey)
+{
+    if (const auto path = PathOf(key, subkey)) {
+        m_scope.emplace();
+        m_key = (*m_scope)->Open(*path);
+        return;
+    }
+#if defined(_WIN32)
+    if (key != nullptr && RegCreateKeyExW(key, std::wstring(subkey).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr,
+                                          &m_native, nullptr) == ERROR_SUCCESS) {
+        return;
+    }
+    m_native = nullptr;
+#endif
+    m_failed = true;
+}
+
+KeyWriter::~KeyWriter() // NOLINT(modernize-use-equals-default): on Windows there is something to close
+{
+#if defined(_WIN32)
+    if (m_native != nullptr) {
+        RegCloseKey(m_native);
+    }
+#endif
+}
+
+bool KeyWriter::Set(std::wstring_view name, DWORD value)
+{
+    bool done = false;
+    if (m_scope) {
+        const DwordBytes bytes(value);
+        done = (*m_scope)->Set(m_key, name, bytes.View()) == Outcome::Found;
+    }
+#if defined(_WIN32)
+    if (m_native != nullptr) {
+        done = RegSetValueExW(m_native, std::wstring(name).c_str(), 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value),
+                              sizeof value) == ERROR_SUCCESS;
+    }
+#endif
+    m_failed = m_failed || !done;
+    return done;
+}
+
+bool KeyWriter::Set(std::wstring_view name, const CString& value)
+{
+    bool done = false;
+    if (m_scope) {
+        done = SetText(**m_scope, m_key, name, value.View()) == Outcome::Found;
+    }
+#if defined(_WIN32)
+    if (m_native != nullptr) {
+        const auto size = static_cast<DWORD>((value.View().size() + 1) * sizeof(wchar_t));
+        done = RegSetValueExW(m_native, std::wstring(name).c_str(), 0, REG_SZ,
+                              reinterpret_cast<const BYTE*>(value.GetString()), size) == ERROR_SUCCESS;
+    }
+#endif
+    m_failed = m_failed || !done;
+    return done;
+}
+
+bool KeyWriter::Commit()
+{
+    if (m_scope && !m_scope->Commit()) {
+        m_failed = true;
+    }
+    return !m_failed;
+}
+
+} // namespace wqspcfg

@@ -1,0 +1,324 @@
+#include "wqspcfg/platform/store/Session.h"
+
+#include "wqspcfg/platform/text/CaseFold.h"
+
+#include <algorithm>
+#include <exception>
+#include <functional>
+#include <iterator>
+#include <mutex>
+
+namespace wqspcfg {
+
+namespace {
+
+std::mutex& StoreMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+std::shared_ptr<Store>& StoreSlot()
+{
+    static std::shared_ptr<Store> store;
+    return store;
+}
+
+thread_local Session* t_session = nullptr;
+thread_local Error t_error;
+
+bool IsUsersPath(std::wstring_view path)
+{
+    constexpr std::wstring_view kDefaultUser = L".DEFAULT";
+    if (!path.starts_with(kDefaultUser.front())) {
+        return false;
+    }
+    const auto first = path.substr(0, path.find(L'\\'));
+    return first.size() == kDefaultUser.size() && CompareNoCase(first, kDefaultUser) == 0;
+}
+
+Hive HiveOf(std::wstring_view path)
+{
+    return IsUsersPath(path) ? Hive::Users : Hive::LocalMachine;
+}
+
+// Whether two paths name one key: backslashes at their ends and repeated ones do not count.
+bool IsSameKey(std::wstring_view left, std::wstring_view right)
+{
+    const auto take = [](std::wstring_view& path) {
+        path.remove_prefix(std::min(path.find_first_not_of(L'\\'), path.size()));
+        const auto component = path.substr(0, path.find(L'\\'));
+        path.remove_prefix(component.size());
+        return component;
+    };
+    if (HiveOf(left) != HiveOf(right)) {
+        return false;
+    }
+    for (;;) {
+        const auto component = take(left);
+        if (CompareNoCase(component, take(right)) != 0) {
+            return false;
+        }
+        if (component.empty()) {
+            return true;
+        }
+    }
+}
+
+} // namespace
+
+void SetCurrentStore(std::shared_ptr<Store> store)
+{
+    const std::lock_guard lock(StoreMutex());
+    StoreSlot() = std::move(store);
+}
+
+std::shared_ptr<Store> CurrentStore(Error& error)
+{
+    const std::lock_guard lock(StoreMutex());
+    auto& slot = StoreSlot();
+    if (!slot) {
+        slot = OpenStore(DefaultStoreAddress(), {}, error);
+    }
+    return slot;
+}
+
+const Error& LastStoreError() noexcept
+{
+    return t_error;
+}
+
+void ClearStoreError() noexcept
+{
+    t_error = {};
+}
+
+Session::Session(Access access) : m_access(access)
+{
+    Error error;
+    m_store = CurrentStore(error);
+    if (m_store) {
+        m_transaction = m_store->Begin(access, error);
+    }
+    if (!m_transaction) {
+        Fail(error);
+    }
+}
+
+Session::~Session() = default;
+
+Outcome Session::Fail(const Error& error)
+{
+    if (!m_failure) {
+        m_failure = error;
+    }
+    if (!t_error) {
+        t_error = error;
+    }
+    return Outcome::Failed;
+}
+
+Outcome Session::Checked(Outcome outcome)
+{
+    return outcome == Outcome::Failed ? Fail(m_transaction->LastError()) : outcome;
+}
+
+Session::Key Session::Open(std::wstring_view path)
+{
+    const auto hash = std::hash<std::wstring_view>{}(path);
+    const auto known = m_byPath.find({hash, path});
+    if (known != m_byPath.end()) {
+        return known->second;
+    }
+    const Key key = m_keys.size();
+    auto& opened = m_keys.emplace_back();
+    opened.path = path;
+    m_byPath.emplace(PathHash{hash, opened.path}, key);
+    return key;
+}
+
+bool Session::Find(OpenedKey& opened)
+{
+    if (!m_transaction) {
+        return false;
+    }
+    if (opened.state == State::Present || (opened.state == State::Missing && opened.created == m_created)) {
+        return opened.state == State::Present;
+    }
+    if (opened.state == State::Named) {
+        m_transaction->CloseKey(opened.id);
+    }
+    const auto found = Checked(m_transaction->OpenKey(HiveOf(opened.path), opened.path, opened.id));
+    opened.state = found == Outcome::Found ? State::Present : State::Missing;
+    opened.created = m_created;
+    return found == Outcome::Found;
+}
+
+bool Session::Exists(Key key)
+{
+    auto& opened = m_keys[key];
+    return Find(opened) || std::any_of(m_overlay.begin(), m_overlay.end(), [&](const WrittenValue& written) {
+               return IsSameKey(written.path, opened.path);
+           });
+}
+
+const Session::WrittenValue* Session::FindWritten(std::wstring_view path, std::wstring_view name) const
+{
+    // The last write wins.
+    for (auto written = m_overlay.rbegin(); written != m_overlay.rend(); ++written) {
+        if (CompareNoCase(written->name, name) == 0 && IsSameKey(written->path, path)) {
+            return &*written;
+        }
+    }
+    return nullptr;
+}
+
+Outcome Session::Query(Key key, std::wstring_view name, ValueView& value)
+{
+    if (!m_overlay.empty()) {
+        if (const auto* written = FindWritten(m_keys[key].path, name)) {
+            value = {written->type, written->data};
+            return Outcome::Found;
+        }
+    }
+    auto& opened = m_keys[key];
+    if (opened.state == State::New && m_transaction && m_transaction->HasPathQueries()) {
+        const auto named = Checked(m_transaction->NameKey(HiveOf(opened.path), opened.path, opened.id));
+        opened.state = named == Outcome::Found ? State::Named : State::Missing;
+        opened.created = m_created;
+    }
+    if (opened.state == State::Named) {
+        const auto outcome = Checked(m_transaction->Query(opened.id, name, value));
+        if (outcome == Outcome::Found) {
+            opened.state = State::Present;
+        } else if (outcome == Outcome::Missing) {
+            Find(opened); // a key that does not exist is not asked again
+        }
+        return outcome;
+    }
+    return Find(opened) ? Checked(m_transaction->Query(opened.id, name, value)) : Outcome::Missing;
+}
+
+Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueView& value)
+{
+    if (!m_overlay.empty()) {
+        if (const auto* written = FindWritten(path, name)) {
+            value = {written->type, written->data};
+            return Outcome::Found;
+        }
+    }
+    if (!m_transaction) {
+        return Outcome::Failed;
+    }
+    if (!m_transaction->HasPathQueries()) {
+        return Query(Open(path), name, value);
+    }
+    return Checked(m_transaction->QueryAt(HiveOf(path), path, name, value));
+}
+
+Outcome Session::EnumKeys(Key key, const KeyVisitor& visit)
+{
+    auto& opened = m_keys[key];
+    return Find(opened) ? Checked(m_transaction->EnumKeys(opened.id, visit)) : Outcome::Missing;
+}
+
+Outcome Session::EnumValues(Key key, const ValueVisitor& visit)
+{
+    auto& opened = m_keys[key];
+    return Find(opened) ? Checked(m_transaction->EnumValues(opened.id, visit)) : Outcome::Missing;
+}
+
+Outcome Session::Set(Key key, std::wstring_view name, const ValueView& value)
+{
+    if (!m_transaction) {
+        return Outcome::Failed;
+    }
+    auto& opened = m_keys[key];
+    if (opened.state != State::Present) {
+        const auto created = Checked(m_transaction->CreateKey(HiveOf(opened.path), opened.path, opened.id));
+        if (created != Outcome::Found) {
+            return created;
+        }
+        opened.state = State::Present;
+        ++m_created;
+    }
+    const auto outcome = Checked(m_transaction->SetValue(opened.id, name, value));
+    if (outcome == Outcome::Found && m_recordWrites) {
+        m_written.push_back(
+            {opened.path, std::wstring(name), value.type, std::vector(value.data.begin(), value.data.end())});
+    }
+    return outcome;
+}
+
+Outcome Session::Commit(bool flush)
+{
+    if (!m_transaction) {
+        return Outcome::Failed;
+    }
+    const auto outcome = Checked(m_transaction->Commit(flush));
+    m_transaction.reset();
+    return outcome;
+}
+
+ReadScope::ReadScope() : m_session(t_session)
+{
+    if (!m_session) {
+        m_session = &m_own.emplace(Access::Read);
+        t_session = m_session;
+    }
+}
+
+ReadScope::~ReadScope()
+{
+    if (m_own) {
+        t_session = nullptr;
+    }
+}
+
+WriteScope::WriteScope(ExceptionCount inFlight)
+    : m_session(t_session), m_outer(t_session), m_inFlight(inFlight), m_exceptions(inFlight())
+{
+    if (!m_session || m_session->GetAccess() == Access::Read) {
+        m_session = &m_own.emplace(Access::Write);
+        m_session->m_recordWrites = m_outer != nullptr;
+        t_session = m_session;
+    }
+}
+
+WriteScope::~WriteScope()
+{
+    if (m_inFlight() > m_exceptions) {
+        m_session->Refuse({ErrorKind::Io, "the write was given up half-way"});
+    }
+    Commit();
+}
+
+void WriteScope::Flush() noexcept
+{
+    m_session->m_flush = true;
+}
+
+bool WriteScope::Commit()
+{
+    if (!m_own) {
+        return !m_session->Failure();
+    }
+    if (!m_done) {
+        m_done = true;
+        t_session = m_outer;
+        if (!m_own->Failure()) {
+            m_own->Commit(m_own->m_flush);
+        }
+        if (m_outer) {
+            if (m_own->Failure()) {
+                m_outer->Fail(m_own->Failure());
+            } else {
+                auto& written = m_own->m_written;
+                std::move(written.begin(), written.end(), std::back_inserter(m_outer->m_overlay));
+            }
+        }
+    }
+    return !m_own->Failure();
+}
+
+} // namespace wqspcfg

@@ -1,0 +1,28 @@
+// A registry export read in place, as a store that cannot be written.
+#pragma once
+
+#include "wqspcfg/platform/store/memory/MemoryStore.h"
+
+#include <memory>
+#include <string>
+
+namespace wqspcfg {
+
+class RegFileStore final : public Store
+{
+  public:
+    // With `view32`, HKEY_LOCAL_MACHINE\SOFTWARE\XFS is what the file holds under SOFTWARE\WOW6432Node\XFS, where a
+    // 64-bit Windows keeps the keys of 32-bit programs; a file without that key is read as it stands.
+    static std::shared_ptr<RegFileStore> Open(std::string address, const std::string& path, bool view32, Error& error);
+
+    explicit RegFileStore(std::string address) : m_content(std::move(address)) {}
+
+    std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
+    const std::string& Address() const noexcept override { return m_content.Address(); }
+
+  private:
+    MemoryStore m_content;
+    bool m_redirects = false;
+};
+
+} // namespace wqspcfg

@@ -1,0 +1,314 @@
+#include "wqspcfg/tools/ReferenceText.h"
+
+#include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/platform/text/Utf.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <sstream>
+
+namespace wqspcfg::tools {
+
+namespace {
+
+using nlohmann::ordered_json;
+
+std::string Utf8(std::wstring_view text)
+{
+    return Utf8ForMessage(text);
+}
+
+ordered_json ToJson(Type type, const DescribedValue& value)
+{
+    if (type == Type::String || type == Type::Char) {
+        return Utf8(value.text);
+    }
+    return value.number;
+}
+
+std::string ToText(Type type, const DescribedValue& value)
+{
+    if (type == Type::String || type == Type::Char) {
+        return '"' + Utf8(value.text) + '"';
+    }
+    return std::to_string(value.number);
+}
+
+std::string AllowedText(const DescribedSetting& setting)
+{
+    std::string text;
+    for (const auto value : setting.allowed) {
+        text += (text.empty() ? "" : ", ") + std::to_string(value);
+    }
+    if (setting.range) {
+        text = std::to_string(setting.range->low) + " to " + std::to_string(setting.range->high);
+    }
+    return text;
+}
+
+// In the order of loading, then what Load does not read.
+std::vector<DescribedSetting> AllSettings(const Table& table)
+{
+    auto settings = Describe(table);
+    for (auto& setting : DescribeOnRequest(table)) {
+        settings.push_back(std::move(setting));
+    }
+    return settings;
+}
+
+std::string SavedText(const DescribedSetting& setting)
+{
+    if (!setting.writtenBy.empty()) {
+        return "by `" + Utf8(setting.writtenBy) + '`';
+    }
+    if (!setting.saved) {
+        return "no";
+    }
+    return setting.savedName.empty() ? "yes" : "as " + Utf8(setting.savedName);
+}
+
+std::string DefaultText(const DescribedSetting& setting)
+{
+    auto text = ToText(setting.type, setting.fallback);
+    if (setting.constructed) {
+        text += " (constructed " + ToText(setting.type, *setting.constructed) + ")";
+    }
+    return text;
+}
+
+// The key as a person would look for it: below the device key by its subkey, elsewhere by its root.
+std::string KeyText(const DescribedSetting& setting)
+{
+    auto key = Utf8(setting.key);
+    switch (setting.root) {
+    case Root::Device:
+        return key.empty() ? "(device key)" : key;
+    case Root::Service:
+        return key.empty() ? "(service key)" : "(service key)\\" + key;
+    case Root::Logical:
+        return key.empty() ? "(logical key)" : "(logical key)\\" + key;
+    case Root::Common:
+        return "WQCmnCfg\\" + key;
+    case Root::Absolute:
+        break;
+    }
+    return key;
+}
+
+ordered_json ToJson(const ClassEntry& entry)
+{
+    const auto& table = entry.table();
+    const auto* deviceClass = DeviceClassOf(table);
+    ordered_json out;
+    out["class"] = Utf8(table.className);
+    out["base"] = table.base != nullptr ? ordered_json(Utf8(table.base().className)) : ordered_json(nullptr);
+    out["deviceClass"] = deviceClass != nullptr ? ordered_json(Utf8(deviceClass)) : ordered_json(nullptr);
+    auto settings = ordered_json::array();
+    for (const auto& setting : AllSettings(table)) {
+        ordered_json row;
+        row["root"] = NameOf(setting.root);
+        row["key"] = Utf8(setting.key);
+        row["value"] = Utf8(setting.name);
+        row["type"] = NameOf(setting.type);
+        row["default"] = ToJson(setting.type, setting.fallback);
+        if (setting.constructed) {
+            row["constructed"] = ToJson(setting.type, *setting.constructed);
+        }
+        if (!setting.label.empty()) {
+            row["label"] = Utf8(setting.label);
+        }
+        if (!setting.allowed.empty()) {
+            row["allowed"] = std::vector<DWORD>(setting.allowed.begin(), setting.allowed.end());
+        }
+        if (setting.range) {
+            row["range"] = {setting.range->low, setting.range->high};
+        }
+        row["saved"] = setting.saved;
+        if (!setting.savedName.empty()) {
+            row["savedAs"] = Utf8(setting.savedName);
+        }
+        if (!setting.readBy.empty()) {
+            row["readBy"] = Utf8(setting.readBy);
+        }
+        if (!setting.writtenBy.empty()) {
+            row["writtenBy"] = Utf8(setting.writtenBy);
+        }
+        if (setting.secret) {
+            row["secret"] = true;
+        }
+        row["meaning"] = Utf8(setting.meaning);
+        settings.push_back(std::move(row));
+    }
+    out["settings"] = std::move(settings);
+    return out;
+}
+
+void WriteText(const ClassEntry& entry, std::ostream& out)
+{
+    const auto& table = entry.table();
+    const auto* deviceClass = DeviceClassOf(table);
+    out << Utf8(table.className);
+    if (table.base != nullptr) {
+        out << ", derived from " << Utf8(table.base().className);
+    }
+    if (deviceClass != nullptr) {
+        out << ", device class " << Utf8(deviceClass);
+    }
+    out << '\n';
+    for (const auto& setting : AllSettings(table)) {
+        out << "  " << KeyText(setting) << " : " << Utf8(setting.name) << "\n      " << NameOf(setting.type)
+            << ", default " << DefaultText(setting);
+        if (const auto allowed = AllowedText(setting); !allowed.empty()) {
+            out << ", allowed " << allowed;
+        }
+        if (setting.saved) {
+            out << (setting.savedName.empty() ? ", saved" : ", saved as " + Utf8(setting.savedName));
+        }
+        if (!setting.readBy.empty()) {
+            out << ", read by " << Utf8(setting.readBy);
+        }
+        if (!setting.writtenBy.empty()) {
+            out << ", written by " << Utf8(setting.writtenBy);
+        }
+        if (setting.secret) {
+            out << ", secret";
+        }
+        out << "\n      " << Utf8(setting.meaning) << '\n';
+    }
+    out << '\n';
+}
+
+// Text within a cell of a Markdown table.
+std::string Cell(std::string_view text)
+{
+    std::string cell;
+    for (const char ch : text) {
+        if (ch == '|' || ch == '*' || ch == '<' || ch == '>') {
+            cell += '\\';
+        }
+        cell += ch == '\n' || ch == '\r' ? ' ' : ch;
+    }
+    return cell;
+}
+
+std::string Code(std::string_view text)
+{
+    std::string cell = "`";
+    for (const char ch : text) {
+        cell += ch == '|' ? "\\|" : std::string(1, ch);
+    }
+    return cell + '`';
+}
+
+void WriteMarkdown(const ClassEntry& entry, std::ostream& out)
+{
+    const auto& table = entry.table();
+    const auto* deviceClass = DeviceClassOf(table);
+    out << "## " << Utf8(table.className) << "\n\n";
+    if (table.base != nullptr) {
+        out << "Derived from `" << Utf8(table.base().className) << "`, whose settings it has too.";
+        if (deviceClass != nullptr) {
+            out << " Device class " << Utf8(deviceClass) << '.';
+        }
+        out << "\n\n";
+    }
+    const auto settings = AllSettings(table);
+    if (settings.empty()) {
+        out << "No settings of its own.\n\n";
+        return;
+    }
+    out << "| Key | Value | Type | Default | Allowed | Saved | Meaning |\n"
+           "| --- | --- | --- | --- | --- | --- | --- |\n";
+    for (const auto& setting : settings) {
+        out << "| " << Code(KeyText(setting)) << " | " << Code(Utf8(setting.name)) << " | " << NameOf(setting.type)
+            << " | " << Cell(DefaultText(setting)) << " | " << AllowedText(setting) << " | " << SavedText(setting)
+            << " | " << Cell(Utf8(setting.meaning)) << (setting.secret ? " (secret)" : "")
+            << (setting.readBy.empty() ? "" : " (read by `" + Utf8(setting.readBy) + "`)") << " |\n";
+    }
+    out << '\n';
+}
+
+std::string Page(const std::string& title, const std::string& introduction, std::span<const ClassEntry* const> entries)
+{
+    std::ostringstream out;
+    out << "# " << title << "\n\n" << introduction << "\n\n";
+    for (const auto* entry : entries) {
+        WriteMarkdown(*entry, out);
+    }
+    auto page = out.str();
+    page.pop_back(); // one line end at the end
+    return page;
+}
+
+constexpr char kKeys[] =
+    "A key is the subkey of the device key, `HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\` and the device key name, where "
+    "nothing else is said; `WQCmnCfg` and the service keys lie in `HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS`. The "
+    "settings stand in the order in which they are read; those that an operation of the class reads or writes in its "
+    "own right name it and stand last. This page is generated: `cmake --build --preset release "
+    "--target reference_docs`.";
+
+} // namespace
+
+void WriteReference(const ClassEntry* only, ReferenceFormat format, std::ostream& out)
+{
+    std::vector<const ClassEntry*> entries;
+    if (only != nullptr) {
+        for (const auto* table : Lineage(only->table())) {
+            entries.push_back(FindClass(table->className));
+        }
+    } else {
+        entries.assign(AllClasses().begin(), AllClasses().end());
+    }
+    if (format == ReferenceFormat::Json) {
+        auto classes = ordered_json::array();
+        for (const auto* entry : entries) {
+            classes.push_back(ToJson(*entry));
+        }
+        ordered_json all;
+        all["classes"] = std::move(classes);
+        out << all.dump(1) << '\n';
+        return;
+    }
+    for (const auto* entry : entries) {
+        if (format == ReferenceFormat::Text) {
+            WriteText(*entry, out);
+        } else {
+            WriteMarkdown(*entry, out);
+        }
+    }
+}
+
+std::map<std::string, std::string> ReferencePages()
+{
+    std::map<std::string, std::vector<const ClassEntry*>> byDeviceClass;
+    std::vector<const ClassEntry*> shared;
+    for (const auto* entry : AllClasses()) {
+        const auto* deviceClass = DeviceClassOf(entry->table());
+        (deviceClass != nullptr ? byDeviceClass[Utf8(deviceClass)] : shared).push_back(entry);
+    }
+    std::map<std::string, std::string> pages;
+    std::string index =
+        "# Settings\n\nEvery setting of every class, one page for each device class. `wqspcfg reference` "
+        "prints the same for one class or all of them.\n\n- [Shared by all](shared.md)\n";
+    pages["shared.md"] = Page("Settings that all service providers share", kKeys, shared);
+    for (const auto& [deviceClass, entries] : byDeviceClass) {
+        auto sorted = entries;
+        // The class base first, its models by name.
+        std::stable_sort(sorted.begin(), sorted.end(), [](const ClassEntry* a, const ClassEntry* b) {
+            const auto rank = [](const ClassEntry* entry) {
+                const auto* own = entry->table().deviceClass;
+                return own != nullptr && *own != 0 ? 0 : 1;
+            };
+            return rank(a) != rank(b) ? rank(a) < rank(b)
+                                      : std::wstring_view(a->table().className) < b->table().className;
+        });
+        pages[deviceClass + ".md"] = Page("Settings of device class " + deviceClass, kKeys, sorted);
+        index += "- [" + deviceClass + "](" + deviceClass + ".md): " + std::to_string(entries.size()) +
+                 (entries.size() == 1 ? " class\n" : " classes\n");
+    }
+    pages["README.md"] = index;
+    return pages;
+}
+
+} // namespace wqspcfg::tools
