@@ -58,13 +58,14 @@ TEST_F(CatalogueTest, TablesAreSound)
             EXPECT_FALSE(setting.meaning.ends_with(L'.') ||
                          setting.meaning.find_first_of(L"\r\n") != std::wstring::npos);
             if (!setting.allowed.empty()) {
-                EXPECT_NE(std::find(setting.allowed.begin(), setting.allowed.end(), setting.fallback.number),
-                          setting.allowed.end())
+                EXPECT_TRUE(std::any_of(
+                    setting.allowed.begin(), setting.allowed.end(),
+                    [&](const DescribedChoice& choice) { return choice.value == setting.defaultValue.number; }))
                     << "the default is not allowed";
             }
             if (setting.range) {
-                EXPECT_LE(setting.range->low, setting.fallback.number);
-                EXPECT_GE(setting.range->high, setting.fallback.number);
+                EXPECT_LE(setting.range->low, setting.defaultValue.number);
+                EXPECT_GE(setting.range->high, setting.defaultValue.number);
             }
             if (setting.saved && setting.savedName.empty() && !setting.conditional) {
                 EXPECT_TRUE(seen.insert(UpCase(PathOf(setting) + L"|" + setting.name)).second) << "saved twice";
@@ -82,8 +83,8 @@ TEST_F(CatalogueTest, AnEmptyRegistryGivesEveryDefault)
         const auto object = Make(*entry);
         const auto settings = WithInherited(*entry);
         for (const auto& each : settings) {
-            if (each.table->base != nullptr && each.setting.row->bound && !each.setting.row->preloaded) {
-                EXPECT_EQ(Held(each.setting, *object), each.setting.constructed.value_or(each.setting.fallback))
+            if (each.table->base != nullptr && IsHeld(each.setting) && !each.setting.row->Has(Flags::Preloaded)) {
+                EXPECT_EQ(Held(each.setting, *object), each.setting.constructed.value_or(each.setting.defaultValue))
                     << each.Name() << " after construction";
             }
         }
@@ -91,7 +92,7 @@ TEST_F(CatalogueTest, AnEmptyRegistryGivesEveryDefault)
         EXPECT_FALSE(LastStoreError()) << LastStoreError().message;
         for (const auto& each : settings) {
             if (IsPlain(each.setting)) {
-                EXPECT_EQ(Held(each.setting, *object), each.setting.fallback) << each.Name() << " after Load";
+                EXPECT_EQ(Held(each.setting, *object), each.setting.defaultValue) << each.Name() << " after Load";
             }
         }
     }
@@ -109,18 +110,20 @@ TEST_F(CatalogueTest, EveryLoggedSettingHasItsLineInOrder)
         for (const auto& each : WithInherited(*entry)) {
             const auto& row = *each.setting.row;
             // The root prints its lines in an order of its own.
-            if (each.table->base == nullptr || !row.logged || row.step != nullptr || each.setting.conditional) {
+            if (each.table->base == nullptr || row.Has(Flags::NotLogged) || row.kind != Kind::Value ||
+                row.step != nullptr || each.setting.conditional) {
                 continue;
             }
             const auto& label = each.setting.label.empty() ? each.setting.name : each.setting.label;
             std::wstring start = FormatString(L"[CFG] %40s : ", label);
-            if (row.head != nullptr) {
-                start = FormatString(row.head, label);
+            if (row.line != nullptr) {
+                start = FormatString(row.line, label, 0, L"");
+                start.resize(start.find(L" : ") + 3);
             } else if (IsPlain(each.setting) && row.conversion == nullptr && row.logAs == nullptr &&
-                       (each.setting.type != Type::Char || !each.setting.fallback.text.empty())) {
-                start += IsText(each.setting.type) ? each.setting.fallback.text
-                                                   : FormatString(L"%d", each.setting.fallback.number);
-                start += row.described ? L"[" + std::wstring(each.setting.meaning) : L"";
+                       (each.setting.type != Type::Char || !each.setting.defaultValue.text.empty())) {
+                start += IsText(each.setting.type) ? each.setting.defaultValue.text
+                                                   : FormatString(L"%d", each.setting.defaultValue.number);
+                start += L"[" + std::wstring(each.setting.meaning);
             }
             std::size_t found = at;
             while (found < lines.size() && !lines[found].starts_with(start)) {
@@ -147,7 +150,7 @@ TEST_F(CatalogueTest, EverySavedValueSurvivesLoadAndSave)
         DWORD next = 3;
         for (const auto& each : settings) {
             const auto& setting = each.setting;
-            if (!setting.saved || !setting.row->bound) {
+            if (!setting.saved || !IsHeld(setting)) {
                 continue;
             }
             const auto path = PathOfSetting(setting);
@@ -155,25 +158,24 @@ TEST_F(CatalogueTest, EverySavedValueSurvivesLoadAndSave)
             if (setting.type == Type::String) {
                 value.text = L"text " + std::to_wstring(next++);
             } else if (setting.type == Type::Char) {
-                value.text = setting.fallback.text == L"Q" ? L"R" : L"Q";
-            } else if (setting.type == Type::Flag || setting.row->asSwitch || setting.row->savedAsSwitch) {
-                value.number = 1 - setting.fallback.number;
+                value.text = setting.defaultValue.text == L"Q" ? L"R" : L"Q";
+            } else if (setting.type == Type::Flag || setting.row->Has(Flags::AsSwitch) || setting.row->savedAsSwitch) {
+                value.number = 1 - setting.defaultValue.number;
             } else if (!setting.allowed.empty()) {
-                value.number = setting.allowed.front() != setting.fallback.number ? setting.allowed.front()
-                                                                                  : setting.allowed.back();
+                const auto& other = setting.allowed.front().value != setting.defaultValue.number
+                                        ? setting.allowed.front()
+                                        : setting.allowed.back();
+                value.number = other.value;
             } else if (setting.range) {
-                value.number = setting.range->low != setting.fallback.number ? setting.range->low : setting.range->high;
+                value.number =
+                    setting.range->low != setting.defaultValue.number ? setting.range->low : setting.range->high;
             } else {
                 value.number = next++;
             }
-            for (const auto& name : {setting.name, setting.row->readName != nullptr && setting.turn == 0
-                                                       ? std::wstring(setting.row->readName)
-                                                       : setting.name}) {
-                if (IsText(setting.type)) {
-                    Set(path, name, value.text.c_str());
-                } else {
-                    Set(path, name, value.number);
-                }
+            if (IsText(setting.type)) {
+                Set(path, setting.name, value.text.c_str());
+            } else {
+                Set(path, setting.name, value.number);
             }
             written[UpCase(path + L"|" + setting.name)] = value;
         }
@@ -184,7 +186,7 @@ TEST_F(CatalogueTest, EverySavedValueSurvivesLoadAndSave)
         EXPECT_FALSE(LastStoreError()) << LastStoreError().message;
         for (const auto& each : settings) {
             const auto& setting = each.setting;
-            if (!setting.saved || !setting.row->bound || (SavesOnlyItsOwn(*entry) && each.table != &entry->table())) {
+            if (!setting.saved || !IsHeld(setting) || (SavesOnlyItsOwn(*entry) && each.table != &entry->table())) {
                 continue;
             }
             const auto path = PathOfSetting(setting);

@@ -57,11 +57,17 @@ inline bool Is(const ClassEntry& entry, std::wstring_view name)
     return std::any_of(tables.begin(), tables.end(), [&](const Table* table) { return table->className == name; });
 }
 
+// Has a member that holds one value.
+inline bool IsHeld(const DescribedSetting& setting)
+{
+    return setting.row->bound && !setting.wholeKey;
+}
+
 inline const void* MemberOf(const DescribedSetting& setting, CRegKeyEx& object)
 {
     const auto& row = *setting.row;
     if (row.locate != nullptr) {
-        return row.locate(object, setting.turn);
+        return row.locate(object, setting.iteration);
     }
     switch (row.type) {
     case Type::Dword:
@@ -115,8 +121,8 @@ inline bool IsPlain(const DescribedSetting& setting)
     const auto& row = *setting.row;
     // A switch without a polarity, which is read later, becomes 0.
     const bool decidedLater = setting.key == L"Switches\\Index";
-    return row.bound && !row.preloaded && row.step == nullptr && row.correct == nullptr && row.correctText == nullptr &&
-           !setting.conditional && !decidedLater;
+    return IsHeld(setting) && !row.Has(Flags::Preloaded) && row.step == nullptr && row.normalize == nullptr &&
+           row.normalizeText == nullptr && !setting.conditional && !decidedLater;
 }
 
 // A setting of one class, and which.

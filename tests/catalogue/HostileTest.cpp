@@ -130,7 +130,7 @@ class CatalogueHostileTest : public CatalogueTest
     {
         std::vector<DescribedValue> state;
         for (const auto& each : settings) {
-            state.push_back(each.setting.row->bound ? Held(each.setting, object) : DescribedValue{});
+            state.push_back(IsHeld(each.setting) ? Held(each.setting, object) : DescribedValue{});
             if (each.setting.row->savedAsSwitch && state.back().number != 0) {
                 state.back().number = 1; // all that is saved of it
             }
@@ -160,7 +160,7 @@ class CatalogueHostileTest : public CatalogueTest
         std::vector<bool> decided;
         for (const auto& each : settings) {
             decided.push_back(IsTried(entry, each) && IsPlain(each.setting) && !kTurned.contains(each.setting.name) &&
-                              each.setting.row->readName == nullptr && kinds[where(each)] != 3);
+                              kinds[where(each)] != 3);
         }
         return decided;
     }
@@ -168,15 +168,16 @@ class CatalogueHostileTest : public CatalogueTest
     static DescribedValue Expected(const DescribedSetting& setting, const Hostile& hostile)
     {
         if (setting.type == Type::String) {
-            return hostile.heldText ? DescribedValue{0, *hostile.heldText} : setting.fallback;
+            return hostile.heldText ? DescribedValue{0, *hostile.heldText} : setting.defaultValue;
         }
         if (setting.type == Type::Char) {
-            return hostile.heldText ? DescribedValue{0, hostile.heldText->substr(0, 1)} : setting.fallback;
+            return hostile.heldText ? DescribedValue{0, hostile.heldText->substr(0, 1)} : setting.defaultValue;
         }
         if (!hostile.heldNumber) {
-            return setting.fallback;
+            return setting.defaultValue;
         }
-        const bool isSwitch = setting.type == Type::Flag || setting.row->asSwitch || setting.row->savedAsSwitch;
+        const bool isSwitch =
+            setting.type == Type::Flag || setting.row->Has(Flags::AsSwitch) || setting.row->savedAsSwitch;
         return {isSwitch && *hostile.heldNumber != 0 ? 1 : *hostile.heldNumber, {}};
     }
 
@@ -220,12 +221,12 @@ TEST_F(CatalogueHostileTest, HostileValuesDoNoHarm)
                 const auto& setting = settings[i].setting;
                 if (decided[i]) {
                     EXPECT_TRUE(state[i] == Expected(setting, hostile) ||
-                                (!complete && state[i] == setting.constructed.value_or(setting.fallback)))
+                                (!complete && state[i] == setting.constructed.value_or(setting.defaultValue)))
                         << settings[i].Name() << ": " << Shown(state[i]);
                 }
                 // A correction makes the range hold, but for the one that changes another setting.
-                if (setting.range && setting.name != L"VtmOutShtSafeDoorIndex" && setting.row->bound &&
-                    setting.row->correct != nullptr) {
+                if (setting.range && setting.name != L"VtmOutShtSafeDoorIndex" && IsHeld(setting) &&
+                    setting.row->normalize != nullptr) {
                     EXPECT_TRUE(state[i].number >= setting.range->low && state[i].number <= setting.range->high)
                         << settings[i].Name() << ": " << Shown(state[i]);
                 }
@@ -281,8 +282,7 @@ TEST_F(CatalogueHostileTest, ASaveOfTextThatNoRegistryHoldsIsRefusedAsAWhole)
         SCOPED_TRACE(NameOfClass(*entry));
         for (const auto& each : WithInherited(*entry)) {
             const auto& setting = each.setting;
-            if (each.table != &entry->table() || !setting.saved || !setting.row->bound ||
-                setting.type != Type::String) {
+            if (each.table != &entry->table() || !setting.saved || !IsHeld(setting) || setting.type != Type::String) {
                 continue;
             }
             SCOPED_TRACE(each.Name());

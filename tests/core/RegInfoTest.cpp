@@ -521,7 +521,7 @@ TEST_F(RegInfoTest, EveryValueOfAGetterIsReadByIt)
         {L"GetCapVendorDescKeyValue", [&] { config.GetCapVendorDescKeyValue(); }},
     };
     std::size_t checked = 0;
-    for (const auto& setting : wqspcfg::DescribeOnRequest(CRegInfo::Settings())) {
+    for (const auto& setting : wqspcfg::DescribeOperations(CRegInfo::Settings())) {
         if (setting.readBy == L"GetCmdMap") {
             continue; // takes whatever names there are
         }

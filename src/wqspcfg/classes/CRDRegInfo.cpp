@@ -22,8 +22,8 @@ constexpr Setting kSettings[] = {
     {key::Control, L"DispenseErrorRetain",              &C::m_bDispenseErrorRetain,                1,   L"a dispensed card that entered the transport but could not be delivered is retained: 0 no; nonzero yes", LogHeld},
     {key::Control, L"DispenseAfterRetainBinFull",       &C::m_dwDispenseAfterRetainBinFull,        0,   L"dispensing continues while the retain bin is full: 0 no; nonzero yes", SavedAsSwitch, NotLogged},
     {key::Control, L"SendCardUnitEvntAfterExeComplete", &C::m_strSendCardUnitEvntAfterExeComplete, L"", L"the XFS commands (such as WFS_CMD_CRD_DISPENSE_CARD) during which the card-unit information-changed and threshold events are held back until the application has received the command's completion"},
-    {key::Control, L"TemporaryRetainBin",               &C::m_dwTemporaryRetainBin,                0,   L"number of the retain bin that receives a temporarily held card when it is retained", Saved, OpenBracket},
-    {kCardUnit,    L"CurNumber",                        &C::m_dwCurNumber,                         0,   L"number of the current card unit", LoadedBy([](C&, Loading&) {}), NotLogged, Saved},
+    {key::Control, L"TemporaryRetainBin",               &C::m_dwTemporaryRetainBin,                0,   L"number of the retain bin that receives a temporarily held card when it is retained", Saved, Line(L"[CFG] %40s : %d[%s")},
+    {kCardUnit,    L"CurNumber",                        &C::m_dwCurNumber,                         0,   L"number of the current card unit", Documented, NotLogged, Saved},
 };
 
 constexpr const wchar_t* kSavedControls[] = {L"UseLogicCountOfSupplyBinStatus", L"UseLogicCountOfRetainBinStatus", L"DispenseAfterRetainBinFull", L"TemporaryRetainBin"};

@@ -169,7 +169,7 @@ constexpr Setting SerialRow()
             LogWord(loading, (L"HIWORD(" + name + L")").c_str(), HIWORD(dwValue), Fields[I].highWord);
         };
         row.step = Setting::StepOf<decltype(lines)>();
-        row.logged = false;
+        row.flags |= static_cast<std::uint32_t>(Flags::NotLogged);
     }
     return row;
 }
@@ -185,9 +185,9 @@ constexpr auto SerialRows()
     for (auto& row : rows) {
         const auto standsIn = [&](const wchar_t* name, const wchar_t* path) {
             if (row.name == name) {
-                row.constructed = row.fallback;
+                row.constructed = row.defaultValue;
                 row.hasConstructed = true;
-                row.fallback = path;
+                row.defaultValue = path;
             }
         };
         standsIn(L"szSNRInfoFileName", kSNRInfoFileName);
@@ -200,16 +200,6 @@ constexpr auto kSerialRows = SerialRows<&C::m_sBillSNRegInfo, kBillSNFields>();
 constexpr auto kFSNRows = SerialRows<&C::m_sBillFSNRegInfo, kBillFSNFields>();
 constexpr auto kBlackListRows = SerialRows<&C::m_sBillBLRegInfo, kBillBLFields>();
 constexpr auto kFAIRows = SerialRows<&C::m_sBillFAIRegInfo, kBillFAIFields>();
-
-template <std::size_t N>
-constexpr Setting Rows(const std::array<Setting, N>& rows)
-{
-    Setting group;
-    group.rows = rows.data();
-    group.rowCount = N;
-    group.condition = [](CRegKeyEx&) { return true; };
-    return group;
-}
 
 // clang-format off
 constexpr Setting kSettings[] = {
@@ -225,21 +215,21 @@ constexpr Setting kSettings[] = {
     {key::Capabilities, L"AllowDispenseWhenSafeDoorOpen",            &C::m_bAllowDispenseWhenSafeDoorOpen,            0,        L"dispensing is allowed with the safe door open: 0 no; nonzero yes", Saved},
     {key::Capabilities, L"AllowPresentWhenSafeDoorOpen",             &C::m_bAllowPresentWhenSafeDoorOpen,             0,        L"presenting is allowed with the safe door open: 0 no; nonzero yes", Saved},
     {key::Capabilities, L"AllowDepositWhenSafeDoorOpen",             &C::m_bAllowDepositWhenSafeDoorOpen,             1,        L"deposit transactions are allowed with the safe door open: 0 no; nonzero yes", Saved},
-    {key::Capabilities, L"AllowTestUnitWhenSafeDoorOpen",            &C::m_dwAllowTestUnitWhenSafeDoorOpen,           1,        L"test-cash-units with the safe door open: 0 no; 1 yes and notes are dispensed; 2 yes but only a forced device reset, no notes", Saved, OneOf<0, 1, 2>},
-    {key::Capabilities, L"ResetRetSucceedWhenSafeDoorOpen",          &C::m_dwResetRetSucceedWhenSafeDoorOpen,         1,        L"a reset with the safe door open reports: 0 failure; 1 success", Saved, OneOf<0, 1>},
+    {key::Capabilities, L"AllowTestUnitWhenSafeDoorOpen",            &C::m_dwAllowTestUnitWhenSafeDoorOpen,           1,        L"test-cash-units with the safe door open: 0 no; 1 yes and notes are dispensed; 2 yes but only a forced device reset, no notes", Saved, OneOf},
+    {key::Capabilities, L"ResetRetSucceedWhenSafeDoorOpen",          &C::m_dwResetRetSucceedWhenSafeDoorOpen,         1,        L"a reset with the safe door open reports: 0 failure; 1 success", Saved, OneOf},
     {key::Capabilities, L"ExchangeCheckSafeDoorOpen",                &C::m_dwExchangeCheckSafeDoorOpen,               0,        L"the safe door is checked at start and end exchange, bit set: 0x0001 the CIM checks; 0x0002 the CDM checks; 0x0010 at start exchange; 0x0020 at end exchange; 0x0040 at end exchange after (clear: before) the counts are updated", Saved},
-    {key::Capabilities, L"CheckNotEmptyInCashInStart",               &C::m_dwCheckNotEmptyInCashInStart,              2,        L"cash-in start checks that the slot and the escrow are empty: 0 no check; 1 conditionally no check; 2 checks the closed area and the slot; 3 checks; any other number acts as 2", Saved, Range(0, 3), Correct([](C&, DWORD dwValue, bool) -> DWORD { return dwValue <= 3 ? dwValue : 2; })},
-    {key::Capabilities, L"KeepInShutterOpenInCashIn",                &C::m_dwKeepInShutterOpenInCashIn,               0,        L"the input shutter stays open during a deposit: 0 no; 1 neither cash-in nor cash-in end closes it; 2 cash-in leaves it open, cash-in end closes it", Saved, OneOf<0, 1, 2>},
+    {key::Capabilities, L"CheckNotEmptyInCashInStart",               &C::m_dwCheckNotEmptyInCashInStart,              2,        L"cash-in start checks that the slot and the escrow are empty: 0 no check; 1 conditionally no check; 2 checks the closed area and the slot; 3 checks; any other number acts as 2", Saved, Range(0, 3), Normalize([](C&, DWORD dwValue, bool) -> DWORD { return dwValue <= 3 ? dwValue : 2; })},
+    {key::Capabilities, L"KeepInShutterOpenInCashIn",                &C::m_dwKeepInShutterOpenInCashIn,               0,        L"the input shutter stays open during a deposit: 0 no; 1 neither cash-in nor cash-in end closes it; 2 cash-in leaves it open, cash-in end closes it", Saved, OneOf},
     {key::Capabilities, L"CanRejectWhatever",                        &C::m_bCanRejectWhatever,                        1,        L"the CDM reject command is accepted: 0 after a CDM command only, otherwise it is answered as not ready; nonzero at any time", Saved},
     {key::Device,       L"SupportCurrencyID",                        StringValue,                                     L"CNY",   L"currencies that the device handles, separated by \",\"", LoadedBy([](C& c, Loading& loading) { LoadCurrencies(c, loading); }), NotLogged},
     {key::Device,       L"SupportCurrencyExponent",                  StringValue,                                     L"0",     L"decimal exponents of the currencies by position, separated by \",\"; missing ones are 0", LoadedBy([](C& c, Loading& loading) { LoadExponents(c, loading); }), NotLogged},
-    {key::Capabilities, L"RejectCountCalcMode",                      &C::m_dwRejectCountCalcMode,                     2,        L"how the reject count of a cassette is kept: 0 not recorded; 1 only when notes go to the reject cassette; 2 always", Saved, OneOf<0, 1, 2>},
-    {key::Capabilities, L"CDMRjRtCUCalcMode",                        &C::m_dwCDMRjRtCUCalcMode,                       0,        L"counting in retract and reject cassettes: 0 by notes (the provider's input); 1 by operations, for retracts into the retract cassette; 2 by operations, for the retract and the reject cassette", Saved, OneOf<0, 1, 2>},
+    {key::Capabilities, L"RejectCountCalcMode",                      &C::m_dwRejectCountCalcMode,                     2,        L"how the reject count of a cassette is kept: 0 not recorded; 1 only when notes go to the reject cassette; 2 always", Saved, OneOf},
+    {key::Capabilities, L"CDMRjRtCUCalcMode",                        &C::m_dwCDMRjRtCUCalcMode,                       0,        L"counting in retract and reject cassettes: 0 by notes (the provider's input); 1 by operations, for retracts into the retract cassette; 2 by operations, for the retract and the reject cassette", Saved, OneOf},
     {key::Capabilities, L"UseHWCountMode",                           &C::m_bUseHWCountMode,                           1,        L"the remaining counts of the device are used: 0 no; nonzero yes", Saved},
     {key::Device,       L"SupportMixNumber",                         StringValue,                                     L"1,2,3", L"mix algorithms that are offered to applications, separated by \",\": 1 minimum number of bills; 2 equal emptying; 3 maximum number of cash units", LoadedBy([](C& c, Loading& loading) { LoadMixNumbers(c, loading); }), NotLogged},
     {key::Capabilities, L"TryDenominateMultiValue",                  &C::m_bTryDenominateMultiValue,                  0,        L"when the mix gives a single denomination, a mix of several is tried: 0 no; nonzero yes", Constructed(1)},
     {key::Capabilities, L"UseNewMixMode",                            &C::m_dwUseNewMixMode,                           0,        L"mix algorithm: 0 the new one where cassettes of denomination 10 or 20 are present, otherwise the old one; nonzero always the new one", Saved},
-    {key::Capabilities, L"ActionOfGetSNFailed",                      &C::m_dwActionOfGetSNFailed,                     0,        L"when reading serial numbers fails: 0 no device fault; 1 fault, cleared by reset or restart; 2 fault, cleared by restart only", Saved, OneOf<0, 1, 2>},
+    {key::Capabilities, L"ActionOfGetSNFailed",                      &C::m_dwActionOfGetSNFailed,                     0,        L"when reading serial numbers fails: 0 no device fault; 1 fault, cleared by reset or restart; 2 fault, cleared by restart only", Saved, OneOf},
     {key::Capabilities, L"MixPriority",                              &C::m_dwMixPriority,                             0,        L"mix order: 0 a simple sort; nonzero follows the characteristics of the device", Saved},
     {key::Capabilities, L"MixEqualEmptyingEveryTime",                &C::m_dwMixEqualEmptyingEveryTime,               0,        L"the equal-emptying mix levels the remainders: 0 over a period; nonzero on every dispense", Saved},
     {key::Capabilities, L"MixMaxNumberOrUnit",                       &C::m_dwMixMaxNumberOrUnit,                      1,        L"maximum mix: 0 the most cassettes of different denominations; nonzero the most notes", Saved},
@@ -255,10 +245,10 @@ constexpr Setting kSettings[] = {
     {key::Capabilities, L"AddCashInCountAtCDMRetract", &C::m_dwAddCashInCountAtCDMRetract, 0, L"CDM retracts raise the cash-in count: 0 never; otherwise a bit set of occasions, 0x3FF on all"},
     Step([](C& c, Loading& loading) { LogOccasions(loading, L"AddCashInCountAtCDMRetract", c.m_dwAddCashInCountAtCDMRetract, kCDMOccasions); }),
     {key::Capabilities, L"EnableCasEstimate",                      &C::m_dwEnableCasEstimate,                     0,          L"the note count of deposit cassettes is estimated: 0 no; nonzero yes", AsSwitch},
-    {key::Capabilities, L"EnableRandSpecMix",                      &C::m_dwEnableRandSpecMix,                     0,          L"random cassette order for dispensing: 0 off; 1 drawn at set-cash-unit-info; 2 drawn at end exchange", OneOf<0, 1, 2>},
-    {key::Capabilities, L"RandSpecMixOrder",                       &C::m_dwRandSpecMixOrder,                      0,          L"dispense order of the cassettes as decimal digits, 1 to 4 standing for the cassettes A to D; 0 becomes 3142 where EnableRandSpecMix is on; saved only then", Saved, Correct([](C& c, DWORD dwValue, bool) -> DWORD { return c.m_dwEnableRandSpecMix != 0 && dwValue == 0 ? 3142 : dwValue; })},
+    {key::Capabilities, L"EnableRandSpecMix",                      &C::m_dwEnableRandSpecMix,                     0,          L"random cassette order for dispensing: 0 off; 1 drawn at set-cash-unit-info; 2 drawn at end exchange", OneOf},
+    {key::Capabilities, L"RandSpecMixOrder",                       &C::m_dwRandSpecMixOrder,                      0,          L"dispense order of the cassettes as decimal digits, 1 to 4 standing for the cassettes A to D; 0 becomes 3142 where EnableRandSpecMix is on; saved only then", Saved, Normalize([](C& c, DWORD dwValue, bool) -> DWORD { return c.m_dwEnableRandSpecMix != 0 && dwValue == 0 ? 3142 : dwValue; })},
     {key::Capabilities, L"HandlePosNotEmptyInStartExchange",       &C::m_dwHandlePosNotEmptyInStartExchange,      0,          L"slot not empty before start exchange: 0 is ignored, and the notes are retracted at end exchange; nonzero position-not-empty is returned"},
-    {key::Capabilities, L"KeepOutShtOpenInCashIn",                 &C::m_dwKeepOutShtOpenInCashIn,                0,          L"the output shutter stays open during note validation: 0 no; 1 neither cash-in nor cash-in end closes it; 2 cash-in leaves it open, cash-in end closes it", OneOf<0, 1, 2>},
+    {key::Capabilities, L"KeepOutShtOpenInCashIn",                 &C::m_dwKeepOutShtOpenInCashIn,                0,          L"the output shutter stays open during note validation: 0 no; 1 neither cash-in nor cash-in end closes it; 2 cash-in leaves it open, cash-in end closes it", OneOf},
     {key::Capabilities, L"MonitorItemsInsertAfterCashInStart",     &C::m_bMonitorItemsInsertAfterCashInStart,     0,          L"after a successful cash-in start, with the shutter closed, the provider watches for inserted notes: 0 no; nonzero yes"},
     {key::Capabilities, L"EnableSubDispense",                      &C::m_bEnableSubDispense,                      0,          L"notes are dispensed in steps: 0 no; nonzero yes"},
     {key::Capabilities, L"SubDispenseCountOfOnce",                 &C::m_dwSubDispenseCountOfOnce,                100,        L"notes per step of a stepped dispense"},
@@ -272,25 +262,25 @@ constexpr Setting kSettings[] = {
     {kLimit,            L"FullLimitOfReject",                      &C::m_dwFullLimitOfReject,                     10,         L"count at which the reject cassette is full", Saved, KeepWhenMissing},
     {kLimit,            L"MaxLimitOfReject",                       &C::m_dwMaxLimitOfReject,                      0,          L"largest count of the reject cassette", Saved, KeepWhenMissing},
     {kCassette,         L"PhyLog11",                               &C::m_bPhyLog11,                               1,          L"physical and logical cash units correspond one to one: 0 no; nonzero yes"},
-    {kCassette,         L"AddCassMode",                            &C::m_dwAddCassMode,                           0,          L"counts at replenishment: 0x00 automatic, the physical ones where they are not 0, otherwise the logical ones; 0x01 always the logical ones; 0x02 always the physical ones", Format(L"0x%02X"), OneOf<0, 1, 2>},
+    {kCassette,         L"AddCassMode",                            &C::m_dwAddCassMode,                           0,          L"counts at replenishment: 0x00 automatic, the physical ones where they are not 0, otherwise the logical ones; 0x01 always the logical ones; 0x02 always the physical ones", Format(L"0x%02X"), OneOf},
     {kCassette,         L"StopIfPlugCU",                           &C::m_dwStopIfPlugCU,                          0,          L"a cassette is removed or inserted outside replenishment, bit set: 0x01 a CDM cassette disables dispensing; 0x02 a CIM cassette disables deposits; 0x80 newly inserted cassettes are detected; 0x100 the cassette becomes INOP as well", Saved},
-    {kCassette,         L"RecoverCUStOnReset",                     &C::m_dwRecoverCUStOnReset,                    3,          L"cassette states that a reset restores, bit set: 0x0001 manipulated; 0x0002 inoperative; 0x0010 cassettes never replenished are not put INOP; 0x0100 an application reset lifts or restores a separation close; 0x0200 the same for the collection close of single-deposit and recycle cassettes; 0x0400 the same for the retract cassette; the low byte is cleared where that of StopIfPlugCU is not 0", Saved, Format(L"0x%04X"), Correct([](C& c, DWORD dwValue, bool) -> DWORD { return LOBYTE(c.m_dwStopIfPlugCU) != 0 ? dwValue & 0xFF00 : dwValue; })},
-    {kCassette,         L"CasBothVisible",                         &C::m_dwCasBothVisible,                        0,          L"deposit and dispense cassettes are visible to both CDM and CIM, each showing the other's as recycle cassettes in state MISSING: 0 no; 1 yes", OneOf<0, 1>},
-    {kCassette,         L"RearPosOfCasRtRj",                       &C::m_dwRearPosOfCasRtRj,                      0,          L"retract and reject cassettes stand at the end of the list: 0 no; 1 yes", OneOf<0, 1>},
-    {kCassette,         L"DelMissCUOnEndExchange",                 &C::m_dwDelMissCUOnEndExchange,                1,          L"end exchange deletes cash units that are not present: 0 no; 1 yes", OneOf<0, 1>},
+    {kCassette,         L"RecoverCUStOnReset",                     &C::m_dwRecoverCUStOnReset,                    3,          L"cassette states that a reset restores, bit set: 0x0001 manipulated; 0x0002 inoperative; 0x0010 cassettes never replenished are not put INOP; 0x0100 an application reset lifts or restores a separation close; 0x0200 the same for the collection close of single-deposit and recycle cassettes; 0x0400 the same for the retract cassette; the low byte is cleared where that of StopIfPlugCU is not 0", Saved, Format(L"0x%04X"), Normalize([](C& c, DWORD dwValue, bool) -> DWORD { return LOBYTE(c.m_dwStopIfPlugCU) != 0 ? dwValue & 0xFF00 : dwValue; })},
+    {kCassette,         L"CasBothVisible",                         &C::m_dwCasBothVisible,                        0,          L"deposit and dispense cassettes are visible to both CDM and CIM, each showing the other's as recycle cassettes in state MISSING: 0 no; 1 yes", OneOf},
+    {kCassette,         L"RearPosOfCasRtRj",                       &C::m_dwRearPosOfCasRtRj,                      0,          L"retract and reject cassettes stand at the end of the list: 0 no; 1 yes", OneOf},
+    {kCassette,         L"DelMissCUOnEndExchange",                 &C::m_dwDelMissCUOnEndExchange,                1,          L"end exchange deletes cash units that are not present: 0 no; 1 yes", OneOf},
     {kCassette,         L"CUState2Ok",                             &C::m_bCUState2Ok,                             0,          L"CDM cash-unit states are reported as OK: 0 no; nonzero yes"},
     {kCassette,         L"InCUEmptyWhenLogicalEmpty",              &C::m_bInCUEmptyWhenLogicalEmpty,              0,          L"an input cash unit that is logically empty reports empty: 0 no; nonzero yes", Saved},
     {kCassette,         L"OutCUEmptyWhenLogicalEmpty",             &C::m_bOutCUEmptyWhenLogicalEmpty,             1,          L"an output cash unit that is empty logically but not physically reports empty: 0 no; nonzero yes", Saved},
     {kCassette,         L"ReportFullOfNoMixCasInCasAndRecycleCas", &C::m_bReportFullOfNoMixCasInCasAndRecycleCas, 1,          L"full deposit cassettes other than the mixed ones, and full recycle cassettes, are reported: 0 no; nonzero yes", Saved},
     {kCassette,         L"OptAcceptorStaWhenAllNonMixBoxFullAndHavecyclebox", &C::m_bOptAcceptorStaWhenAllNonMixBoxFullAndHavecyclebox, 0,          L"the acceptor status is adjusted when all cassettes but the mixed ones are full and there is a recycle cassette: 0 no; nonzero yes", Saved},
     {kCassette,         L"AdjustCassStatusByType",                 &C::m_dwAdjustCassStatusByType,                0x00010001, L"cassette states are corrected by their use: high word input cassettes, low word output cassettes, each 0 no; nonzero yes", Format(L"%08X")},
-    {key::Capabilities, L"RejectPosition",                         &C::m_dwRejectPosition,                        2,          L"where rejected notes go: 0 the intermediate stacker; 1 the slot; 2 either", Saved, OneOf<0, 1, 2>},
+    {key::Capabilities, L"RejectPosition",                         &C::m_dwRejectPosition,                        2,          L"where rejected notes go: 0 the intermediate stacker; 1 the slot; 2 either", Saved, OneOf},
     {key::Capabilities, L"RejectWhenDispenseFail",                 &C::m_bRejectWhenDispenseFail,                 1,          L"notes are rejected automatically when picking fails: 0 no; nonzero yes", Saved},
     {key::Capabilities, L"RetractWhenPresentFail",                 &C::m_dwRetractWhenPresentFail,                1,          L"after a failed present: 0 no retract; 1 into the retract cassette; other numbers into the reject cassette where opening the shutter failed", Saved},
     {key::Capabilities, L"DispenseAgain",                          &C::m_bDispenseAgain,                          0,          L"after a pick failure and a successful reset, the amount is mixed a second time: 0 no; nonzero yes", Saved},
     {key::Capabilities, L"ShakeOuterShtBeforeDispense",            &C::m_dwShakeOuterShtBeforeDispense,           0,          L"shutters are shaken, bit set: 0x01 the outer one in open-shutter; 0x02 the outer one in dispense; 0x04 the inner one in open-shutter; 0x08 the inner one in dispense", Saved, Format(L"0x%04X")},
     {key::Capabilities, L"BillTakenCheckTimeOut",                  &C::m_dwBillTakenCheckTimeOut,                 120000,     L"how long the slot is watched for taken notes after dispensing, in ms", Saved},
-    {key::Capabilities, L"ApCanRetract2MixCasIn",                  &C::m_dwApCanRetract2MixCasIn,                 0,          L"the application can retract into the mixed deposit cassette: 0 no; 1 yes", OneOf<0, 1>},
+    {key::Capabilities, L"ApCanRetract2MixCasIn",                  &C::m_dwApCanRetract2MixCasIn,                 0,          L"the application can retract into the mixed deposit cassette: 0 no; 1 yes", OneOf},
     {key::Capabilities, L"ResetWhenCashInEndFail",                 &C::m_bResetWhenCashInEndFail,                 0,          L"the device is reset automatically when cash-in end fails: 0 no; nonzero yes", Saved},
     {key::Capabilities, L"ResetWhenCashInActived",                 &C::m_bResetWhenCashInActived,                 1,          L"a reset is allowed while a cash-in is active: 0 no; nonzero yes", Saved},
     {key::Capabilities, L"WatchWhenCashIn",                        &C::m_bWatchWhenCashIn,                        0,          L"before cash-in the framework opens the shutter, watches insertion and closes: 0 no; nonzero yes", Saved},
@@ -298,34 +288,34 @@ constexpr Setting kSettings[] = {
     {key::Capabilities, L"AllowRollbackWhenPosNotEmpty",           &C::m_bAllowRollbackWhenPosNotEmpty,           0,          L"cash-in rollback is allowed while the slot is not empty: 0 no; nonzero yes", Saved},
     {key::Capabilities, L"HaveConfirmBtnForKalPlatform",           &C::m_bHaveConfirmBtnForKalPlatform,           0,          L"on the KAL platform (0 elsewhere), the application has a confirm key and no items-inserted event is posted: 0 no; nonzero yes", Saved},
     {key::Capabilities, L"RetTooManyItemsIfPossibleInVerify",      &C::m_bRetTooManyItemsIfPossibleInVerify,      0,          L"validation may return the too-many-items error: 0 no; nonzero yes", Saved},
-    {key::Capabilities, L"UseFixDep",                              &C::m_dwUseFixDep,                             0,          L"deposit of a fixed amount: 0 off; 1 parameters through the API; 2 parameters from the registry; 3 through the set-cash-in-limit command", Saved, OneOf<0, 1, 2, 3>},
+    {key::Capabilities, L"UseFixDep",                              &C::m_dwUseFixDep,                             0,          L"deposit of a fixed amount: 0 off; 1 parameters through the API; 2 parameters from the registry; 3 through the set-cash-in-limit command", Saved, OneOf},
     {key::Capabilities, L"PostCIMItemsInsertTakenEventOnlyOnce",   &C::m_bPostCIMItemsInsertTakenEventOnlyOnce,   0,          L"after the CIM opens its shutter, the taken or inserted event is posted only once: 0 no; nonzero yes", Saved},
-    {key::Capabilities, L"RunAPCloseShtOnCashInActive",            &C::m_dwRunAPCloseShtOnCashInActive,           1,          L"during a deposit the application's close-shutter request is: 0 ignored; 1 executed; 2 executed, and a failure returns success", OneOf<0, 1, 2>},
+    {key::Capabilities, L"RunAPCloseShtOnCashInActive",            &C::m_dwRunAPCloseShtOnCashInActive,           1,          L"during a deposit the application's close-shutter request is: 0 ignored; 1 executed; 2 executed, and a failure returns success", OneOf},
     {key::Capabilities, L"RestrictCountOfDispense",                &C::m_dwRestrictCountOfDispense,               100,        L"most notes in one dispense", Saved},
     {key::Capabilities, L"PostCDMItemsTakenEventAfterShtCls",      &C::m_bPostCDMItemsTakenEventAfterShtCls,      1,          L"the items-taken event after present is posted: 0 before the shutter closes; nonzero after", Saved},
     {key::Capabilities, L"RestrictCountOfDeposit",                 &C::m_dwRestrictCountOfDeposit,                100,        L"most notes in one deposit", Saved},
     {key::Capabilities, L"RestrictAmountOfDeposit",                &C::m_dwRestrictAmountOfDeposit,               10000,      L"largest amount of one deposit", Saved},
     {key::Capabilities, L"RestrictCountOfReject",                  &C::m_dwRestrictCountOfReject,                 0,          L"most rejected notes accumulated in one deposit: 0 the reject count does not tell whether the reject area is full"},
-    {kNoteType,         L"Count",                                  DwordValue,                                    0,          L"number of note types, whose subkeys are numbered from 1", LoadedBy([](C&, Loading&) {}), NotLogged},
-    {kNoteTypeOf,       L"NoteID",                                 DwordValue,                                    0,          L"note ID, the low 16 bits", LoadedBy([](C&, Loading&) {}), NotLogged},
-    {kNoteTypeOf,       L"CurrencyID",                             StringValue,                                   L"",        L"currency of the note, exactly 3 characters", LoadedBy([](C&, Loading&) {}), NotLogged},
-    {kNoteTypeOf,       L"Value",                                  DwordValue,                                    0,          L"denomination", LoadedBy([](C&, Loading&) {}), NotLogged},
-    {kNoteTypeOf,       L"Release",                                DwordValue,                                    0,          L"release of the note, the low 16 bits", LoadedBy([](C&, Loading&) {}), NotLogged},
-    {kNoteTypeOf,       L"Config",                                 DwordValue,                                    0,          L"the note is accepted: 0 no; nonzero yes", LoadedBy([](C&, Loading&) {}), NotLogged, Saved},
+    {kNoteType,         L"Count",                                  DwordValue,                                    0,          L"number of note types, whose subkeys are numbered from 1", Documented, NotLogged},
+    {kNoteTypeOf,       L"NoteID",                                 DwordValue,                                    0,          L"note ID, the low 16 bits", Documented, NotLogged},
+    {kNoteTypeOf,       L"CurrencyID",                             StringValue,                                   L"",        L"currency of the note, exactly 3 characters", Documented, NotLogged},
+    {kNoteTypeOf,       L"Value",                                  DwordValue,                                    0,          L"denomination", Documented, NotLogged},
+    {kNoteTypeOf,       L"Release",                                DwordValue,                                    0,          L"release of the note, the low 16 bits", Documented, NotLogged},
+    {kNoteTypeOf,       L"Config",                                 DwordValue,                                    0,          L"the note is accepted: 0 no; nonzero yes", Documented, NotLogged, Saved},
     Step([](C& c, Loading&) -> bool { return c.GetBankNoteTypes(c.m_arNoteType) == WFS_SUCCESS; }),
     Step([](C& c, Loading&) -> bool { return LoadSerialRecords(c); }),
-    Rows(kSerialRows),
-    Rows(kFSNRows),
+    Group(kSerialRows),
+    Group(kFSNRows),
     {kFileNameParts, L"Type",  DwordValue,  0,   kPartType, NotLogged, Saved, LoadedBy([](C& c, Loading& loading) { LogParts(loading, L"FSNFileNameParts", c.m_sBillFSNRegInfo.FileNameParts); })},
-    {kFileNameParts, L"Value", StringValue, L"", L"text of this part of the file name", NotLogged, Saved, LoadedBy([](C&, Loading&) {})},
-    {kFileNameParts, L"Link",  StringValue, L"", L"text between this part of the file name and the next", NotLogged, Saved, LoadedBy([](C&, Loading&) {})},
+    {kFileNameParts, L"Value", StringValue, L"", L"text of this part of the file name", NotLogged, Saved, Documented},
+    {kFileNameParts, L"Link",  StringValue, L"", L"text between this part of the file name and the next", NotLogged, Saved, Documented},
     {kFolderParts,   L"Type",  DwordValue,  0,   kPartType, NotLogged, Saved, LoadedBy([](C& c, Loading& loading) { LogParts(loading, L"FSNFolderParts", c.m_sBillFSNRegInfo.FolderParts); })},
-    {kFolderParts,   L"Value", StringValue, L"", L"text of this part of the folder name", NotLogged, Saved, LoadedBy([](C&, Loading&) {})},
-    {kFolderParts,   L"Link",  StringValue, L"", L"text between this part of the folder name and the next", NotLogged, Saved, LoadedBy([](C&, Loading&) {})},
-    Rows(kBlackListRows),
-    Rows(kFAIRows),
-    {key::Capabilities, L"RetractBillsWhenSPStart",              &C::m_dwRetractBillsWhenSPStart,             1,    L"notes are retracted when the provider starts: 0 no; 1 yes", Saved, OneOf<0, 1>},
-    {key::Capabilities, L"RtnDevErrorOnPosNotEmptyOfCIS",        &C::m_dwRtnDevErrorOnPosNotEmptyOfCIS,       0,    L"cash-in start turns position-not-empty into a hardware error: 0 no; 1 yes", OneOf<0, 1>},
+    {kFolderParts,   L"Value", StringValue, L"", L"text of this part of the folder name", NotLogged, Saved, Documented},
+    {kFolderParts,   L"Link",  StringValue, L"", L"text between this part of the folder name and the next", NotLogged, Saved, Documented},
+    Group(kBlackListRows),
+    Group(kFAIRows),
+    {key::Capabilities, L"RetractBillsWhenSPStart",              &C::m_dwRetractBillsWhenSPStart,             1,    L"notes are retracted when the provider starts: 0 no; 1 yes", Saved, OneOf},
+    {key::Capabilities, L"RtnDevErrorOnPosNotEmptyOfCIS",        &C::m_dwRtnDevErrorOnPosNotEmptyOfCIS,       0,    L"cash-in start turns position-not-empty into a hardware error: 0 no; 1 yes", OneOf},
     {key::Capabilities, L"CheckCUOnEndExchange",                 &C::m_dwCheckCUOnEndExchange,                0,    L"cassettes that must be present at the end of replenishment, which otherwise fails with a cash-unit error, bit set: 0x01 the CDM checks the retract cassette; 0x02 the CDM checks the reject cassette; 0x10 the CIM checks the retract cassette; 0x20 the CIM checks the mixed cassette; 0x40 the CIM checks the reject cassette of the dispenser", Format(L"0x%02X")},
     {key::Capabilities, L"CDMShutterControlCap",                 &C::m_bCDMShutterControlCap,                 0,    L"the CDM controls its shutter automatically: 0 no; nonzero yes", Saved, Format(L"%02d")},
     {key::Capabilities, L"AppBlackSymbol",                       &C::m_chAppBlackSymbol,                      L"*", L"wildcard character in the black list of the application", Saved},
@@ -339,9 +329,9 @@ constexpr Setting kSettings[] = {
         LogWord(loading, L"HIWORD(EnableReplenish)", HIWORD(c.m_dwEnableReplenish), L"automatic replenishment and clear-out: 0 off; 1 on");
         LogWord(loading, L"LOWORD(EnableReplenish)", LOWORD(c.m_dwEnableReplenish), L"automatic counting, bit set: 1 of the cassettes that the application lists; 2 of all countable cassettes when it lists none");
     }),
-    {kReplenish,        L"CasTypeCanCount",                        &C::m_dwCasTypeCanCount,                        0,  L"cassettes that may be counted: 0 those with a denomination (recycle, single deposit, single dispense); 1 recycle only", Saved, OneOf<0, 1>},
+    {kReplenish,        L"CasTypeCanCount",                        &C::m_dwCasTypeCanCount,                        0,  L"cassettes that may be counted: 0 those with a denomination (recycle, single deposit, single dispense); 1 recycle only", Saved, OneOf},
     {kReplenish,        L"CasStatusCannotCount",                   &C::m_dwCasStatusCannotCount,                   31, L"states that forbid counting, bit set: bit 0 INOP; bit 1 manipulated; bit 2 MISSING; bit 3 no value; bit 4 no reference", Saved},
-    {key::Capabilities, L"ForceDeposite",                          &C::m_dwForceDeposite,                          0,  L"forced deposit: 0 off; 1 parameters through the API; 2 parameters from the registry", OneOf<0, 1, 2>},
+    {key::Capabilities, L"ForceDeposite",                          &C::m_dwForceDeposite,                          0,  L"forced deposit: 0 off; 1 parameters through the API; 2 parameters from the registry", OneOf},
     {key::Capabilities, L"SendItemPresentedEventAfterPresent",     &C::m_dwSendItemPresentedEventAfterPresent,     0,  L"the presented event is posted after present: 0 no; nonzero yes"},
     {key::Capabilities, L"MonitorPosStatAfterCDMOpenSht",          &C::m_dwMonitorPosStatAfterCDMOpenSht,          0,  L"the slot is watched after a CDM open-shutter: 0 no; nonzero yes"},
     {key::Capabilities, L"CountStyleOfRefuseNumberInCashInStatus", &C::m_dwCountStyleOfRefuseNumberInCashInStatus, 0,  L"refused notes in the cash-in status: 0 accumulated over the validations; nonzero of the last validation"},
@@ -422,7 +412,7 @@ constexpr auto kFirstOrder = SaveOrder(kSettings, kSavedFirst, false);
 constexpr auto kLastOrder = SaveOrder(kSettings, kSavedLast, false);
 static_assert(CountSaved(kSettings) - CountSaved(kSerialRows) - CountSaved(kFSNRows) - CountSaved(kBlackListRows) -
                       CountSaved(kFAIRows) ==
-                  kFirstOrder.size() + kLastOrder.size() + 1 + 7, // RandSpecMixOrder, Config and the name parts
+                  kFirstOrder.size() + kLastOrder.size() + 3, // RandSpecMixOrder, the types of the name parts
               "a saved setting is missing from the orders");
 
 // ---- note types ----

@@ -40,8 +40,6 @@ constexpr wchar_t kDoorMissing[] =
 constexpr wchar_t kState[] = L"the port can report or take this state: 0 no; nonzero yes";
 
 // Capabilities and flags are read and written by the functions below; their rows document them.
-constexpr auto kByCode = LoadedBy([](C&, Loading&) {});
-
 constexpr const wchar_t* kOperatorSwitch[] = {L"OPERATORSWITCH"};
 constexpr const wchar_t* kSavedSensors[] = {L"TAMPER",    L"INTTAMPER", L"SEISMIC",       L"HEAT",
                                             L"PROXIMITY", L"AMBLIGHT",  L"ENHANCEDAUDIO", L"HANDSETSENSOR"};
@@ -64,105 +62,105 @@ constexpr const wchar_t* kReadGuidLights[] = {L"WFS_GUIDLIGHT_13", L"WFS_GUIDLIG
 
 // clang-format off
 constexpr Setting kOperatorSwitchRows[] = {
-    {kSensorKey, kAvailable,             DwordValue, 0, L"the switch can report the run position: 0 no; nonzero yes", NotLogged, kByCode},
-    {kSensorKey, kNotAvailable,          DwordValue, 0, kPortMissing, NotLogged, kByCode, Saved},
-    {kSensorKey, L"WFS_SIU_MAINTENANCE", DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kSensorKey, L"WFS_SIU_RUN",         DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kSensorKey, L"WFS_SIU_SUPERVISOR",  DwordValue, 0, kState, NotLogged, kByCode, Saved},
+    {kSensorKey, kAvailable,             DwordValue, 0, L"the switch can report the run position: 0 no; nonzero yes", NotLogged, Documented},
+    {kSensorKey, kNotAvailable,          DwordValue, 0, kPortMissing, NotLogged, Documented, Saved},
+    {kSensorKey, L"WFS_SIU_MAINTENANCE", DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kSensorKey, L"WFS_SIU_RUN",         DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kSensorKey, L"WFS_SIU_SUPERVISOR",  DwordValue, 0, kState, NotLogged, Documented, Saved},
 };
 constexpr Setting kSavedSensorRows[] = {
-    {kSensorKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, kByCode, Saved},
-    {kSensorKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, kByCode},
+    {kSensorKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, Documented, Saved},
+    {kSensorKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, Documented},
 };
 constexpr Setting kReadSensorRows[] = {
-    {kSensorKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, kByCode},
-    {kSensorKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, kByCode},
+    {kSensorKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, Documented},
+    {kSensorKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, Documented},
 };
 constexpr Setting kBoltedDoorRows[] = {
-    {kDoorKey, kNotAvailable,       DwordValue, 0, kDoorMissing, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_BOLTED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_CLOSED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_LOCKED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_OPEN",     DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_KEYBOARD", DwordValue, 0, kState, NotLogged, kByCode},
-    {kDoorKey, L"WFS_SIU_SERVICE",  DwordValue, 0, kState, NotLogged, kByCode},
+    {kDoorKey, kNotAvailable,       DwordValue, 0, kDoorMissing, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_BOLTED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_CLOSED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_LOCKED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_OPEN",     DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_KEYBOARD", DwordValue, 0, kState, NotLogged, Documented},
+    {kDoorKey, L"WFS_SIU_SERVICE",  DwordValue, 0, kState, NotLogged, Documented},
 };
 constexpr Setting kVandalShieldRows[] = {
-    {kDoorKey, kNotAvailable,       DwordValue, 0, kDoorMissing, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_BOLTED",   DwordValue, 0, kState, NotLogged, kByCode},
-    {kDoorKey, L"WFS_SIU_CLOSED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_LOCKED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_OPEN",     DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_KEYBOARD", DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kDoorKey, L"WFS_SIU_SERVICE",  DwordValue, 0, kState, NotLogged, kByCode, Saved},
+    {kDoorKey, kNotAvailable,       DwordValue, 0, kDoorMissing, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_BOLTED",   DwordValue, 0, kState, NotLogged, Documented},
+    {kDoorKey, L"WFS_SIU_CLOSED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_LOCKED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_OPEN",     DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_KEYBOARD", DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kDoorKey, L"WFS_SIU_SERVICE",  DwordValue, 0, kState, NotLogged, Documented, Saved},
 };
 constexpr Setting kSavedIndicatorRows[] = {
-    {kIndicatorKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, kByCode, Saved},
+    {kIndicatorKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, Documented, Saved},
 };
 constexpr Setting kReadIndicatorRows[] = {
-    {kIndicatorKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, kByCode},
+    {kIndicatorKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, Documented},
 };
 constexpr Setting kScreenRows[] = {
-    {kIndicatorKey, kAvailable, DwordValue, 1, kPortThere, NotLogged, kByCode},
+    {kIndicatorKey, kAvailable, DwordValue, 1, kPortThere, NotLogged, Documented},
 };
 constexpr Setting kVolumeRows[] = {
-    {kAuxiliaryKey, kAvailable,    DwordValue, 0, L"number of volume steps: 0 the volume cannot be set", NotLogged, kByCode, Saved},
-    {kAuxiliaryKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, kByCode},
+    {kAuxiliaryKey, kAvailable,    DwordValue, 0, L"number of volume steps: 0 the volume cannot be set", NotLogged, Documented, Saved},
+    {kAuxiliaryKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, Documented},
 };
 constexpr Setting kUpsRows[] = {
-    {kAuxiliaryKey, kAvailable,           DwordValue, 0, kPortThere, NotLogged, kByCode},
-    {kAuxiliaryKey, kNotAvailable,        DwordValue, 0, kPortMissing, NotLogged, kByCode, Saved},
-    {kAuxiliaryKey, L"WFS_SIU_ENGAGED",   DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kAuxiliaryKey, L"WFS_SIU_LOW",       DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kAuxiliaryKey, L"WFS_SIU_POWERING",  DwordValue, 0, kState, NotLogged, kByCode, Saved},
-    {kAuxiliaryKey, L"WFS_SIU_RECOVERED", DwordValue, 0, kState, NotLogged, kByCode, Saved},
+    {kAuxiliaryKey, kAvailable,           DwordValue, 0, kPortThere, NotLogged, Documented},
+    {kAuxiliaryKey, kNotAvailable,        DwordValue, 0, kPortMissing, NotLogged, Documented, Saved},
+    {kAuxiliaryKey, L"WFS_SIU_ENGAGED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kAuxiliaryKey, L"WFS_SIU_LOW",       DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kAuxiliaryKey, L"WFS_SIU_POWERING",  DwordValue, 0, kState, NotLogged, Documented, Saved},
+    {kAuxiliaryKey, L"WFS_SIU_RECOVERED", DwordValue, 0, kState, NotLogged, Documented, Saved},
 };
 constexpr Setting kPlainAuxiliaryRows[] = {
-    {kAuxiliaryKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, kByCode, Saved},
-    {kAuxiliaryKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, kByCode},
+    {kAuxiliaryKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, Documented, Saved},
+    {kAuxiliaryKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, Documented},
 };
 constexpr Setting kSavedGuidLightRows[] = {
-    {kGuidLightKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, kByCode, Saved},
+    {kGuidLightKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, Documented, Saved},
 };
 constexpr Setting kReadGuidLightRows[] = {
-    {kGuidLightKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, kByCode},
+    {kGuidLightKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, Documented},
 };
 constexpr Setting kKeyRows[] = {
-    {kKeyboardMapping, L"%d", StringValue, L"", L"what this key of the keyboard is mapped to", NotLogged, kByCode, Saved},
+    {kKeyboardMapping, L"%d", StringValue, L"", L"what this key of the keyboard is mapped to", NotLogged, Documented, Saved},
 };
 constexpr Setting kSensorFlagRows[] = {
-    {kAutoEnable, L"Sensor_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, kByCode, Saved},
+    {kAutoEnable, L"Sensor_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
 };
 constexpr Setting kDoorFlagRows[] = {
-    {kAutoEnable, L"Door_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, kByCode, Saved},
+    {kAutoEnable, L"Door_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
 };
 constexpr Setting kIndicatorFlagRows[] = {
-    {kAutoEnable, L"Indicator_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, kByCode, Saved},
+    {kAutoEnable, L"Indicator_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
 };
 constexpr Setting kAuxiliaryFlagRows[] = {
-    {kAutoEnable, L"Auxiliarie_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, kByCode, Saved},
+    {kAutoEnable, L"Auxiliarie_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
 };
 constexpr Setting kGuidLightFlagRows[] = {
-    {kAutoEnable, L"GuidLight_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, kByCode, Saved},
+    {kAutoEnable, L"GuidLight_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
 };
 
 constexpr Setting kSettings[] = {
-    {key::Capabilities, L"WFS_SIU_SENSORS", DwordValue, 0, L"the sensors are configured one by one: 0 there is none; nonzero read them", NotLogged, kByCode, Saved},
+    {key::Capabilities, L"WFS_SIU_SENSORS", DwordValue, 0, L"the sensors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
     Repeat(kOperatorSwitch, kOperatorSwitchRows),
     Repeat(kSavedSensors, kSavedSensorRows),
     Repeat(kReadSensors, kReadSensorRows),
-    {key::Capabilities, L"WFS_SIU_DOORS", DwordValue, 0, L"the doors are configured one by one: 0 there is none; nonzero read them", NotLogged, kByCode, Saved},
+    {key::Capabilities, L"WFS_SIU_DOORS", DwordValue, 0, L"the doors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
     Repeat(kBoltedDoors, kBoltedDoorRows),
     Repeat(kVandalShield, kVandalShieldRows),
-    {key::Capabilities, L"WFS_SIU_INDICATORS", DwordValue, 0, L"the indicators are configured one by one: 0 there is none; nonzero read them", NotLogged, kByCode, Saved},
+    {key::Capabilities, L"WFS_SIU_INDICATORS", DwordValue, 0, L"the indicators are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
     Repeat(kSavedIndicators, kSavedIndicatorRows),
     Repeat(kReadIndicators, kReadIndicatorRows),
     Repeat(kScreens, kScreenRows),
-    {key::Capabilities, L"WFS_SIU_AUXILIARIES", DwordValue, 0, L"the auxiliaries are configured one by one: 0 there is none; nonzero read them", NotLogged, kByCode, Saved},
+    {key::Capabilities, L"WFS_SIU_AUXILIARIES", DwordValue, 0, L"the auxiliaries are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
     Repeat(kVolume, kVolumeRows),
     Repeat(kUps, kUpsRows),
     Repeat(kPlainAuxiliaries, kPlainAuxiliaryRows),
-    {key::Capabilities, L"WFS_SIU_GUIDLIGHTS", DwordValue, 0, L"the guidance lights are configured one by one: 0 there is none; nonzero read them", NotLogged, kByCode, Saved},
+    {key::Capabilities, L"WFS_SIU_GUIDLIGHTS", DwordValue, 0, L"the guidance lights are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
     Repeat(kSavedGuidLights, kSavedGuidLightRows),
     Repeat(kReadGuidLights, kReadGuidLightRows),
     Repeat(1, 24, kKeyRows),
@@ -172,8 +170,8 @@ constexpr Setting kSettings[] = {
     Repeat(0, 15, kIndicatorFlagRows),
     Repeat(0, 15, kAuxiliaryFlagRows),
     Repeat(0, 15, kGuidLightFlagRows),
-    {key::Control, L"ThinkOfDevStatusWhenEnableEvents", &C::m_dwThinkOfDevStatusWhenEnableEvents, 0, L"WFS_CMD_SIU_ENABLE_EVENTS: 0 does not look at the device status; 1 does, and with a faulty device it succeeds and reports a WFS_EXEE_SIU_PORT_ERROR event", Saved, OneOf<0, 1>},
-    {kControl, L"HandsetSendEveWindowNames",        StringValue, L"", L"names of the windows to which a window event is sent when the shielding of the handset's 24 V supply changes, separated by commas", Format(L"[%s]"), Correct([](C& c, CString& strNames, bool) {
+    {key::Control, L"ThinkOfDevStatusWhenEnableEvents", &C::m_dwThinkOfDevStatusWhenEnableEvents, 0, L"WFS_CMD_SIU_ENABLE_EVENTS: 0 does not look at the device status; 1 does, and with a faulty device it succeeds and reports a WFS_EXEE_SIU_PORT_ERROR event", Saved, OneOf},
+    {kControl, L"HandsetSendEveWindowNames",        StringValue, L"", L"names of the windows to which a window event is sent when the shielding of the handset's 24 V supply changes, separated by commas", Format(L"[%s]"), Normalize([](C& c, CString& strNames, bool) {
         if (!strNames.IsEmpty()) {
             CString strList = strNames; // the line shows the text as it is
             strList.Remove(L' ');
@@ -184,7 +182,7 @@ constexpr Setting kSettings[] = {
     {kControl, L"EBphoneHangon",                    &C::m_dwEBphoneHangon,                    0x8001, L"window event identifier sent when the handset is picked up", Constructed(0)},
     {kControl, L"EBPhoneHangup",                    &C::m_dwEBPhoneHangup,                    0x8002, L"window event identifier sent when the handset is hung up", Constructed(0)},
     {kControl, L"EBPhoneError",                     &C::m_dwEBPhoneError,                     0x8002, L"window event identifier sent when the handset device fails", Constructed(0)},
-    {kControl, L"SetStatusNotAvailableWhenSetFail", &C::m_dwSetStatusNotAvailableWhenSetFail, 1,      L"after a failed set of a door, indicator, auxiliary or guidance light its status: 0 is left; 1 becomes WFS_SIU_NOT_AVAILABLE", Saved, OneOf<0, 1>},
+    {kControl, L"SetStatusNotAvailableWhenSetFail", &C::m_dwSetStatusNotAvailableWhenSetFail, 1,      L"after a failed set of a door, indicator, auxiliary or guidance light its status: 0 is left; 1 becomes WFS_SIU_NOT_AVAILABLE", Saved, OneOf},
 };
 // clang-format on
 constexpr const Setting* kAgentRow = FindRow(kSettings, L"CanpostKeyEvent");
@@ -372,7 +370,7 @@ bool CSIURegInfo::Load(CLog* pLog)
     if (!QueryValue(m_dwCanpostKeyEvent, L"CanpostKeyEvent", kAgentFormat, kDriverRoot)) {
         bResult = false;
     }
-    loading.Read({kAgentRow, 1});
+    loading.Read(Settings(), std::span<const Setting>{kAgentRow, 1});
     CMapStringToString mapEnabled;
     QueryValues(mapEnabled, kAutoEnableFormat, kDeviceRoot, GetExeDllMother(1, nullptr));
     for (const auto& [strValueName, strData] : mapEnabled) {
@@ -381,7 +379,7 @@ bool CSIURegInfo::Load(CLog* pLog)
             SetEnableStatus(strValueName, pLog);
         }
     }
-    loading.Read({kFirstControl, std::end(kSettings)});
+    loading.Read(Settings(), std::span<const Setting>{kFirstControl, std::end(kSettings)});
     return bResult;
 }
 

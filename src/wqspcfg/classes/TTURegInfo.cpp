@@ -61,10 +61,10 @@ constexpr Key kLed = key::Below(L"LED");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {kCommon,   L"DefaultCodec",         &C::m_dwDefaultCodec,        0,      L"encoding used by default: 0 none; 1 ASCII; 2 UNICODE", OneOf<0, 1, 2>},
+    {kCommon,   L"DefaultCodec",         &C::m_dwDefaultCodec,        0,      L"encoding used by default: 0 none; 1 ASCII; 2 UNICODE", OneOf},
     {kForm,     L"FormsDirectory",       &C::m_strFormsDirectory,     L"",    L"directory of the form files", Saved, KeepWhenMissing},
     {kForm,     L"FormsExtension",       &C::m_strFormsExtension,     L"",    L"file extension of the form files", Saved, KeepWhenMissing},
-    {kScreen,   L"BasePoint",            &C::m_strBasePoint,          L"0,0", L"coordinate base point of the screen, x and y separated by a comma, each 0 or 1", Saved, KeepWhenMissing, Correct([](C& c, CString& s, bool) { ParseBasePoint(c, s); })},
+    {kScreen,   L"BasePoint",            &C::m_strBasePoint,          L"0,0", L"coordinate base point of the screen, x and y separated by a comma, each 0 or 1", Saved, KeepWhenMissing, Normalize([](C& c, CString& s, bool) { ParseBasePoint(c, s); })},
     {kKeyboard, L"IsCKOnlyAllowed",      &C::m_bIsCKOnlyAllowed,      0,      L"activating only function keys is allowed: 0 no; nonzero yes", Saved, Label(L"CKOnlyAllowed"), LogHeld},
     {kKeyboard, L"ClearWhenUserCancel",  &C::m_bClearWhenUserCancel,  0,      L"Cancel clears the buffer of the read command and the display: 0 no; nonzero yes", Saved, LogHeld},
     {kKeyboard, L"AutoMultiZero",        &C::m_bAutoMultiZero,        0,      L"activating \"0\" also activates \"00\" and \"000\": 0 no; nonzero yes"},

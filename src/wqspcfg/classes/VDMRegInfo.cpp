@@ -25,7 +25,7 @@ constexpr Key kVda = key::Below(L"VDA");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {kVda, L"Path",                   &C::m_strPath,                 L"WQVDA.exe", L"path of the VDA process", Constructed(L""), Correct([](C& c, CString& s, bool b) { CompletePath(c, s, b); })},
+    {kVda, L"Path",                   &C::m_strPath,                 L"WQVDA.exe", L"path of the VDA process", Constructed(L""), Normalize([](C& c, CString& s, bool b) { CompletePath(c, s, b); })},
     {kVda, L"RegAppId",               &C::m_strRegAppId,             L"",          L"application ID the VDA registers with"},
     {kVda, L"BroardcastReqEvent2All", &C::m_bBroardcastReqEvent2All, 0,            L"request events are broadcast to all applications: 0 no; nonzero yes"},
     {kVda, L"MaxExitTime",            &C::m_dwMaxExitTime,           40,           L"longest time the VDA may take to exit, in seconds: 0 no limit"},

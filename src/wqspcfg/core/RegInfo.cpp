@@ -77,7 +77,7 @@ CString CRegInfo::m_strCapVendorDescKeyValue;
 
 const wqspcfg::Table& CRegInfo::Settings() noexcept
 {
-    static constexpr wqspcfg::Table kTable{L"CRegInfo", nullptr, L"", shared::kSettings, {}, shared::kOnRequest};
+    static constexpr wqspcfg::Table kTable{L"CRegInfo", nullptr, L"", shared::kSettings, {}, shared::kOperations};
     return kTable;
 }
 
@@ -117,7 +117,8 @@ bool CRegInfo::Load(CLog* pLog)
     }
     wqspcfg::Loading loading(*this, pLog);
     m_lpsPolicyGroup->DevBusy = 1;
-    loading.Read(shared::kPolicy);
+    const auto& table = Settings();
+    loading.Read(table, shared::kPolicy);
 
     GetSpSettingAppID();
     GetProductVersion();
@@ -127,40 +128,41 @@ bool CRegInfo::Load(CLog* pLog)
     GetVersion();
     GetCmdMap();
 
-    loading.Read({&shared::kFirstErrorInterval, 1});
+    loading.Read(table, shared::kFirstErrorInterval);
     m_dwFirstErrorIntervalTime *= 60;
 
-    loading.Read({&shared::kServer, 1});
+    loading.Read(table, shared::kServer);
     m_arOtherSideServerName.RemoveAll();
     CString strServers;
-    if (loading.Query(shared::kShareInfo, L"OtherSideServerName", strServers)) {
+    if (loading.Query(shared::kOtherSideServerName, strServers)) {
         CStringUtility::SplitString(m_arOtherSideServerName, strServers, L';');
     }
-    loading.Read({&shared::kExtraSepCharacter, 1});
+    loading.Read(table, shared::kExtraSepCharacter);
 
     if (pLog != nullptr) {
         ReportShared(loading);
     }
-    loading.Read({&shared::kIsDeleteSensetiveInfo, 1});
+    loading.Read(table, shared::kIsDeleteSensetiveInfo);
     return true;
 }
 
 void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
 {
     CLog* const pLog = loading.Log();
+    const auto& table = Settings();
     const auto& policy = *m_lpsPolicyGroup;
 
-    loading.Read(shared::kSetup);
-    const auto version = [&](const wqspcfg::Setting& row, LPCWSTR lpszBuild) {
+    loading.Read(table, shared::kSetup);
+    const auto version = [&](const wqspcfg::Setting& row, const wqspcfg::Setting& rowOfBuild) {
         CString strVersion;
         CString strBuild;
-        loading.Query(row.key, row.name, strVersion);
-        loading.Query(row.key, lpszBuild, strBuild);
+        loading.Query(row, strVersion);
+        loading.Query(rowOfBuild, strBuild);
         loading.Print(row, strVersion + L" " + strBuild);
     };
-    version(shared::kNewVersion, L"NewBuild");
-    version(shared::kOldVersion, L"OldBuild");
-    loading.Read(shared::kSetupRest);
+    version(shared::kNewVersion, shared::kNewBuild);
+    version(shared::kOldVersion, shared::kOldBuild);
+    loading.Read(table, shared::kSetupRest);
 
     for (const auto* row : shared::kPolicyLines) {
         if (row->type == wqspcfg::Type::String) {
@@ -178,26 +180,22 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
     }
     const CString strClass = GetClassNameW(nullptr);
     if (strClass.CompareNoCase(L"CDM") == 0 || strClass.CompareNoCase(L"CIM") == 0) {
-        loading.PrintHeld(*shared::kMediaDetectLine);
+        loading.PrintHeld(shared::kMediaDetectLine);
     }
 
     loading.Print(shared::kFirstErrorInterval, m_dwFirstErrorIntervalTime / 60);
 
-    loading.Read({&shared::kCheckLevel, 1});
-    CMapStringToString mapRules;
-    QueryValues(mapRules, L"%s%s\\CheckErrorHandler", kDeviceRoot, GetExeDllMother(1, nullptr));
-    for (const auto& [strRequest, strRules] : mapRules) {
-        wqspcfg::LogInfo(pLog, L"[CFG] %40s : %s[%s]", strRequest, strRules, shared::kCheckRule.meaning);
-    }
+    loading.Read(table, shared::kCheckLevel);
+    loading.Read(table, shared::kCheckRules);
 
     loading.PrintHeld(shared::kServer);
     loading.Print(shared::kOtherSideServerName, CStringUtility::CombineString(m_arOtherSideServerName, L';'));
-    loading.Read(shared::kStartInfo);
+    loading.Read(table, shared::kStartInfo);
     CString strBatFile;
-    if (loading.Query(wqspcfg::key::Device, L"ExtBatFileName", strBatFile) && !strBatFile.IsEmpty()) {
+    if (loading.Query(shared::kExtBatFileName, strBatFile) && !strBatFile.IsEmpty()) {
         loading.Print(shared::kExtBatFileName, strBatFile);
     }
-    loading.Read(shared::kIdle);
+    loading.Read(table, shared::kIdle);
     loading.PrintHeld(shared::kExtraSepCharacter);
 }
 
@@ -381,7 +379,7 @@ CString CRegInfo::GetSpSettingAppID() const
     QueryValue(m_strSpSettingAppID, shared::kAppID.name, L"%sWQCmnCfg\\SpSetting", kServiceRoot);
     m_strSpSettingAppID.Trim();
     if (m_strSpSettingAppID.IsEmpty()) {
-        m_strSpSettingAppID = shared::kAppID.fallback.text;
+        m_strSpSettingAppID = shared::kAppID.defaultValue.text;
     }
     return m_strSpSettingAppID;
 }
@@ -397,7 +395,7 @@ DWORD CRegInfo::GetOnlyOpenReSetTimeout() const
 {
     const std::lock_guard lock(CacheMutex());
     if (m_dwOnlyOpenReSetTimeout == kNotRead) {
-        m_dwOnlyOpenReSetTimeout = shared::kOnlyOpenAppend.fallback.number;
+        m_dwOnlyOpenReSetTimeout = shared::kOnlyOpenAppend.defaultValue.number;
         QueryValue(m_dwOnlyOpenReSetTimeout, shared::kOnlyOpenAppend.name, L"%s%s\\ReSetTimeout", kDeviceRoot,
                    GetExeDllMother(1, nullptr));
     }
@@ -494,19 +492,19 @@ CString CRegInfo::DescKey(CString& strCache, LPCWSTR lpszName, LPCWSTR lpszDefau
 CString CRegInfo::GetErrorCodeDescKey() const
 {
     return DescKey(m_strErrorCodeDescKey, shared::kErrorCodeDescKey.name.data(),
-                   shared::kErrorCodeDescKey.fallback.text);
+                   shared::kErrorCodeDescKey.defaultValue.text);
 }
 
 CString CRegInfo::GetCapVendorDescKey() const
 {
     return DescKey(m_strCapVendorDescKey, shared::kCapVendorDescKey.name.data(),
-                   shared::kCapVendorDescKey.fallback.text);
+                   shared::kCapVendorDescKey.defaultValue.text);
 }
 
 CString CRegInfo::GetCapVendorDescKeyValue() const
 {
     return DescKey(m_strCapVendorDescKeyValue, shared::kCapVendorDescKeyValue.name.data(),
-                   shared::kCapVendorDescKeyValue.fallback.text);
+                   shared::kCapVendorDescKeyValue.defaultValue.text);
 }
 
 WQSPCFG_CATALOGUE_ENTRY(CRegInfo)

@@ -6,13 +6,13 @@
 namespace wqspcfg::vtm {
 
 template <class C>
-inline constexpr auto kControlIndex = Correct([](C&, DWORD dwIndex, bool) -> DWORD {
+inline constexpr auto kControlIndex = Normalize([](C&, DWORD dwIndex, bool) -> DWORD {
     return dwIndex >= 16 ? 10 : dwIndex;
 });
 
 // An index out of range changes the control index instead; installed terminals rely on it.
 template <class C>
-inline constexpr auto kSafeDoorIndex = Correct([](C& c, DWORD dwIndex, bool) -> DWORD {
+inline constexpr auto kSafeDoorIndex = Normalize([](C& c, DWORD dwIndex, bool) -> DWORD {
     if (dwIndex >= 8) {
         c.m_dwVtmOutShtCtrlIndex = 5;
     }
@@ -20,7 +20,7 @@ inline constexpr auto kSafeDoorIndex = Correct([](C& c, DWORD dwIndex, bool) -> 
 });
 
 template <class C>
-inline constexpr auto kStatusIndex = Correct([](C&, DWORD dwIndex, bool) -> DWORD {
+inline constexpr auto kStatusIndex = Normalize([](C&, DWORD dwIndex, bool) -> DWORD {
     return dwIndex >= 8 ? 4 : dwIndex;
 });
 

@@ -38,8 +38,8 @@ std::string ToText(Type type, const DescribedValue& value)
 std::string AllowedText(const DescribedSetting& setting)
 {
     std::string text;
-    for (const auto value : setting.allowed) {
-        text += (text.empty() ? "" : ", ") + std::to_string(value);
+    for (const auto& choice : setting.allowed) {
+        text += (text.empty() ? "" : ", ") + std::to_string(choice.value);
     }
     if (setting.range) {
         text = std::to_string(setting.range->low) + " to " + std::to_string(setting.range->high);
@@ -51,7 +51,7 @@ std::string AllowedText(const DescribedSetting& setting)
 std::vector<DescribedSetting> AllSettings(const Table& table)
 {
     auto settings = Describe(table);
-    for (auto& setting : DescribeOnRequest(table)) {
+    for (auto& setting : DescribeOperations(table)) {
         settings.push_back(std::move(setting));
     }
     return settings;
@@ -70,7 +70,7 @@ std::string SavedText(const DescribedSetting& setting)
 
 std::string DefaultText(const DescribedSetting& setting)
 {
-    auto text = ToText(setting.type, setting.fallback);
+    auto text = ToText(setting.type, setting.defaultValue);
     if (setting.constructed) {
         text += " (constructed " + ToText(setting.type, *setting.constructed) + ")";
     }
@@ -78,10 +78,10 @@ std::string DefaultText(const DescribedSetting& setting)
 }
 
 // The key as a person would look for it: below the device key by its subkey, elsewhere by its root.
-std::string KeyText(const DescribedSetting& setting)
+std::string KeyText(Root root, std::wstring_view subkey)
 {
-    auto key = Utf8(setting.key);
-    switch (setting.root) {
+    auto key = Utf8(subkey);
+    switch (root) {
     case Root::Device:
         return key.empty() ? "(device key)" : key;
     case Root::Service:
@@ -96,6 +96,87 @@ std::string KeyText(const DescribedSetting& setting)
     return key;
 }
 
+const char* NameOf(Reference reference) noexcept
+{
+    switch (reference) {
+    case Reference::SerialPort:
+        return "serialPort";
+    case Reference::LogicalService:
+        return "logicalService";
+    case Reference::File:
+        return "file";
+    case Reference::Directory:
+        return "directory";
+    case Reference::Command:
+        return "command";
+    case Reference::None:
+        break;
+    }
+    return "";
+}
+
+// What a person should know of a setting besides its columns.
+std::vector<std::string> Remarks(const DescribedSetting& setting)
+{
+    std::vector<std::string> remarks;
+    const auto remark = [&](bool applies, std::string text) {
+        if (applies) {
+            remarks.push_back(std::move(text));
+        }
+    };
+    if (setting.fallback) {
+        const auto& place = *setting.fallback;
+        remark(true, "else from " + KeyText(place.root, place.key) +
+                         (place.name == setting.name ? "" : " : " + Utf8(place.name)));
+    }
+    remark(setting.secret, "secret");
+    remark(setting.wholeKey && setting.name == L"%s", "every value of the key");
+    remark(setting.computed, "computed, never in the registry");
+    remark(setting.keptWhenMissing, "kept when missing");
+    remark(setting.required, "an error line when missing");
+    remark(setting.corrected, "may be corrected");
+    remark(setting.conditional, "conditional");
+    remark(!setting.label.empty(), "logged as " + Utf8(setting.label));
+    remark(!setting.emptySavedAs.empty(), "saved as \"" + Utf8(setting.emptySavedAs) + "\" when empty");
+    remark(!setting.readBy.empty(), "read by " + Utf8(setting.readBy));
+    return remarks;
+}
+
+std::string RemarkText(const DescribedSetting& setting)
+{
+    std::string text;
+    for (const auto& remark : Remarks(setting)) {
+        text += (text.empty() ? " (" : "; ") + remark;
+    }
+    return text.empty() ? text : text + ')';
+}
+
+void AddRemarks(const DescribedSetting& setting, ordered_json& row)
+{
+    if (setting.fallback) {
+        row["fallback"] = {{"root", NameOf(setting.fallback->root)},
+                           {"key", Utf8(setting.fallback->key)},
+                           {"value", Utf8(setting.fallback->name)}};
+    }
+    const auto flag = [&](bool applies, const char* name) {
+        if (applies) {
+            row[name] = true;
+        }
+    };
+    flag(setting.keptWhenMissing, "keptWhenMissing");
+    flag(setting.required, "required");
+    flag(setting.corrected, "corrected");
+    flag(setting.computed, "computed");
+    flag(setting.conditional, "condition");
+    flag(setting.wholeKey, "map");
+    if (!setting.emptySavedAs.empty()) {
+        row["emptySavedAs"] = Utf8(setting.emptySavedAs);
+    }
+    if (setting.refersTo != Reference::None) {
+        row["refersTo"] = NameOf(setting.refersTo);
+    }
+}
+
 ordered_json ToJson(const ClassEntry& entry)
 {
     const auto& table = entry.table();
@@ -104,6 +185,12 @@ ordered_json ToJson(const ClassEntry& entry)
     out["class"] = Utf8(table.className);
     out["base"] = table.base != nullptr ? ordered_json(Utf8(table.base().className)) : ordered_json(nullptr);
     out["deviceClass"] = deviceClass != nullptr ? ordered_json(Utf8(deviceClass)) : ordered_json(nullptr);
+    if (table.mixin != nullptr) {
+        out["mixins"] = {Utf8(table.mixin().className)};
+    }
+    if (!table.savesBase) {
+        out["notSavedByModel"] = true;
+    }
     auto settings = ordered_json::array();
     for (const auto& setting : AllSettings(table)) {
         ordered_json row;
@@ -111,7 +198,7 @@ ordered_json ToJson(const ClassEntry& entry)
         row["key"] = Utf8(setting.key);
         row["value"] = Utf8(setting.name);
         row["type"] = NameOf(setting.type);
-        row["default"] = ToJson(setting.type, setting.fallback);
+        row["default"] = ToJson(setting.type, setting.defaultValue);
         if (setting.constructed) {
             row["constructed"] = ToJson(setting.type, *setting.constructed);
         }
@@ -119,7 +206,10 @@ ordered_json ToJson(const ClassEntry& entry)
             row["label"] = Utf8(setting.label);
         }
         if (!setting.allowed.empty()) {
-            row["allowed"] = std::vector<DWORD>(setting.allowed.begin(), setting.allowed.end());
+            for (const auto& choice : setting.allowed) {
+                row["allowed"].push_back(choice.value);
+                row["words"].push_back(Utf8(choice.word));
+            }
         }
         if (setting.range) {
             row["range"] = {setting.range->low, setting.range->high};
@@ -137,6 +227,7 @@ ordered_json ToJson(const ClassEntry& entry)
         if (setting.secret) {
             row["secret"] = true;
         }
+        AddRemarks(setting, row);
         row["meaning"] = Utf8(setting.meaning);
         settings.push_back(std::move(row));
     }
@@ -152,27 +243,27 @@ void WriteText(const ClassEntry& entry, std::ostream& out)
     if (table.base != nullptr) {
         out << ", derived from " << Utf8(table.base().className);
     }
+    if (table.mixin != nullptr) {
+        out << " and " << Utf8(table.mixin().className);
+    }
     if (deviceClass != nullptr) {
         out << ", device class " << Utf8(deviceClass);
     }
     out << '\n';
     for (const auto& setting : AllSettings(table)) {
-        out << "  " << KeyText(setting) << " : " << Utf8(setting.name) << "\n      " << NameOf(setting.type)
-            << ", default " << DefaultText(setting);
+        out << "  " << KeyText(setting.root, setting.key) << " : " << Utf8(setting.name) << "\n      "
+            << NameOf(setting.type) << ", default " << DefaultText(setting);
         if (const auto allowed = AllowedText(setting); !allowed.empty()) {
             out << ", allowed " << allowed;
         }
         if (setting.saved) {
             out << (setting.savedName.empty() ? ", saved" : ", saved as " + Utf8(setting.savedName));
         }
-        if (!setting.readBy.empty()) {
-            out << ", read by " << Utf8(setting.readBy);
-        }
         if (!setting.writtenBy.empty()) {
             out << ", written by " << Utf8(setting.writtenBy);
         }
-        if (setting.secret) {
-            out << ", secret";
+        for (const auto& remark : Remarks(setting)) {
+            out << ", " << remark;
         }
         out << "\n      " << Utf8(setting.meaning) << '\n';
     }
@@ -207,7 +298,12 @@ void WriteMarkdown(const ClassEntry& entry, std::ostream& out)
     const auto* deviceClass = DeviceClassOf(table);
     out << "## " << Utf8(table.className) << "\n\n";
     if (table.base != nullptr) {
-        out << "Derived from `" << Utf8(table.base().className) << "`, whose settings it has too.";
+        out << "Derived from `" << Utf8(table.base().className);
+        if (table.mixin != nullptr) {
+            out << "` and `" << Utf8(table.mixin().className);
+        }
+        out << "`, whose settings it has too"
+            << (table.savesBase ? "." : "; its `Save` writes only what is saved of its own.");
         if (deviceClass != nullptr) {
             out << " Device class " << Utf8(deviceClass) << '.';
         }
@@ -221,10 +317,9 @@ void WriteMarkdown(const ClassEntry& entry, std::ostream& out)
     out << "| Key | Value | Type | Default | Allowed | Saved | Meaning |\n"
            "| --- | --- | --- | --- | --- | --- | --- |\n";
     for (const auto& setting : settings) {
-        out << "| " << Code(KeyText(setting)) << " | " << Code(Utf8(setting.name)) << " | " << NameOf(setting.type)
-            << " | " << Cell(DefaultText(setting)) << " | " << AllowedText(setting) << " | " << SavedText(setting)
-            << " | " << Cell(Utf8(setting.meaning)) << (setting.secret ? " (secret)" : "")
-            << (setting.readBy.empty() ? "" : " (read by `" + Utf8(setting.readBy) + "`)") << " |\n";
+        out << "| " << Code(KeyText(setting.root, setting.key)) << " | " << Code(Utf8(setting.name)) << " | "
+            << NameOf(setting.type) << " | " << Cell(DefaultText(setting)) << " | " << AllowedText(setting) << " | "
+            << SavedText(setting) << " | " << Cell(Utf8(setting.meaning) + RemarkText(setting)) << " |\n";
     }
     out << '\n';
 }
@@ -244,8 +339,8 @@ std::string Page(const std::string& title, const std::string& introduction, std:
 constexpr char kKeys[] =
     "A key is the subkey of the device key, `HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\` and the device key name, where "
     "nothing else is said; `WQCmnCfg` and the service keys lie in `HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS`. The "
-    "settings stand in the order in which they are read; those that an operation of the class reads or writes in its "
-    "own right name it and stand last. This page is generated: `cmake --build --preset release "
+    "settings stand in the order in which they are read; settings used by one operation come last and name it. "
+    "This page is generated: `cmake --build --preset release "
     "--target reference_docs`.";
 
 } // namespace

@@ -1,27 +1,13 @@
 #include "wqspcfg/core/settings/Reference.h"
 
 #include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/core/settings/Walk.h"
 
 namespace wqspcfg {
 
 namespace {
 
-struct Turn
-{
-    const wchar_t* name;
-    unsigned number;
-    unsigned index;
-};
-
-std::wstring ForTurn(const wchar_t* text, const Turn* turn)
-{
-    if (turn == nullptr) {
-        return text;
-    }
-    return turn->name != nullptr ? FormatString(text, turn->name) : FormatString(text, turn->number);
-}
-
-DescribedValue Describe(Type type, const Value& value)
+DescribedValue DescribeValue(Type type, const Value& value)
 {
     switch (type) {
     case Type::String:
@@ -37,69 +23,112 @@ DescribedValue Describe(Type type, const Value& value)
     return {value.number, {}};
 }
 
-DescribedSetting Describe(const Setting& row, const Turn* turn, bool conditional)
+std::wstring WithoutEndingBackslash(std::wstring key)
 {
-    DescribedSetting described;
-    described.root = row.key.root;
-    described.key = ForTurn(row.key.subkey, turn);
-    while (described.key.ends_with(L'\\')) {
-        described.key.pop_back();
+    while (key.ends_with(L'\\')) {
+        key.pop_back();
     }
-    described.name = ForTurn(row.name.data(), turn);
-    described.type = row.type;
-    Value fallback = row.fallback;
-    if (row.perTurn != nullptr && turn != nullptr) {
-        fallback.number = row.perTurn[turn->index];
+    return key;
+}
+
+void DescribeDefaults(const Setting& row, const Iteration* iteration, DescribedSetting& described)
+{
+    Value value = row.defaultValue;
+    if (row.perIteration != nullptr && iteration != nullptr) {
+        value.number = row.perIteration[iteration->index];
     }
     // A missing value that is not given a default leaves what the constructor set.
-    if (row.keep && row.hasConstructed) {
-        fallback = row.constructed;
+    if (described.keptWhenMissing && row.hasConstructed) {
+        value = row.constructed;
     }
-    described.fallback = Describe(row.type, fallback);
-    if (row.hasConstructed && row.bound && !row.preloaded) {
-        auto constructed = Describe(row.type, row.constructed);
-        if (constructed != described.fallback) {
+    described.defaultValue = DescribeValue(row.type, value);
+    if (row.hasConstructed && row.bound && !row.Has(Flags::Preloaded)) {
+        auto constructed = DescribeValue(row.type, row.constructed);
+        if (constructed != described.defaultValue) {
             described.constructed = std::move(constructed);
         }
     }
-    auto label = row.label != nullptr ? ForTurn(row.label, turn) : described.name;
-    if (row.qualifiedLabel) {
+}
+
+DescribedSetting DescribeRow(const Setting& row, const Iteration* iteration)
+{
+    DescribedSetting described;
+    described.root = row.key.root;
+    described.key = WithoutEndingBackslash(ForIteration(row.key.subkey, iteration));
+    described.wholeKey = row.kind == Kind::WholeKey;
+    described.name = described.wholeKey ? std::wstring(row.name) : ForIteration(row.name.data(), iteration);
+    described.type = row.type;
+    described.keptWhenMissing = row.Has(Flags::KeepWhenMissing);
+    DescribeDefaults(row, iteration, described);
+    auto label = row.label != nullptr ? ForIteration(row.label, iteration) : described.name;
+    if (row.Has(Flags::QualifiedLabel)) {
         label = described.key + L'\\' + label;
     }
     if (label != described.name) {
         described.label = std::move(label);
     }
-    described.allowed = {row.allowed, row.allowedCount};
+    if (row.Has(Flags::OneOf)) {
+        ForEachChoice(row.meaning, [&](DWORD value, std::wstring_view word) {
+            described.allowed.push_back({value, word});
+        });
+    }
     if (row.hasRange) {
         described.range = {row.low, row.high};
     }
     described.meaning = row.meaning;
     described.saved = row.saved;
     if (row.savedName != nullptr) {
-        described.savedName = ForTurn(row.savedName, turn);
+        described.savedName = ForIteration(row.savedName, iteration);
     }
-    described.secret = row.secret;
+    if (row.emptySavedAs != nullptr) {
+        described.emptySavedAs = row.emptySavedAs;
+    }
+    if (row.fallbackSubkey != nullptr) {
+        described.fallback = {row.fallbackRoot, WithoutEndingBackslash(ForIteration(row.fallbackSubkey, iteration)),
+                              row.fallbackName != nullptr ? row.fallbackName : described.name};
+    }
+    described.secret = row.Has(Flags::Secret);
+    described.required = row.requiredLine != 0;
+    described.corrected = row.normalize != nullptr || row.normalizeText != nullptr;
+    described.computed = row.Has(Flags::Computed);
+    described.refersTo = row.reference;
     described.row = &row;
-    described.turn = turn != nullptr ? turn->index : 0;
-    described.conditional = conditional;
+    described.iteration = iteration != nullptr ? iteration->index : 0;
     return described;
 }
 
-void Append(std::span<const Setting> rows, const Turn* turn, bool conditional, std::vector<DescribedSetting>& out)
+void AppendRow(const Setting& row, const Iteration* iteration, std::vector<DescribedSetting>& out)
+{
+    if (row.kind == Kind::Step) {
+        return;
+    }
+    auto described = DescribeRow(row, iteration);
+    for (const auto& entry : row.entries) {
+        auto each = described;
+        each.name = entry.name;
+        each.label.clear();
+        each.defaultValue = {0, entry.text};
+        out.push_back(std::move(each));
+    }
+    if (row.entries.empty()) {
+        out.push_back(std::move(described));
+    }
+}
+
+void Append(std::span<const Setting> rows, std::vector<DescribedSetting>& out, bool conditional = false)
 {
     for (const auto& row : rows) {
-        if (row.rows != nullptr) {
-            const std::span<const Setting> group{row.rows, row.rowCount};
-            if (row.condition != nullptr) {
-                Append(group, turn, true, out);
-                continue;
-            }
-            for (unsigned i = 0; i < row.turns; ++i) {
-                const Turn each{row.turnNames != nullptr ? row.turnNames[i] : nullptr, row.turnFirst + i, i};
-                Append(group, &each, conditional, out);
-            }
-        } else if (row.type != Type::None) {
-            out.push_back(Describe(row, turn, conditional));
+        const auto first = out.size();
+        if (row.kind == Kind::Group) {
+            Append(row.rows, out, conditional || row.condition != nullptr);
+            continue;
+        }
+        Walk(std::span(&row, 1), nullptr, EnterAll, [&](const Setting& each, const Iteration* iteration) {
+            AppendRow(each, iteration, out);
+            return true;
+        });
+        for (auto i = first; i < out.size(); ++i) {
+            out[i].conditional = conditional;
         }
     }
 }
@@ -109,16 +138,16 @@ void Append(std::span<const Setting> rows, const Turn* turn, bool conditional, s
 std::vector<DescribedSetting> Describe(const Table& table)
 {
     std::vector<DescribedSetting> out;
-    Append(table.rows, nullptr, false, out);
+    Append(table.rows, out);
     return out;
 }
 
-std::vector<DescribedSetting> DescribeOnRequest(const Table& table)
+std::vector<DescribedSetting> DescribeOperations(const Table& table)
 {
     std::vector<DescribedSetting> out;
-    for (const auto& group : table.onRequest) {
+    for (const auto& group : table.operations) {
         const auto first = out.size();
-        Append(group.rows, nullptr, false, out);
+        Append(group.rows, out);
         for (auto i = first; i < out.size(); ++i) {
             out[i].readBy = group.readBy;
             out[i].writtenBy = group.writtenBy;

@@ -24,33 +24,54 @@ struct DescribedRange
     DWORD high;
 };
 
+struct DescribedChoice
+{
+    DWORD value;
+    std::wstring_view word; // empty where the meaning has none
+};
+
+struct DescribedPlace
+{
+    Root root = Root::Device;
+    std::wstring key; // below the root, without a backslash at its end
+    std::wstring name;
+};
+
 struct DescribedSetting
 {
     Root root = Root::Device;
     std::wstring key;  // below the root, without a backslash at its end
-    std::wstring name; // the value name
+    std::wstring name; // the value name; "%s" where a whole key is read and any name counts
     Type type = Type::Dword;
-    DescribedValue fallback;                   // what Load applies to a missing value
-    std::optional<DescribedValue> constructed; // where it differs from the fallback
+    DescribedValue defaultValue;               // what Load applies to a missing value
+    std::optional<DescribedValue> constructed; // where it differs from the default
     std::wstring label;                        // where it differs from the value name
-    std::span<const DWORD> allowed;
+    std::vector<DescribedChoice> allowed;
     std::optional<DescribedRange> range;
     std::wstring_view meaning;
     bool saved = false;
-    std::wstring savedName; // where it differs from the value name
+    std::wstring savedName;                 // where it differs from the value name
+    std::wstring_view emptySavedAs;         // what Save writes in place of an empty text
+    std::optional<DescribedPlace> fallback; // asked when the setting's own key does not hold the value
     bool secret = false;
-
-    const Setting* row = nullptr;
+    bool keptWhenMissing = false; // a missing value leaves the member as it was
+    bool required = false;        // a missing value is reported with an error line
+    bool corrected = false;       // the class may replace what is stored
+    bool computed = false;        // made by the class, and never in the registry
+    bool wholeKey = false;        // every value of the key is read
+    bool conditional = false;     // stands in a group that a Load may skip
+    Reference refersTo = Reference::None;
     std::wstring_view readBy;    // the operation that reads it in place of Load
     std::wstring_view writtenBy; // the operation that writes it in place of Save
-    unsigned turn = 0;           // the index to give to the row's member or accessor
-    bool conditional = false;    // stands in a group that a Load may skip
+
+    const Setting* row = nullptr;
+    unsigned iteration = 0; // the index to give to the row's member or accessor
 };
 
 // The table's own settings in the order of loading.
 WQSPCFG_API std::vector<DescribedSetting> Describe(const Table& table);
-// Those that operations of the class read or write in their own right.
-WQSPCFG_API std::vector<DescribedSetting> DescribeOnRequest(const Table& table);
+// Those that one operation of the class reads or writes.
+WQSPCFG_API std::vector<DescribedSetting> DescribeOperations(const Table& table);
 
 // "dword", "flag", "string" or "char".
 WQSPCFG_API const char* NameOf(Type type) noexcept;

@@ -1,28 +1,30 @@
 #include "wqspcfg/core/settings/Settings.h"
 
 #include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/core/settings/Walk.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
+#include "wqspcfg/platform/text/Utf.h"
+
+#include <utility>
 
 namespace wqspcfg {
 
 namespace {
 
 thread_local Loading* t_loading = nullptr;
+thread_local LoadObserver* t_observer = nullptr;
 
-constexpr unsigned kNoTurn = 0xFFFFFFFF; // a row outside Repeat
-
-// The path of a key as its formats and arguments make it.
-void AppendPath(std::wstring& path, Key key, std::wstring_view device, std::wstring_view service,
-                std::wstring_view logical)
+void AppendPath(std::wstring& path, Root root, std::wstring_view subkey, std::wstring_view device,
+                std::wstring_view service, std::wstring_view logical)
 {
-    const auto below = [&](std::wstring_view root, std::wstring_view name) {
-        path += root;
+    const auto below = [&](std::wstring_view above, std::wstring_view name) {
+        path += above;
         path += name;
-        if (*key.subkey != 0) {
+        if (!subkey.empty()) {
             path += L'\\';
         }
     };
-    switch (key.root) {
+    switch (root) {
     case Root::Device:
         below(kDeviceRoot, device);
         break;
@@ -39,24 +41,19 @@ void AppendPath(std::wstring& path, Key key, std::wstring_view device, std::wstr
     case Root::Absolute:
         break;
     }
-    path += key.subkey;
+    path += subkey;
 }
 
-// Fills the one conversion that a text of a repeated row may hold.
-std::wstring ForTurn(const wchar_t* text, const wchar_t* turnName, unsigned turnNumber)
+unsigned IndexOf(const Iteration* iteration)
 {
-    if (turnName == nullptr) {
-        return FormatString(text, turnNumber);
-    }
-    // A slot letter may stand for %c as well as for %s; both print the whole name.
-    return FormatString(text, turnName);
+    return iteration != nullptr ? iteration->index : 0;
 }
 
 template <class T>
-T& MemberOf(const Setting& row, CRegKeyEx& object, unsigned turn)
+T& MemberOf(const Setting& row, CRegKeyEx& object, unsigned index)
 {
     if (row.locate != nullptr) {
-        return *static_cast<T*>(row.locate(object, turn));
+        return *static_cast<T*>(row.locate(object, index));
     }
     if constexpr (std::is_same_v<T, DWORD>) {
         return object.*row.member.dword;
@@ -69,51 +66,72 @@ T& MemberOf(const Setting& row, CRegKeyEx& object, unsigned turn)
     }
 }
 
-void SetMember(const Setting& row, CRegKeyEx& object, unsigned turn, const Value& value)
-{
-    switch (row.type) {
-    case Type::Dword:
-        MemberOf<DWORD>(row, object, turn) = value.number;
-        break;
-    case Type::Flag:
-        MemberOf<bool>(row, object, turn) = value.number != 0;
-        break;
-    case Type::String:
-        MemberOf<CString>(row, object, turn) = value.text;
-        break;
-    case Type::Char:
-        MemberOf<wchar_t>(row, object, turn) = value.text[0];
-        break;
-    case Type::None:
-        break;
-    }
-}
-
 // A character as text; none (NUL) is an empty text, in the registry and in a line, which it would cut short.
 CString TextOf(wchar_t character)
 {
     return character != 0 ? CString(character) : CString();
 }
 
-DWORD DefaultNumber(const Setting& row, unsigned turn)
+bool IsNumber(const Setting& row)
 {
-    return row.perTurn ? row.perTurn[turn] : row.fallback.number;
+    return row.type == Type::Dword || row.type == Type::Flag;
 }
 
-void ConstructRows(CRegKeyEx& object, std::span<const Setting> rows, unsigned turn)
+// What a setting holds, as a number (DWORD) or a text (CString).
+template <class T>
+T HeldOf(const Setting& row, CRegKeyEx& object, unsigned index)
 {
-    for (const auto& row : rows) {
-        if (row.rows != nullptr) {
-            for (unsigned i = 0; i < row.turns; ++i) {
-                ConstructRows(object, {row.rows, row.rowCount}, row.turns > 1 ? i : turn);
-            }
-        } else if (row.bound && !row.preloaded) {
-            auto value = row.hasConstructed ? row.constructed : row.fallback;
-            if (row.perTurn != nullptr && !row.hasConstructed) {
-                value.number = row.perTurn[turn];
-            }
-            SetMember(row, object, turn, value);
-        }
+    if constexpr (std::is_same_v<T, DWORD>) {
+        return row.type == Type::Flag ? MemberOf<bool>(row, object, index) : MemberOf<DWORD>(row, object, index);
+    } else {
+        return row.type == Type::Char ? TextOf(MemberOf<wchar_t>(row, object, index))
+                                      : MemberOf<CString>(row, object, index);
+    }
+}
+
+void Hold(const Setting& row, CRegKeyEx& object, unsigned index, DWORD value)
+{
+    if (row.type == Type::Flag) {
+        MemberOf<bool>(row, object, index) = value != 0;
+    } else {
+        MemberOf<DWORD>(row, object, index) = value;
+    }
+}
+
+void Hold(const Setting& row, CRegKeyEx& object, unsigned index, CString value)
+{
+    if (row.type == Type::Char) {
+        MemberOf<wchar_t>(row, object, index) = value.IsEmpty() ? L'\0' : value[0];
+    } else {
+        MemberOf<CString>(row, object, index) = std::move(value);
+    }
+}
+
+// A setting's default or what its constructor sets.
+template <class T>
+T FromValue(const Setting& row, const Value& value, unsigned index)
+{
+    if constexpr (std::is_same_v<T, DWORD>) {
+        return row.perIteration != nullptr ? row.perIteration[index] : value.number;
+    } else {
+        return value.text;
+    }
+}
+
+void Correct(const Setting& row, CRegKeyEx& object, DWORD& value, bool found)
+{
+    if (row.normalize != nullptr) {
+        value = row.normalize(object, value, found);
+    }
+}
+
+void Correct(const Setting& row, CRegKeyEx& object, CString& value, bool found)
+{
+    if (row.normalizeText != nullptr) {
+        row.normalizeText(object, value, found);
+    }
+    if (row.type == Type::Char) {
+        value = value.Left(1);
     }
 }
 
@@ -121,318 +139,394 @@ void ConstructRows(CRegKeyEx& object, std::span<const Setting> rows, unsigned tu
 
 void Construct(CRegKeyEx& object, std::span<const Setting> rows)
 {
-    ConstructRows(object, rows, 0);
-}
-
-// ---- Loading ----
-
-Loading::Loading(CRegInfo& object, CLog* pLog)
-    : m_object(object), m_log(pLog), m_outer(t_loading), m_serviceName(object.m_strPhysicalName),
-      m_logicalName(object.m_strLogicalName)
-{
-    m_deviceKeyName = object.GetExeDllMother(1, nullptr); // a class's Load calls its base's, which have it in common
-    t_loading = this;
-}
-
-const CString* Loading::DeviceKeyNameOf(const CRegKeyEx& object) noexcept
-{
-    return t_loading != nullptr && &t_loading->m_object == &object ? &t_loading->m_deviceKeyName : nullptr;
-}
-
-Loading::Loading(CRegKeyEx& object, const CString& strDeviceKeyName, CLog* pLog)
-    : m_object(object), m_log(pLog), m_outer(t_loading), m_deviceKeyName(strDeviceKeyName)
-{
-    t_loading = this;
-}
-
-Loading::~Loading()
-{
-    t_loading = m_outer;
-    if (m_outer == nullptr && m_log != nullptr && m_scope->Failure()) {
-        m_log->Error(kLogCategory, L"<%s(%d) : %s> The store failed while the configuration was loaded : %s",
-                     L"core/settings/Settings.cpp", __LINE__, L"wqspcfg::Loading", m_scope->Failure().message);
-    }
-}
-
-bool Loading::Read(const Table& table)
-{
-    m_table = &table;
-    return ReadRows(table.rows, nullptr);
-}
-
-bool Loading::Read(std::span<const Setting> rows)
-{
-    return ReadRows(rows, nullptr);
-}
-
-bool Loading::ReadRows(std::span<const Setting> rows, const Turn* turn)
-{
-    for (const auto& row : rows) {
-        if (row.rows != nullptr) {
-            if (row.condition != nullptr && !row.condition(m_object)) {
-                continue;
-            }
-            const std::span<const Setting> group{row.rows, row.rowCount};
-            if (row.condition != nullptr) {
-                if (!ReadRows(group, turn)) {
-                    return false;
-                }
-                continue;
-            }
-            for (unsigned i = 0; i < row.turns; ++i) {
-                const Turn each{row.turnNames ? row.turnNames[i] : nullptr, row.turnFirst + i, i};
-                m_lastTurn = nullptr;
-                m_lastKey.subkey = nullptr;
-                const bool done = ReadRows(group, &each);
-                m_lastKey.subkey = nullptr;
-                if (!done) {
-                    return false;
-                }
-            }
-        } else if (row.step != nullptr && row.type == Type::None) {
-            if (!row.step(m_object, *this)) {
-                return false;
-            }
-        } else {
-            ReadRow(row, turn);
-        }
-    }
-    return true;
-}
-
-void Loading::ReadRow(const Setting& row, const Turn* turn)
-{
-    const unsigned index = turn != nullptr ? turn->index : 0;
-    if (row.step != nullptr) {
-        row.step(m_object, *this);
-        if (!row.bound) {
-            return;
-        }
-    }
-    const bool given = row.preloaded || row.step != nullptr;
-    if (row.type == Type::Dword || row.type == Type::Flag) {
-        DWORD number = DefaultNumber(row, index);
-        if (row.bound && (row.keep || given)) {
-            number =
-                row.type == Type::Flag ? MemberOf<bool>(row, m_object, index) : MemberOf<DWORD>(row, m_object, index);
-        }
-        bool found = false;
-        if (!given) {
-            // Hooks and other members may look at this one while it is corrected.
-            if (row.bound && row.type == Type::Dword) {
-                MemberOf<DWORD>(row, m_object, index) = number;
-            }
-            found = Find(row, turn, number);
-            if (!found && row.requiredLine != 0) {
-                PrintMissing(row, turn);
-            }
-        }
-        if (row.correct != nullptr) {
-            number = row.correct(m_object, number, found);
-        }
-        DWORD held = number;
-        if (row.type == Type::Flag || row.asSwitch) {
-            held = number != 0 ? 1 : 0;
-        }
-        if (row.bound && !given) {
-            if (row.type == Type::Flag) {
-                MemberOf<bool>(row, m_object, index) = held != 0;
+    Walk(rows, nullptr, EnterAll, [&](const Setting& row, const Iteration* iteration) {
+        if (row.kind == Kind::Value && row.bound && !row.Has(Flags::Preloaded)) {
+            const auto index = IndexOf(iteration);
+            const auto& value = row.hasConstructed ? row.constructed : row.defaultValue;
+            if (IsNumber(row)) {
+                Hold(row, object, index, row.hasConstructed ? value.number : FromValue<DWORD>(row, value, index));
             } else {
-                MemberOf<DWORD>(row, m_object, index) = held;
+                Hold(row, object, index, FromValue<CString>(row, value, index));
             }
         }
-        if (row.logged && m_log != nullptr) {
-            DWORD shown = row.logHeld ? held : number;
-            if (row.logAs != nullptr) {
-                shown = row.logAs(m_object, shown);
-            }
-            PrintRow(row, turn, shown);
-        }
-        return;
-    }
-    CString text(row.fallback.text);
-    if (row.bound && (row.keep || given)) {
-        text = row.type == Type::Char ? TextOf(MemberOf<wchar_t>(row, m_object, index))
-                                      : MemberOf<CString>(row, m_object, index);
-    }
-    if (!given) {
-        const bool found = Find(row, turn, text);
-        if (!found && row.requiredLine != 0) {
-            PrintMissing(row, turn);
-        }
-        if (row.correctText != nullptr) {
-            row.correctText(m_object, text, found);
-        }
-    }
-    if (row.type == Type::Char) {
-        const wchar_t first = text.IsEmpty() ? L'\0' : text[0];
-        if (row.bound && !given) {
-            MemberOf<wchar_t>(row, m_object, index) = first;
-        }
-        if (row.logged && m_log != nullptr) {
-            PrintRow(row, turn, TextOf(first));
-        }
-        return;
-    }
-    if (row.logged && m_log != nullptr) {
-        PrintRow(row, turn, text);
-    }
-    if (row.bound && !given) {
-        MemberOf<CString>(row, m_object, index) = std::move(text);
-    }
+        return true;
+    });
 }
 
-Session::Key Loading::Open(Key key, const Turn* turn)
+std::wstring ForIteration(const wchar_t* text, const Iteration* iteration)
 {
-    if (key.subkey == m_lastKey.subkey && key.root == m_lastKey.root && turn == m_lastTurn) {
-        return m_lastOpened;
+    if (iteration == nullptr) {
+        return text;
     }
-    m_text.clear();
-    if (turn != nullptr) {
-        const auto subkey = ForTurn(key.subkey, turn->name, turn->number);
-        AppendPath(m_text, {key.root, subkey.c_str()}, m_deviceKeyName.View(), m_serviceName.View(),
+    return iteration->name != nullptr ? FormatString(text, iteration->name) : FormatString(text, iteration->number);
+}
+
+ObserveLoads::ObserveLoads(LoadObserver& observer) noexcept : m_outer(std::exchange(t_observer, &observer))
+{
+    ObserveReads(&observer);
+}
+
+ObserveLoads::~ObserveLoads()
+{
+    t_observer = m_outer;
+    ObserveReads(m_outer);
+}
+
+// ---- keys ----
+
+SettingKeys::SettingKeys(CString strDeviceKeyName, CString strServiceName, CString strLogicalName)
+    : m_deviceKeyName(std::move(strDeviceKeyName)), m_serviceName(std::move(strServiceName)),
+      m_logicalName(std::move(strLogicalName))
+{}
+
+std::wstring SettingKeys::PathOf(Key key, const Iteration* iteration) const
+{
+    std::wstring path;
+    if (iteration != nullptr) {
+        AppendPath(path, key.root, ForIteration(key.subkey, iteration), m_deviceKeyName.View(), m_serviceName.View(),
                    m_logicalName.View());
     } else {
-        AppendPath(m_text, key, m_deviceKeyName.View(), m_serviceName.View(), m_logicalName.View());
+        AppendPath(path, key.root, key.subkey, m_deviceKeyName.View(), m_serviceName.View(), m_logicalName.View());
     }
-    m_lastOpened = m_scope->Open(m_text);
-    m_lastKey = key;
-    m_lastTurn = turn;
+    return path;
+}
+
+Session::Key SettingKeys::Open(Session& session, Key key, const Iteration* iteration)
+{
+    // Subkeys of rows are literals: one address is one text.
+    const Iteration current = iteration != nullptr ? *iteration : Iteration{};
+    if (key.subkey != m_lastKey.subkey || key.root != m_lastKey.root || m_lastIterated != (iteration != nullptr) ||
+        current.name != m_lastIteration.name || current.number != m_lastIteration.number) {
+        m_lastOpened = session.Open(PathOf(key, iteration));
+        m_lastKey = key;
+        m_lastIteration = current;
+        m_lastIterated = iteration != nullptr;
+    }
     return m_lastOpened;
 }
 
-template <class T>
-bool Loading::FindIn(const Setting& row, const Turn* turn, T& value)
+// ---- the configuration log ----
+
+void ConfigurationLog::Loaded(const LoadedSetting& setting)
 {
-    const auto ask = [&](Key key, std::wstring_view name) {
-        const auto opened = Open(key, turn);
-        ValueView view;
-        const auto outcome = turn != nullptr
-                                 ? m_scope->Query(opened, ForTurn(name.data(), turn->name, turn->number), view)
-                                 : m_scope->Query(opened, name, view);
-        return outcome == Outcome::Found && ToValue(view, value);
-    };
-    if (ask(row.key, row.readName != nullptr ? std::wstring_view(row.readName) : row.name)) {
-        return true;
+    const auto& row = setting.row;
+    if (m_log == nullptr || row.Has(Flags::NotLogged)) {
+        return;
     }
-    return row.elseSubkey != nullptr && ask({row.elseRoot, row.elseSubkey}, row.name);
+    if (setting.textHeld != nullptr) {
+        Print(row, setting.iteration, *setting.textHeld);
+        return;
+    }
+    DWORD shown = row.Has(Flags::LogHeld) ? setting.held : setting.corrected;
+    if (row.logAs != nullptr) {
+        shown = row.logAs(setting.object, shown);
+    }
+    Print(row, setting.iteration, shown);
 }
 
-bool Loading::Find(const Setting& row, const Turn* turn, DWORD& value)
+void ConfigurationLog::Print(const Setting& row, const Iteration* iteration, const FormatArg& value,
+                             const wchar_t* entry)
 {
-    return FindIn(row, turn, value);
-}
-
-bool Loading::Find(const Setting& row, const Turn* turn, CString& value)
-{
-    return FindIn(row, turn, value);
-}
-
-bool Loading::Query(Key key, const CString& strName, DWORD& value)
-{
-    ValueView view;
-    return m_scope->Query(Open(key, nullptr), strName.View(), view) == Outcome::Found && ToValue(view, value);
-}
-
-bool Loading::Query(Key key, const CString& strName, CString& value)
-{
-    ValueView view;
-    return m_scope->Query(Open(key, nullptr), strName.View(), view) == Outcome::Found && ToValue(view, value);
-}
-
-void Loading::PrintRow(const Setting& row, const Turn* turn, const FormatArg& value)
-{
-    std::wstring_view name = row.label != nullptr ? std::wstring_view(row.label) : row.name;
+    if (m_log == nullptr) {
+        return;
+    }
+    std::wstring_view name = entry != nullptr ? entry : row.label != nullptr ? row.label : row.name;
     std::wstring label;
-    if (turn != nullptr) {
-        name = label = ForTurn(name.data(), turn->name, turn->number);
+    if (iteration != nullptr) {
+        name = label = ForIteration(name.data(), iteration);
     }
-    if (row.qualifiedLabel) {
-        std::wstring subkey = turn != nullptr ? ForTurn(row.key.subkey, turn->name, turn->number) : row.key.subkey;
+    if (row.Has(Flags::QualifiedLabel)) {
+        std::wstring subkey = ForIteration(row.key.subkey, iteration);
         while (!subkey.empty() && subkey.back() == L'\\') {
             subkey.pop_back();
         }
         name = label = subkey + L'\\' + std::wstring(name);
     }
     m_text.clear();
-    if (row.head != nullptr) {
-        FormatTo(m_text, row.head, name);
+    if (row.line != nullptr) {
+        const FormatArg args[] = {name, value, row.meaning};
+        FormatTo(m_text, row.line, std::span<const FormatArg>(args));
     } else {
         // "[CFG] %40s : " of nearly every line; formatting it takes a twentieth of a Load
         constexpr std::size_t kLabelWidth = 40;
         m_text = L"[CFG] ";
         m_text.append(name.size() < kLabelWidth ? kLabelWidth - name.size() : 0, L' ');
         m_text.append(name).append(L" : ");
-    }
-    const wchar_t* conversion = row.conversion;
-    if (conversion == nullptr) {
-        conversion = row.type == Type::String ? L"%s" : row.type == Type::Char ? L"%c" : L"%d";
-    }
-    FormatTo(m_text, conversion, std::span<const FormatArg>(&value, 1));
-    if (row.described) {
-        m_text += L'[';
-        m_text += row.meaning;
-        if (!row.openBracket) {
-            m_text += L']';
+        const wchar_t* conversion = row.conversion;
+        if (conversion == nullptr) {
+            conversion = row.type == Type::String ? L"%s" : row.type == Type::Char ? L"%c" : L"%d";
         }
+        FormatTo(m_text, conversion, std::span<const FormatArg>(&value, 1));
+        m_text.append(L"[").append(row.meaning).append(L"]");
     }
     m_log->Write(Severity::Info, kLogCategory, m_text);
 }
 
-void Loading::Print(const Setting& row, DWORD value)
+void ConfigurationLog::PrintMissing(const wchar_t* className, const Setting& row, const Iteration* iteration)
 {
     if (m_log != nullptr) {
-        PrintRow(row, nullptr, value);
+        // The source file is named after the class without its leading C.
+        m_log->Error(kLogCategory, L"<%s(%d) : %s> ReadRegedit Info Fail : %s", className + 1, row.requiredLine,
+                     std::wstring(className) + L"::Load", ForIteration(row.name.data(), iteration));
     }
+}
+
+// ---- Loading ----
+
+Loading::Loading(CRegInfo& object, CLog* pLog)
+    : m_object(object),
+      // A class's Load calls its base's, which have the name in common.
+      m_keys(object.GetExeDllMother(1, nullptr), object.m_strPhysicalName, object.m_strLogicalName), m_lines(pLog),
+      m_observer(t_observer), m_outer(std::exchange(t_loading, this))
+{}
+
+Loading::Loading(CRegKeyEx& object, const CString& strDeviceKeyName, CLog* pLog)
+    : m_object(object), m_keys(strDeviceKeyName, {}, {}), m_lines(pLog), m_observer(t_observer),
+      m_outer(std::exchange(t_loading, this))
+{}
+
+Loading::~Loading()
+{
+    t_loading = m_outer;
+    if (m_outer == nullptr && Log() != nullptr && HasFailed()) {
+        Log()->Error(kLogCategory, L"<%s(%d) : %s> The store failed while the configuration was loaded : %s",
+                     L"core/settings/Settings.cpp", __LINE__, L"wqspcfg::Loading", m_scope->Failure().message);
+    }
+}
+
+const CString* Loading::DeviceKeyNameOf(const CRegKeyEx& object) noexcept
+{
+    return t_loading != nullptr && &t_loading->m_object == &object ? &t_loading->m_keys.DeviceKeyName() : nullptr;
+}
+
+bool Loading::Read(const Table& table, std::span<const Setting> rows)
+{
+    m_table = &table;
+    const auto enter = [this](const Setting& group) { return group.condition == nullptr || group.condition(m_object); };
+    return Walk(rows, nullptr, enter, [this](const Setting& row, const Iteration* iteration) {
+        if (row.kind == Kind::Step) {
+            return row.step(m_object, *this);
+        }
+        ReadRow(row, iteration);
+        return true;
+    });
+}
+
+void Loading::ReadRow(const Setting& row, const Iteration* iteration)
+{
+    if (row.Has(Flags::Documented)) {
+        return;
+    }
+    if (m_observer != nullptr) {
+        m_observer->Begin(row, iteration);
+    }
+    if (row.step != nullptr) {
+        row.step(m_object, *this);
+    }
+    if (row.kind == Kind::WholeKey) {
+        ReadWholeKey(row, iteration);
+    } else if (row.step == nullptr || row.bound) {
+        IsNumber(row) ? ReadValue<DWORD>(row, iteration) : ReadValue<CString>(row, iteration);
+    }
+}
+
+template <class T>
+void Loading::ReadValue(const Setting& row, const Iteration* iteration)
+{
+    constexpr bool kNumber = std::is_same_v<T, DWORD>;
+    const auto index = IndexOf(iteration);
+    const bool given = row.IsGiven();
+    const bool keep = row.bound && (given || row.Has(Flags::KeepWhenMissing));
+    T value = keep ? HeldOf<T>(row, m_object, index) : FromValue<T>(row, row.defaultValue, index);
+    LoadedSetting loaded{m_object, row, iteration};
+    bool found = false;
+    if (!given) {
+        if constexpr (kNumber) {
+            if (row.bound && row.type == Type::Dword) {
+                Hold(row, m_object, index, value); // hooks and other members may look at it
+            }
+        }
+        loaded.origin = Find(row, iteration, value);
+        found = loaded.origin == Origin::Key || loaded.origin == Origin::Fallback;
+        if (!found && keep) {
+            loaded.origin = Origin::Kept;
+        }
+        if (!found && row.requiredLine != 0) {
+            m_lines.PrintMissing(m_table->className, row, iteration);
+        }
+    }
+    T read{};
+    if (kNumber || m_observer != nullptr) {
+        read = value;
+    }
+    if (!given) {
+        Correct(row, m_object, value, found);
+    }
+    if constexpr (kNumber) {
+        loaded.read = read;
+        loaded.corrected = value;
+        loaded.held = row.type == Type::Flag || row.Has(Flags::AsSwitch) ? (value != 0 ? 1U : 0U) : value;
+        if (row.bound && !given) {
+            Hold(row, m_object, index, loaded.held);
+        }
+        m_lines.Loaded(loaded);
+    } else {
+        loaded.textRead = &read;
+        loaded.textHeld = &value;
+        m_lines.Loaded(loaded);
+        if (row.bound && !given) {
+            m_observer == nullptr ? Hold(row, m_object, index, std::move(value)) : Hold(row, m_object, index, value);
+        }
+    }
+    if (m_observer != nullptr) {
+        m_observer->Loaded(loaded);
+    }
+}
+
+template <class T>
+Origin Loading::Find(const Setting& row, const Iteration* iteration, T& value)
+{
+    auto origin = Origin::Missing;
+    const auto ask = [&](Key key, std::wstring_view name) {
+        const auto opened = m_keys.Open(*m_scope, key, iteration);
+        ValueView view;
+        const auto outcome = iteration != nullptr ? m_scope->Query(opened, ForIteration(name.data(), iteration), view)
+                                                  : m_scope->Query(opened, name, view);
+        if (outcome != Outcome::Found) {
+            return false;
+        }
+        if (!ToValue(view, value)) {
+            origin = Origin::WrongType;
+            return false;
+        }
+        return true;
+    };
+    if (ask(row.key, row.name)) {
+        return Origin::Key;
+    }
+    if (row.fallbackSubkey != nullptr &&
+        ask({row.fallbackRoot, row.fallbackSubkey}, row.fallbackName != nullptr ? row.fallbackName : row.name)) {
+        return Origin::Fallback;
+    }
+    return origin;
+}
+
+void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
+{
+    const auto path = m_keys.PathOf(row.key, iteration);
+    Texts unbound;
+    void* map = row.bound ? row.locate(m_object, IndexOf(iteration)) : &unbound;
+    if (row.bound && !row.Has(Flags::KeepWhenMissing)) {
+        row.clear(map);
+    }
+    if (row.Has(Flags::SubkeyNames)) {
+        CStringArray arNames;
+        CRegKeyEx::EnumSubKeyName(arNames, L"%s", path);
+        for (const auto& strName : arNames) {
+            static_cast<Texts*>(map)->SetAt(strName, CString());
+        }
+    }
+    const bool found =
+        row.bound ? row.query(map, path.c_str()) != 0 : CRegKeyEx::QueryValues(unbound, L"%s", path) != 0;
+    if (!found) {
+        for (const auto& entry : row.entries) {
+            static_cast<Texts*>(map)->SetAt(entry.name, entry.text);
+        }
+    }
+    if (Log() != nullptr && !row.Has(Flags::NotLogged)) {
+        for (const auto& [strName, strText] : *static_cast<const Texts*>(map)) {
+            m_lines.Print(row, nullptr, strText, strName);
+        }
+    }
+    if (m_observer != nullptr) {
+        LoadedSetting loaded{m_object, row, iteration};
+        loaded.origin = found ? Origin::Key : Origin::Missing;
+        m_observer->Loaded(loaded);
+    }
+}
+
+bool Loading::Query(Key key, const CString& strName, DWORD& value)
+{
+    ValueView view;
+    return m_scope->QueryAt(m_keys.PathOf(key), strName.View(), view) == Outcome::Found && ToValue(view, value);
+}
+
+bool Loading::Query(Key key, const CString& strName, CString& value)
+{
+    ValueView view;
+    return m_scope->QueryAt(m_keys.PathOf(key), strName.View(), view) == Outcome::Found && ToValue(view, value);
+}
+
+void Loading::Print(const Setting& row, DWORD value)
+{
+    m_lines.Print(row, nullptr, value);
 }
 
 void Loading::Print(const Setting& row, const CString& value)
 {
-    if (m_log != nullptr) {
-        PrintRow(row, nullptr, value);
-    }
+    m_lines.Print(row, nullptr, value);
 }
 
 void Loading::PrintHeld(const Setting& row)
 {
-    switch (row.type) {
-    case Type::Dword:
-        Print(row, MemberOf<DWORD>(row, m_object, 0));
-        break;
-    case Type::Flag:
-        Print(row, MemberOf<bool>(row, m_object, 0) ? 1U : 0U);
-        break;
-    case Type::String:
-        Print(row, MemberOf<CString>(row, m_object, 0));
-        break;
-    case Type::Char:
-        Print(row, TextOf(MemberOf<wchar_t>(row, m_object, 0)));
-        break;
-    case Type::None:
-        break;
+    if (IsNumber(row)) {
+        Print(row, HeldOf<DWORD>(row, m_object, 0));
+    } else {
+        Print(row, HeldOf<CString>(row, m_object, 0));
     }
 }
 
-void Loading::PrintMissing(const Setting& row, const Turn* turn)
+namespace {
+
+template <class T>
+bool ReadOne(const CRegInfo& object, const Setting& row, T& value)
 {
-    if (m_log == nullptr || m_table == nullptr) {
-        return;
+    ReadScope scope;
+    // Only what the key's root needs is asked for.
+    const auto deviceKeyName = [&](Root root) {
+        return root == Root::Device ? object.GetExeDllMother(1, nullptr) : CString();
+    };
+    const auto ask = [&](Key key, std::wstring_view name) {
+        const SettingKeys keys(deviceKeyName(key.root), object.m_strPhysicalName, object.m_strLogicalName);
+        ValueView view;
+        return scope->QueryAt(keys.PathOf(key), name, view) == Outcome::Found && ToValue(view, value);
+    };
+    if (ask(row.key, row.name) ||
+        (row.fallbackSubkey != nullptr &&
+         ask({row.fallbackRoot, row.fallbackSubkey}, row.fallbackName != nullptr ? row.fallbackName : row.name))) {
+        return true;
     }
-    // The source file is named after the class without its leading C.
-    const auto name = turn != nullptr ? ForTurn(row.name.data(), turn->name, turn->number) : std::wstring(row.name);
-    m_log->Error(kLogCategory, L"<%s(%d) : %s> ReadRegedit Info Fail : %s", m_table->className + 1, row.requiredLine,
-                 std::wstring(m_table->className) + L"::Load", name);
+    value = FromValue<T>(row, row.defaultValue, 0);
+    return false;
+}
+
+} // namespace
+
+bool ReadSetting(const CRegInfo& object, const Setting& row, DWORD& value)
+{
+    return ReadOne(object, row, value);
+}
+
+bool ReadSetting(const CRegInfo& object, const Setting& row, CString& value)
+{
+    return ReadOne(object, row, value);
 }
 
 // ---- Saving ----
 
 Saving::Saving(CRegInfo& object, ExceptionCount inFlight)
-    : m_scope(inFlight), m_object(object), m_deviceKeyName(object.GetExeDllMother(1, nullptr)),
-      m_serviceName(object.m_strPhysicalName), m_logicalName(object.m_strLogicalName)
-{}
+    : m_scope(inFlight), m_object(object),
+      m_keys(object.GetExeDllMother(1, nullptr), object.m_strPhysicalName, object.m_strLogicalName)
+{
+    if (m_keys.DeviceKeyName().IsEmpty()) {
+        m_scope->Refuse({ErrorKind::BadArgument, "nothing is saved: the service \"" +
+                                                     Utf8ForMessage(object.m_strLogicalName.View()) +
+                                                     "\" has no provider, so its device key is not known"});
+    }
+}
 
 Saving::Saving(CRegKeyEx& object, const CString& strDeviceKeyName, ExceptionCount inFlight)
-    : m_scope(inFlight), m_object(object), m_deviceKeyName(strDeviceKeyName)
+    : m_scope(inFlight), m_object(object), m_keys(strDeviceKeyName, {}, {})
 {}
 
 void Saving::Write(const Table& table)
@@ -446,96 +540,52 @@ void Saving::Write(const Table& table)
 
 void Saving::Write(std::span<const Setting> rows)
 {
-    for (const auto& row : rows) {
-        if (row.rows != nullptr) {
-            if (row.condition != nullptr) {
-                Write(std::span<const Setting>{row.rows, row.rowCount});
-                continue;
-            }
-            for (unsigned i = 0; i < row.turns; ++i) {
-                for (unsigned j = 0; j < row.rowCount; ++j) {
-                    WriteRow(row.rows[j], row.turnNames ? row.turnNames[i] : nullptr, row.turnFirst + i, i);
-                }
-            }
-        } else {
-            WriteRow(row, nullptr, kNoTurn, 0);
+    Walk(rows, nullptr, EnterAll, [this](const Setting& row, const Iteration* iteration) {
+        if (row.saved && row.bound && !row.Has(Flags::Documented)) {
+            WriteRow(row, iteration);
         }
-    }
+        return true;
+    });
 }
 
 void Saving::Write(std::span<const Setting* const> rows)
 {
     for (const auto* row : rows) {
-        WriteRow(*row, nullptr, kNoTurn, 0);
+        Write(std::span(row, 1));
     }
 }
 
-void Saving::WriteRow(const Setting& row, const wchar_t* turnName, unsigned turnNumber, unsigned index)
+void Saving::WriteRow(const Setting& row, const Iteration* iteration)
 {
-    if (!row.saved || !row.bound) {
+    const auto index = IndexOf(iteration);
+    if (row.kind == Kind::WholeKey) {
+        CRegKeyEx::SetValues(*static_cast<const Texts*>(row.locate(m_object, index)), L"%s",
+                             m_keys.PathOf(row.key, iteration));
         return;
     }
-    const wchar_t* name = row.savedName != nullptr ? row.savedName : row.name.data();
-    Session::Key key = 0;
-    std::wstring nameOfTurn;
-    if (turnName != nullptr || turnNumber != kNoTurn) {
-        const auto subkey = ForTurn(row.key.subkey, turnName, turnNumber);
-        key = Open({row.key.root, subkey.c_str()});
-        nameOfTurn = ForTurn(name, turnName, turnNumber);
-        name = nameOfTurn.c_str();
-    } else {
-        if (row.key.subkey != m_lastKey.subkey || row.key.root != m_lastKey.root) {
-            m_lastOpened = Open(row.key);
-            m_lastKey = row.key;
-        }
-        key = m_lastOpened;
+    const auto key = m_keys.Open(*m_scope, row.key, iteration);
+    const auto name = ForIteration(row.savedName != nullptr ? row.savedName : row.name.data(), iteration);
+    if (IsNumber(row)) {
+        const DWORD held = HeldOf<DWORD>(row, m_object, index);
+        const DwordBytes bytes(row.savedAsSwitch ? (held != 0 ? 1U : 0U) : held);
+        m_scope->Set(key, name, bytes.View());
+        return;
     }
-    switch (row.type) {
-    case Type::Dword: {
-        const DWORD held = MemberOf<DWORD>(row, m_object, index);
-        Put(key, name, row.savedAsSwitch ? (held != 0 ? 1U : 0U) : held);
-        break;
+    if (row.emptySavedAs != nullptr && MemberOf<CString>(row, m_object, index).IsEmpty()) {
+        MemberOf<CString>(row, m_object, index) = row.emptySavedAs;
     }
-    case Type::Flag:
-        Put(key, name, MemberOf<bool>(row, m_object, index) ? 1U : 0U);
-        break;
-    case Type::String:
-        Put(key, name, MemberOf<CString>(row, m_object, index));
-        break;
-    case Type::Char:
-        Put(key, name, TextOf(MemberOf<wchar_t>(row, m_object, index)));
-        break;
-    case Type::None:
-        break;
-    }
-}
-
-Session::Key Saving::Open(Key key)
-{
-    std::wstring path;
-    AppendPath(path, key, m_deviceKeyName.View(), m_serviceName.View(), m_logicalName.View());
-    return m_scope->Open(path);
+    SetText(*m_scope, key, name, HeldOf<CString>(row, m_object, index).View());
 }
 
 void Saving::Put(Key key, const CString& strName, DWORD value)
 {
-    Put(Open(key), strName, value);
+    const DwordBytes bytes(value);
+    m_scope->Set(m_scope->Open(m_keys.PathOf(key)), strName.View(), bytes.View());
 }
 
 void Saving::Put(Key key, const CString& strName, const CString& value)
 {
-    Put(Open(key), strName, value);
-}
-
-void Saving::Put(Session::Key key, const CString& strName, DWORD value)
-{
-    const DwordBytes bytes(value);
-    m_scope->Set(key, strName.View(), bytes.View());
-}
-
-void Saving::Put(Session::Key key, const CString& strName, const CString& value)
-{
-    SetText(*m_scope, key, strName.View(), value.View());
+    SetText(*m_scope, m_scope->Open(m_keys.PathOf(key)), strName.View(), value.View());
 }
 
 } // namespace wqspcfg

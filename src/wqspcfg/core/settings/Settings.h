@@ -2,17 +2,18 @@
 #pragma once
 
 #include "wqspcfg/core/RegInfo.h"
+#include "wqspcfg/core/settings/Observer.h"
+#include "wqspcfg/core/settings/SaveOrder.h"
 #include "wqspcfg/core/settings/Setting.h"
 #include "wqspcfg/platform/store/Session.h"
 
 #include <span>
 #include <string>
-#include <vector>
 
 namespace wqspcfg {
 
-// Settings that an operation of the class reads or writes in its own right, for the reference.
-struct OnRequest
+// Settings that one operation of the class reads or writes, and not Load and Save.
+struct OperationSettings
 {
     const wchar_t* readBy;    // the operation's name; empty where nothing reads them
     const wchar_t* writtenBy; // empty where nothing writes them
@@ -27,7 +28,50 @@ struct Table
     const wchar_t* deviceClass;      // null where the base tells it
     std::span<const Setting> rows;
     std::span<const Setting* const> saveOrder{}; // empty: the order of the table
-    std::span<const OnRequest> onRequest{};
+    std::span<const OperationSettings> operations{};
+    const Table& (*mixin)() noexcept = nullptr; // a second base
+    bool savesBase = true;                      // false: Save leaves out what the bases save
+};
+
+// Where the keys of one object's settings are, and the last one opened: most rows share it with their neighbours.
+class SettingKeys
+{
+  public:
+    SettingKeys(CString strDeviceKeyName, CString strServiceName, CString strLogicalName);
+
+    Session::Key Open(Session& session, Key key, const Iteration* iteration);
+    std::wstring PathOf(Key key, const Iteration* iteration = nullptr) const;
+    const CString& DeviceKeyName() const noexcept { return m_deviceKeyName; }
+
+  private:
+    CString m_deviceKeyName;
+    CString m_serviceName;
+    CString m_logicalName;
+    Key m_lastKey{Root::Device, nullptr};
+    Iteration m_lastIteration;
+    bool m_lastIterated = false;
+    Session::Key m_lastOpened = 0;
+};
+
+// Writes the configuration lines of what is loaded.
+class ConfigurationLog final : public LoadObserver
+{
+  public:
+    explicit ConfigurationLog(CLog* log) : m_log(log) {}
+
+    void Begin(const Setting&, const Iteration*) override {}
+    void Loaded(const LoadedSetting& setting) override;
+    void Asked(std::wstring_view, std::wstring_view, Outcome, const ValueView&) override {}
+    void AskedAll(std::wstring_view, bool) override {}
+
+    // The line of a row with this value; of an entry of a whole key under the entry's name.
+    void Print(const Setting& row, const Iteration* iteration, const FormatArg& value, const wchar_t* entry = nullptr);
+    void PrintMissing(const wchar_t* className, const Setting& row, const Iteration* iteration);
+    CLog* Log() const noexcept { return m_log; }
+
+  private:
+    CLog* m_log;
+    std::wstring m_text; // reused
 };
 
 // One Load of one table's settings. Opens a read scope, so that everything comes from one state of the store; a Load
@@ -43,55 +87,46 @@ class WQSPCFG_API Loading
     Loading& operator=(const Loading&) = delete;
 
     // Reads and logs the settings in order. False when a step ended it.
-    bool Read(const Table& table);
-    bool Read(std::span<const Setting> rows);
+    bool Read(const Table& table) { return Read(table, table.rows); }
+    // Some of the table's rows.
+    bool Read(const Table& table, std::span<const Setting> rows);
+    bool Read(const Table& table, const Setting& row) { return Read(table, std::span(&row, 1)); }
 
     // For code between rows. A missing value gives false and leaves `value` untouched.
     bool Query(Key key, const CString& strName, DWORD& value);
     bool Query(Key key, const CString& strName, CString& value);
+    bool Query(const Setting& row, DWORD& value) { return Query(row.key, CString(row.name), value); }
+    bool Query(const Setting& row, CString& value) { return Query(row.key, CString(row.name), value); }
     // The line of one row, with a number or a text in place of the member.
     void Print(const Setting& row, DWORD value);
     void Print(const Setting& row, const CString& value);
     // The line of one row with what its member holds.
     void PrintHeld(const Setting& row);
-    CLog* Log() const noexcept { return m_log; }
+    CLog* Log() const noexcept { return m_lines.Log(); }
+    // The store could not be read, so that what is loaded are defaults.
+    bool HasFailed() const noexcept { return static_cast<bool>(m_scope->Failure()); }
     // The name of the object's device key, when this thread is loading that object; else null.
     static const CString* DeviceKeyNameOf(const CRegKeyEx& object) noexcept;
 
   private:
-    struct Turn
-    {
-        const wchar_t* name = nullptr;
-        unsigned number = 0;
-        unsigned index = 0;
-    };
-
-    bool ReadRows(std::span<const Setting> rows, const Turn* turn);
-    void ReadRow(const Setting& row, const Turn* turn);
-    bool Find(const Setting& row, const Turn* turn, DWORD& value);
-    bool Find(const Setting& row, const Turn* turn, CString& value);
+    void ReadRow(const Setting& row, const Iteration* iteration);
+    void ReadWholeKey(const Setting& row, const Iteration* iteration);
     template <class T>
-    bool FindIn(const Setting& row, const Turn* turn, T& value);
-    Session::Key Open(Key key, const Turn* turn);
-    void PrintRow(const Setting& row, const Turn* turn, const FormatArg& value);
-    void PrintMissing(const Setting& row, const Turn* turn);
+    void ReadValue(const Setting& row, const Iteration* iteration);
+    template <class T>
+    Origin Find(const Setting& row, const Iteration* iteration, T& value);
 
     ReadScope m_scope;
     CRegKeyEx& m_object;
-    CLog* m_log;
+    SettingKeys m_keys;
+    ConfigurationLog m_lines;
+    LoadObserver* m_observer;
     const Table* m_table = nullptr;
     Loading* m_outer;
-    CString m_deviceKeyName;
-    CString m_serviceName;
-    CString m_logicalName;
-    // The key of the last row, which most rows share with their neighbours.
-    Key m_lastKey{Root::Device, nullptr};
-    const Turn* m_lastTurn = nullptr;
-    Session::Key m_lastOpened = 0;
-    std::wstring m_text; // reused
 };
 
-// One Save: everything written within it becomes durable together, or nothing does.
+// One Save: everything written within it becomes durable together, or nothing does. An object without a device key (a
+// service without a provider) writes nothing; LastStoreError() tells.
 class WQSPCFG_API Saving
 {
   public:
@@ -104,25 +139,24 @@ class WQSPCFG_API Saving
     void Write(const Table& table);
     void Write(std::span<const Setting> rows);
     void Write(std::span<const Setting* const> rows);
+    // Writes one setting, for an operation.
+    void Write(const Setting& row) { Write(std::span(&row, 1)); }
 
     void Put(Key key, const CString& strName, DWORD value);
     void Put(Key key, const CString& strName, const CString& value);
 
   private:
-    Session::Key Open(Key key);
-    void Put(Session::Key key, const CString& strName, DWORD value);
-    void Put(Session::Key key, const CString& strName, const CString& value);
-    void WriteRow(const Setting& row, const wchar_t* turnName, unsigned turnNumber, unsigned index);
+    void WriteRow(const Setting& row, const Iteration* iteration);
 
     WriteScope m_scope;
     CRegKeyEx& m_object;
-    CString m_deviceKeyName;
-    CString m_serviceName;
-    CString m_logicalName;
-    // The key of the last row of a table, which most rows share with their neighbours.
-    Key m_lastKey{Root::Device, nullptr};
-    Session::Key m_lastOpened = 0;
+    SettingKeys m_keys;
 };
+
+// Reads one setting from its key or its fallback key; where neither holds it, `value` becomes the default, and the
+// result is false. What is corrected while loading is not corrected here.
+WQSPCFG_API bool ReadSetting(const CRegInfo& object, const Setting& row, DWORD& value);
+WQSPCFG_API bool ReadSetting(const CRegInfo& object, const Setting& row, CString& value);
 
 // Sets every member to what its constructor is to set.
 WQSPCFG_API void Construct(CRegKeyEx& object, std::span<const Setting> rows);
@@ -170,7 +204,7 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
     WQSPCFG_CATALOGUE_ENTRY(Class)
 
 // Everything that such a class needs besides its table `rows`. An order of saving that is not the table's ({} where it
-// is) and the settings that its operations read follow as further arguments.
+// is) and the settings of its operations follow as further arguments.
 #define WQSPCFG_SETTINGS(Class, Base, rows, ...)                                                                       \
     const wqspcfg::Table& Class::Settings() noexcept                                                                   \
     {                                                                                                                  \

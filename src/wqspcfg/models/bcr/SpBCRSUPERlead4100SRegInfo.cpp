@@ -10,7 +10,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"DevType",  &C::m_dwDevType,  0,    L"communication type: 1 serial; 0 USB", Saved, KeepWhenMissing, OneOf<1, 0>},
+    {key::Comm, L"DevType",  &C::m_dwDevType,  0,    L"communication type: 1 serial; 0 USB", Saved, KeepWhenMissing, OneOf},
     {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, KeepWhenMissing},
     {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved, KeepWhenMissing},
 };

@@ -12,7 +12,7 @@ namespace {
 constexpr Setting kSettings[] = {
     {key::Comm,    L"Port",              &C::m_dwPort,             1,    meaning::kPort, Saved},
     {key::Comm,    L"BaudRate",          &C::m_dwBaudRate,         9600, meaning::kBaudRate, Saved},
-    {key::Control, L"DevType",           &C::m_dwDevType,          0,    L"device variant: 0 the reader vendor's production setting; 1 that vendor's test setting for one bank; 2 and 3 fingerprint readers of two other makers", Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"DevType",           &C::m_dwDevType,          0,    L"device variant: 0 the reader vendor's production setting; 1 that vendor's test setting for one bank; 2 and 3 fingerprint readers of two other makers", Saved, OneOf},
     {key::Control, L"StExtraRetFacInfo", &C::m_bStExtraRetFacInfo, 0,    L"the extended status returns vendor information: 0 no; nonzero yes", Saved},
 };
 // clang-format on

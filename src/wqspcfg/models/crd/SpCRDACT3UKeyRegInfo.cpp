@@ -28,7 +28,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"PreDispenseCard",            &C::m_bPreDispenseCard,             0,    L"a card is dispensed in advance: 0 no; nonzero yes", Saved},
     {key::Control, L"DispenseAfterRetainBinFull", &C::m_dwDispenseAfterRetainBinFull, 0,    L"dispensing continues while the retain bin is full: 0 no; nonzero yes", SavedAsSwitch, Preloaded},
     {key::Control, L"RetainOnClose",              &C::m_bRetainOnClose,               0,    L"a card in the device is retained when the SP closes: 0 no; nonzero yes", Saved},
-    {key::Control, L"PowerOnOption",              &C::m_dwPowerOnOption,              1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"PowerOnOption",              &C::m_dwPowerOnOption,              1,    meaning::kPowerOnOption, Saved, OneOf},
 };
 // clang-format on
 

@@ -17,8 +17,8 @@ constexpr Setting kSettings[] = {
     {key::Comm,      L"Type",                  &C::m_dwType,                  0,    meaning::crd::kType, Saved},
     {key::Comm,      L"Port",                  &C::m_dwPort,                  1,    meaning::kPort, Saved},
     {key::Comm,      L"BaudRate",              &C::m_dwBaudRate,              9600, meaning::kBaudRate, Saved},
-    {key::Control,   L"PowerOffOption",        &C::m_dwPowerOffOption,        0,    meaning::kPowerOffOption, OneOf<0, 1, 2>},
-    {key::Control,   L"PowerOnOption",         &C::m_dwPowerOnOption,         1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control,   L"PowerOffOption",        &C::m_dwPowerOffOption,        0,    meaning::kPowerOffOption, OneOf},
+    {key::Control,   L"PowerOnOption",         &C::m_dwPowerOnOption,         1,    meaning::kPowerOnOption, Saved, OneOf},
     {kRetainCardSet, L"MaxRetainCard",         &C::m_dwMaxRetainCard,         20,   meaning::crd::kMaxRetainCard, Saved, Preloaded},
     {kRetainCardSet, L"RetainBinHigh",         &C::m_dwRetainBinHigh,         15,   meaning::kRetainBinHighOfMaxRetainCard, Saved, Preloaded},
     {key::Control,   L"SkimOfInsertCard",      &C::m_dwSkimOfInsertCard,      0,    meaning::crd::kSkimOfInsertCard, Saved},
@@ -27,7 +27,7 @@ constexpr Setting kSettings[] = {
     {key::Control,   L"CheckMode",             &C::m_dwCheckMode,             0,    meaning::crd::kCheckMode, Saved},
     {key::Control,   L"ShutterActionOfInit",   &C::m_dwShutterActionOfInit,   0,    meaning::crd::kShutterActionOfInit, Saved},
     {key::Control,   L"ConnectAfterHWError",   &C::m_bConnectAfterHWError,    0,    meaning::crd::kConnectAfterHWError, Saved},
-    {key::Control,   L"CloseOption",           &C::m_dwCloseOption,           2,    meaning::kCloseOption, Saved, OneOf<0, 1, 2>},
+    {key::Control,   L"CloseOption",           &C::m_dwCloseOption,           2,    meaning::kCloseOption, Saved, OneOf},
     {key::Control,   L"DispenseCardStyle",     &C::m_dwDispenseCardStyle,     0,    L"style of dispensing a card", Saved},
 };
 // clang-format on

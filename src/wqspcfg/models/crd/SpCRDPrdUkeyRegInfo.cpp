@@ -14,8 +14,8 @@ constexpr Key kAction = key::Below(L"Action");
 // clang-format off
 constexpr Setting kSettings[] = {
     {key::Device,  L"DN.UKEY_MOTOR",                  &C::m_strDN_UKEY_MOTOR,                L"", L"the vendor's device name of the USB-key dispenser", Saved},
-    {kAction,      L"PowerOnOption",                  &C::m_dwPowerOnOption,                 1,   meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
-    {kAction,      L"PowerOffOption",                 &C::m_dwPowerOffOption,                0,   meaning::kPowerOffOption, OneOf<0, 1, 2>},
+    {kAction,      L"PowerOnOption",                  &C::m_dwPowerOnOption,                 1,   meaning::kPowerOnOption, Saved, OneOf},
+    {kAction,      L"PowerOffOption",                 &C::m_dwPowerOffOption,                0,   meaning::kPowerOffOption, OneOf},
     {kAction,      L"OpenOption",                     &C::m_dwOpenOption,                    0,   meaning::crd::kOpenOption, Saved},
     {key::Control, L"TimesToTryWhenFail",             &C::m_dwTimesToTryWhenFail,            3,   meaning::crd::kTimesToTryWhenFail, Saved},
     {key::Control, L"IDCCompound",                    &C::m_bIDCCompound,                    0,   L"the device is combined with a card reader: 0 no; nonzero yes", Saved},

@@ -19,7 +19,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"RetainBinCount",                 &C::m_dwRetainBinCount,                1,    meaning::crd::kRetainBinCount, Saved},
     {key::Control, L"SupplyBinLow",                   &C::m_dwSupplyBinLow,                  5,    meaning::kSupplyBinLow, Saved},
     {key::Control, L"SupplyBinMax",                   &C::m_dwSupplyBinMax,                  100,  meaning::crd::kSupplyBinMax, Saved},
-    {key::Control, L"PowerOnOption",                  &C::m_dwPowerOnOption,                 1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"PowerOnOption",                  &C::m_dwPowerOnOption,                 1,    meaning::kPowerOnOption, Saved, OneOf},
     {key::Control, L"TimesToTryWhenFail",             &C::m_dwTimesToTryWhenFail,            3,    meaning::crd::kTimesToTryWhenFail, Saved},
     {key::Control, L"PolicyOfRetainBin",              &C::m_dwPolicyOfRetainBin,             0,    L"policy of the retain bin", Saved},
     {key::Control, L"AllowResetWithRetainOnFull",     &C::m_bAllowResetWithRetainOnFull,     0,    meaning::crd::kAllowResetWithRetainOnFull, Saved},
@@ -27,7 +27,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"AllowDisWithRetainBinLogicFull", &C::m_bAllowDisWithRetainBinLogicFull, 0,    meaning::crd::kAllowDisWithRetainBinLogicFull, Saved},
     {key::Control, L"SupplyBinIniCount",              &C::m_dwSupplyBinIniCount,             100,  meaning::crd::kSupplyBinIniCount, Saved},
     {key::Control, L"PolicyOfExtraSuppBinST",         &C::m_dwPolicyOfExtraSuppBinST,        0,    meaning::crd::kPolicyOfExtraSuppBinST, Saved},
-    {key::Control, L"PowerOffOption",                 &C::m_dwPowerOffOption,                0,    meaning::kPowerOffOption, OneOf<0, 1, 2>},
+    {key::Control, L"PowerOffOption",                 &C::m_dwPowerOffOption,                0,    meaning::kPowerOffOption, OneOf},
     {key::Control, L"ShutterErrOption",               &C::m_dwShutterErrOption,              0,    L"what happens on a shutter error", Saved},
 };
 // clang-format on

@@ -16,9 +16,9 @@ constexpr Setting kSettings[] = {
     {key::Control, L"TimesToTryWhenFail", &C::m_dwTimesToTryWhenFail, 3,    meaning::crd::kTimesToTryWhenFail, Saved},
     {key::Control, L"NumDispenseBin",     &C::m_dwNumDispenseBin,     2,    L"number of the dispense bin", Saved},
     {key::Control, L"NumRetainBin",       &C::m_dwNumRetainBin,       1,    meaning::crd::kRetainBinNumber, Saved},
-    {key::Control, L"PowerOffOption",     &C::m_dwPowerOffOption,     0,    meaning::kPowerOffOption, OneOf<0, 1, 2>},
+    {key::Control, L"PowerOffOption",     &C::m_dwPowerOffOption,     0,    meaning::kPowerOffOption, OneOf},
     {key::Control, L"OpenOption",         &C::m_dwOpenOption,         0,    meaning::crd::kOpenOption, Saved},
-    {key::Control, L"CloseOption",        &C::m_dwCloseOption,        2,    meaning::kCloseOption, Saved, OneOf<0, 1, 2>},
+    {key::Control, L"CloseOption",        &C::m_dwCloseOption,        2,    meaning::kCloseOption, Saved, OneOf},
     {key::Control, L"ApProtocolType",     &C::m_dwApProtocolType,     0,    meaning::crd::kApProtocolType, Saved},
 };
 // clang-format on

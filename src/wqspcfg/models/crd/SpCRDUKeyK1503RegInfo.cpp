@@ -16,7 +16,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"UsefulSupplyBinCounter",  &C::m_dwUsefulSupplyBinCounter,  3,    L"number of usable supply bins", Saved},
     {key::Control, L"RetainBinCounter",        &C::m_dwRetainBinCounter,        1,    meaning::crd::kRetainBinCount, Saved},
     {key::Control, L"SupplyBinCounter",        &C::m_dwSupplyBinCounter,        3,    meaning::crd::kSupplyBinCount, Saved},
-    {key::Control, L"PowerOnOption",           &C::m_dwPowerOnOption,           1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"PowerOnOption",           &C::m_dwPowerOnOption,           1,    meaning::kPowerOnOption, Saved, OneOf},
     {key::Control, L"UsefulKbaoBinCounter",    &C::m_dwUsefulKbaoBinCounter,    2,    L"number of usable Kbao bins", Saved},
     {key::Control, L"UserfulKtokenBinCounter", &C::m_dwUserfulKtokenBinCounter, 1,    L"number of usable Ktoken bins", Saved},
     {key::Control, L"KbaoCounter",             &C::m_dwKbaoCounter,             0,    L"count of Kbao keys", Saved},

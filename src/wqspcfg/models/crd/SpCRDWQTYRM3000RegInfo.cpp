@@ -15,9 +15,9 @@ constexpr Setting kSettings[] = {
     {key::Comm,    L"Port",                           &C::m_dwPort,                           1,    meaning::kPort, Saved},
     {key::Comm,    L"BaudRate",                       &C::m_dwBaudRate,                       9600, meaning::kBaudRate, Saved},
     {key::Control, L"CountSupplyBin",                 &C::m_dwCountSupplyBin,                 2,    meaning::crd::kSupplyBinCount, Saved},
-    {key::Control, L"PowerOffOption",                 &C::m_dwPowerOffOption,                 0,    meaning::kPowerOffOption, OneOf<0, 1, 2>},
-    {key::Control, L"PowerOnOption",                  &C::m_dwPowerOnOption,                  1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
-    {key::Control, L"CloseOption",                    &C::m_dwCloseOption,                    2,    meaning::kCloseOption, Saved, OneOf<0, 1, 2>},
+    {key::Control, L"PowerOffOption",                 &C::m_dwPowerOffOption,                 0,    meaning::kPowerOffOption, OneOf},
+    {key::Control, L"PowerOnOption",                  &C::m_dwPowerOnOption,                  1,    meaning::kPowerOnOption, Saved, OneOf},
+    {key::Control, L"CloseOption",                    &C::m_dwCloseOption,                    2,    meaning::kCloseOption, Saved, OneOf},
     {key::Control, L"DispenseBin1",                   &C::m_dwDispenseBin1,                   2,    meaning::kDispenseBin1, Saved},
     {key::Control, L"DispenseBin2",                   &C::m_dwDispenseBin2,                   3,    meaning::kDispenseBin2, Saved},
     {key::Control, L"RetainBin",                      &C::m_dwRetainBin,                      1,    meaning::kRetainBin, Saved},
@@ -28,7 +28,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"ActionOfSliderCardForDispense",  &C::m_dwActionOfSliderCardForDispense,  0,    L"action of the card slider for a dispense", Saved},
     {key::Control, L"ActionOfSliderCardForEjectCard", &C::m_dwActionOfSliderCardForEjectCard, 0,    L"action of the card slider for ejecting a card", Saved},
     {key::Control, L"CountForceDispense",             &C::m_dwCountForceDispense,             0,    L"count of forced dispenses", Saved},
-    {key::Control, L"RetainBinStatus",                &C::m_dwRetainBinStatus,                0,    meaning::kRetainBinStatus, Saved, OneOf<0, 1>},
+    {key::Control, L"RetainBinStatus",                &C::m_dwRetainBinStatus,                0,    meaning::kRetainBinStatus, Saved, OneOf},
     {key::Control, L"NeedSupportMediaLatched",        &C::m_bNeedSupportMediaLatched,         0,    meaning::kMediaLatched, Saved},
 };
 // clang-format on

@@ -24,10 +24,10 @@ constexpr Setting kSettings[] = {
     {key::Control, L"SupplyBinLow",              &C::m_dwSupplyBinLow,             5,    meaning::kSupplyBinLow, Saved},
     {key::Control, L"MaxSupplyCard",             &C::m_dwMaxSupplyCard,            100,  meaning::kMaxSupplyCard, Saved},
     {key::Control, L"TreatyOfAp",                &C::m_dwTreatyOfAp,               0,    meaning::crd::kTreatyOfAp, Saved},
-    {key::Control, L"PowerOffOption",            &C::m_dwPowerOffOption,           0,    meaning::kPowerOffOption, OneOf<0, 1, 2>},
-    {key::Control, L"PowerOnOption",             &C::m_dwPowerOnOption,            1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"PowerOffOption",            &C::m_dwPowerOffOption,           0,    meaning::kPowerOffOption, OneOf},
+    {key::Control, L"PowerOnOption",             &C::m_dwPowerOnOption,            1,    meaning::kPowerOnOption, Saved, OneOf},
     {key::Control, L"OpenOption",                &C::m_dwOpenOption,               0,    meaning::crd::kOpenOption, Saved},
-    {key::Control, L"CloseOption",               &C::m_dwCloseOption,              2,    meaning::kCloseOption, Saved, OneOf<0, 1, 2>},
+    {key::Control, L"CloseOption",               &C::m_dwCloseOption,              2,    meaning::kCloseOption, Saved, OneOf},
     {key::Control, L"LogicalNameOfIDCReader",    &C::m_strLogicalNameOfIDCReader,  L"",  meaning::kLogicalNameOfIDCReader, Saved},
     {key::Control, L"AllowRetainOfRetainBinErr", &C::m_bAllowRetainOfRetainBinErr, 0,    meaning::crd::kAllowRetainOfRetainBinErr, Saved},
 };

@@ -21,11 +21,11 @@ constexpr Setting kSlotRows[] = {
     {kSlot, L"CasNearFull",  Element<&C::m_arSlot, &tagCoinRecycleHopper::dwCasNearFull>,  450, meaning::kCoinCasNearFull, Saved, Label(L"%c.CasNearFull")},
     {kSlot, L"CasEmpty",     Element<&C::m_arSlot, &tagCoinRecycleHopper::dwCasEmpty>,     0, meaning::kCoinCasEmpty, Saved, Label(L"%c.CasEmpty")},
     {kSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCoinRecycleHopper::dwCasNearEmpty>, 50, meaning::kCoinCasNearEmpty, Saved, Label(L"%c.CasNearEmpty")},
-    {kSlot, L"Type",         Element<&C::m_arSlot, &tagCoinRecycleHopper::dwType>,         0, meaning::kCoinType, Saved, PerTurn(kTypes), Format(L"0x%03X"), Label(L"%c.Type")},
+    {kSlot, L"Type",         Element<&C::m_arSlot, &tagCoinRecycleHopper::dwType>,         0, meaning::kCoinType, Saved, PerIteration(kTypes), Format(L"0x%03X"), Label(L"%c.Type")},
 };
 
 constexpr Setting kSettings[] = {
-    {kHopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf<0, 1>},
+    {kHopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
     Repeat(kSlots, kSlotRows),
     {key::Comm,         L"Port",                   &C::m_dwPort,                   1,     meaning::kPort, Saved},
     {key::Comm,         L"BaudRate",               &C::m_dwBaudRate,               9600,  meaning::kBaudRate, Saved},

@@ -23,7 +23,7 @@ constexpr Setting kSlotRows[] = {
 };
 
 constexpr Setting kSettings[] = {
-    {kHopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf<0, 1>},
+    {kHopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
     Repeat(kSlots, kSlotRows),
     {key::Comm,         L"Port",             &C::m_dwPort,             1,     meaning::kPort, Saved},
     {key::Comm,         L"BaudRate",         &C::m_dwBaudRate,         9600,  meaning::kBaudRate, Saved},

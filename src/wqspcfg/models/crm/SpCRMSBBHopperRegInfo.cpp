@@ -14,9 +14,9 @@ constexpr Key kHopperA = key::Below(L"Cassette\\Hopper\\A");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {kHopper,           L"UnitPhyPosName",      &C::m_dwUnitPhyPosName,      0,     meaning::kUnitPhyPosName, Saved, OneOf<0, 1>},
+    {kHopper,           L"UnitPhyPosName",      &C::m_dwUnitPhyPosName,      0,     meaning::kUnitPhyPosName, Saved, OneOf},
     {kHopperA,          L"CurrentCasCount",     &C::m_dwCurrentCasCount,     0,     L"coins in the hopper", Saved, Label(L"A.CurrentCasCount")},
-    {kHopperA,          L"Type",                &C::m_dwType,                0,     L"denomination that the hopper dispenses: 0x64 100; 0x32 50; 0x0A 10; 0 none set", Saved, OneOf<0x64, 0x32, 0x0A, 0>, Format(L"0x%02X"), Label(L"A.Type")},
+    {kHopperA,          L"Type",                &C::m_dwType,                0,     L"denomination that the hopper dispenses: 0x64 100; 0x32 50; 0x0A 10; 0 none set", Saved, OneOf, Format(L"0x%02X"), Label(L"A.Type")},
     {kHopperA,          L"CasFull",             &C::m_dwCasFull,             500,   meaning::kCoinCasFull, Saved, Label(L"A.CasFull")},
     {kHopperA,          L"CasNearFull",         &C::m_dwCasNearFull,         450,   meaning::kCoinCasNearFull, Saved, Label(L"A.CasNearFull")},
     {kHopperA,          L"CasEmpty",            &C::m_dwCasEmpty,            0,     meaning::kCoinCasEmpty, Saved, Label(L"A.CasEmpty")},

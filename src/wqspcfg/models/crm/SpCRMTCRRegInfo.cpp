@@ -15,8 +15,8 @@ constexpr DWORD kValues[] = {100, 50, 20, 10, 0, 0};
 
 // clang-format off
 constexpr Setting kSlotRows[] = {
-    {kSlot, L"CasType",   Element<&C::m_arSlot, &C::tagSlot::dwCasType>,   0, L"cassette type: 0x00 recycle; 0xFFFFFFFF dispense only; 0x01 deposit only; 0x02 mixed; 0x04 reject", Saved, PerTurn(kTypes), OneOf<0x00, 0xFFFFFFFF, 0x01, 0x02, 0x04>, Format(L"0x%08X"), Label(L"%c.CasType")},
-    {kSlot, L"CasValues", Element<&C::m_arSlot, &C::tagSlot::dwCasValues>, 0, L"denomination: 100, 50, 20 or 10; 0 none", Saved, PerTurn(kValues), OneOf<100, 50, 20, 10, 0>, Label(L"%c.CasValues")},
+    {kSlot, L"CasType",   Element<&C::m_arSlot, &C::tagSlot::dwCasType>,   0, L"cassette type: 0x00 recycle; 0xFFFFFFFF dispense only; 0x01 deposit only; 0x02 mixed; 0x04 reject", Saved, PerIteration(kTypes), OneOf, Format(L"0x%08X"), Label(L"%c.CasType")},
+    {kSlot, L"CasValues", Element<&C::m_arSlot, &C::tagSlot::dwCasValues>, 0, L"denomination: 100, 50, 20 or 10; 0 none", Saved, PerIteration(kValues), OneOf, Label(L"%c.CasValues")},
 };
 
 constexpr Setting kSettings[] = {

@@ -11,8 +11,8 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,    meaning::kPowerOffOption, Saved, OneOf<0, 1, 2>},
-    {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,    meaning::kPowerOffOption, Saved, OneOf},
+    {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,    meaning::kPowerOnOption, Saved, OneOf},
     {key::Comm,    L"Type",                          &C::m_dwType,                         0,    meaning::crd::kType, Saved},
     {key::Comm,    L"Port",                          &C::m_dwPort,                         1,    meaning::kPort, Saved},
     {key::Comm,    L"BaudRate",                      &C::m_dwBaudRate,                     9600, meaning::kBaudRate, Saved},

@@ -12,9 +12,9 @@ namespace {
 // clang-format off
 constexpr Setting kSettings[] = {
     {key::Device,  L"DN.IDC_MOTOR",                  &C::m_strDN_IDC_MOTOR,                L"", L"name of the device driver module of the motorised card reader", Saved},
-    {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,   meaning::kPowerOffOption, Saved, OneOf<0, 1, 2>},
-    {key::Control, L"SpCloseOption",                 &C::m_dwSpCloseOption,                2,   meaning::kCloseOption, Saved, OneOf<0, 1, 2>},
-    {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,   meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,   meaning::kPowerOffOption, Saved, OneOf},
+    {key::Control, L"SpCloseOption",                 &C::m_dwSpCloseOption,                2,   meaning::kCloseOption, Saved, OneOf},
+    {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,   meaning::kPowerOnOption, Saved, OneOf},
     {key::Control, L"SkimOfInsertCard",              &C::m_dwSkimOfInsertCard,             0,   meaning::crd::kSkimOfInsertCard, Saved},
     {key::Control, L"UnPresentOfMoveCardManual",     &C::m_bUnPresentOfMoveCardManual,     0,   meaning::kUnPresentOfMoveCardManual, Saved},
     {key::Control, L"NeedResetOfRecoverSkimmerSt",   &C::m_bNeedResetOfRecoverSkimmerSt,   0,   meaning::kNeedResetOfRecoverSkimmerSt, Saved},

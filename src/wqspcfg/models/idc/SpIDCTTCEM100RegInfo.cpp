@@ -15,8 +15,8 @@ constexpr Setting kSettings[] = {
     {key::Comm,    L"BaudRate",                 &C::m_dwBaudRate,                 9600, meaning::kBaudRate, Saved},
     {key::Control, L"PolicyOfSetMediaEntering", &C::m_dwPolicyOfSetMediaEntering, 0,    meaning::kPolicyOfSetMediaEntering, Saved},
     {key::Control, L"SkimOfInsertCard",         &C::m_dwSkimOfInsertCard,         0,    meaning::crd::kSkimOfInsertCard, Saved},
-    {key::Control, L"PowerOffOption",           &C::m_dwPowerOffOption,           0,    meaning::kPowerOffOption, Saved, OneOf<0, 1, 2>},
-    {key::Control, L"PowerOnOption",            &C::m_dwPowerOnOption,            1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"PowerOffOption",           &C::m_dwPowerOffOption,           0,    meaning::kPowerOffOption, Saved, OneOf},
+    {key::Control, L"PowerOnOption",            &C::m_dwPowerOnOption,            1,    meaning::kPowerOnOption, Saved, OneOf},
 };
 // clang-format on
 

@@ -13,8 +13,8 @@ namespace {
 constexpr Setting kSettings[] = {
     {key::Comm,    L"Port",                          &C::m_dwPort,                         1,    meaning::kPort, Saved},
     {key::Comm,    L"BaudRate",                      &C::m_dwBaudRate,                     9600, meaning::kBaudRate, Saved},
-    {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,    meaning::kPowerOffOption, Saved, OneOf<0, 1, 2>},
-    {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,    meaning::kPowerOnOption, Saved, OneOf<0, 1, 2, 3>},
+    {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,    meaning::kPowerOffOption, Saved, OneOf},
+    {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,    meaning::kPowerOnOption, Saved, OneOf},
     {key::Control, L"PolicyOfSetMediaEntering",      &C::m_dwPolicyOfSetMediaEntering,     0,    meaning::kPolicyOfSetMediaEntering, Saved},
     {key::Control, L"UnPresentOfMoveCardManual",     &C::m_bUnPresentOfMoveCardManual,     0,    meaning::kUnPresentOfMoveCardManual, Saved},
     {key::Control, L"ToReadPositionIfNoActionReset", &C::m_bToReadPositionIfNoActionReset, 0,    meaning::kToReadPositionIfNoActionReset, Saved},

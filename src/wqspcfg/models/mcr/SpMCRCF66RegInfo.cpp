@@ -10,7 +10,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,   L"Type",          &C::m_dwType,          2, L"communication: 1 serial; 2 USB", Saved, OneOf<1, 2>, LogAs([](C&, DWORD dwType) -> DWORD { return dwType == 1 ? 1 : 2; })},
+    {key::Comm,   L"Type",          &C::m_dwType,          2, L"communication: 1 serial; 2 USB", Saved, OneOf, LogAs([](C&, DWORD dwType) -> DWORD { return dwType == 1 ? 1 : 2; })},
     {key::Comm,   L"Port",          &C::m_dwPort,          4, meaning::kPort, Saved},
     {key::Device, L"SyncEjectCard", &C::m_dwSyncEjectCard, 1, L"ejecting: 0 asynchronous; nonzero synchronous", AsSwitch},
 };

@@ -26,7 +26,7 @@ constexpr Setting kSettings[] = {
     {key::Device, L"EjectWhenIsEntering",        &C::m_bEjectWhenIsEntering,         0,   L"media that are entering are ejected: 0 no; nonzero yes", Saved},
     {key::Device, L"CombineMode",                &C::m_dwCombineMode,                0,   L"how the pictures of the two sides are combined; 0 not at all", Saved},
     {key::Device, L"ScanAreaModal",              &C::m_dwScanAreaModal,              0,   L"how the scanned area is chosen; 0 the standard way", Saved},
-    {key::Device, L"Rotation",                   &C::m_dwRotation,                   0,   L"rotation of scanned pictures in degrees: 0, 90, 180 or 270", Saved, OneOf<0, 90, 180, 270>},
+    {key::Device, L"Rotation",                   &C::m_dwRotation,                   0,   L"rotation of scanned pictures in degrees: 0, 90, 180 or 270", Saved, OneOf},
 };
 // clang-format on
 

@@ -24,7 +24,7 @@ constexpr Setting kSettings[] = {
     {key::Device, L"UseOneForm",            &C::m_dwUseOneForm,           0,         meaning::printer::kUseOneForm, Saved},
     {key::Device, L"StartLineNum",          &C::m_dwStartLineNum,         1,         meaning::printer::kStartLineNum, Saved},
     {key::Device, L"MaxLineNum",            &C::m_dwMaxLineNum,           24,        meaning::printer::kMaxLineNum, Saved},
-    {key::Device, L"PowerOnOption",         &C::m_dwPowerOnOption,        1,         meaning::printer::kPowerOnOption, Saved, OneOf<0, 1, 2>},
+    {key::Device, L"PowerOnOption",         &C::m_dwPowerOnOption,        1,         meaning::printer::kPowerOnOption, Saved, OneOf},
     {key::Device, L"MaxRetract",            &C::m_dwMaxRetract,           10,        meaning::printer::kMaxRetract, Saved},
     {key::Device, L"FormForceUnit",         &C::m_dwFormForceUnit,        0,         L"unit that forms are forced to; 0 the form's own", Saved},
     {key::Device, L"PrintUseUnit",          &C::m_dwPrintUseUnit,         0,         L"unit that printing uses; 0 the form's own", Saved},

@@ -32,7 +32,7 @@ constexpr Setting kSettings[] = {
     {key::Device, L"TrackTwoReturnStyle", &C::m_dwTrackTwoReturnStyle, 0,    L"style in which track 2 is returned; 0 as read", Saved},
     {key::Device, L"MaxRetract",          &C::m_dwMaxRetract,          10,   meaning::printer::kMaxRetract, Saved},
     {key::Device, L"RetractCount",        &C::m_dwRetractCount,        0,    meaning::printer::kRetractCount, Saved},
-    {key::Device, L"OpenOption",          &C::m_dwOpenOption,          0,    meaning::printer::kOpenOption, Saved, OneOf<0, 1, 2>},
+    {key::Device, L"OpenOption",          &C::m_dwOpenOption,          0,    meaning::printer::kOpenOption, Saved, OneOf},
     {key::Device, L"Track2",              &C::m_strTrack2,             L"",  meaning::printer::kTrack2, Saved},
     {key::Device, L"Track3",              &C::m_strTrack3,             L"",  meaning::printer::kTrack3, Saved},
 };

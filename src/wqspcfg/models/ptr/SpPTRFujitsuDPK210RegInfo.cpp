@@ -28,7 +28,7 @@ constexpr Setting kSettings[] = {
     {key::Device, L"StartLineNum",             &C::m_dwStartLineNum,            1,    meaning::printer::kStartLineNum, Saved},
     {key::Device, L"MaxLineNum",               &C::m_dwMaxLineNum,              24,   meaning::printer::kMaxLineNum, Saved},
     {key::Device, L"KeepPassbookInAfterPrint", &C::m_bKeepPassbookInAfterPrint, 0,    L"the passbook stays in the device after printing: 0 no; nonzero yes", Saved},
-    {key::Device, L"PowerOnOption",            &C::m_dwPowerOnOption,           1,    meaning::printer::kPowerOnOption, Saved, OneOf<0, 1, 2>},
+    {key::Device, L"PowerOnOption",            &C::m_dwPowerOnOption,           1,    meaning::printer::kPowerOnOption, Saved, OneOf},
     {key::Device, L"InsertVertical",           &C::m_bInsertVertical,           0,    meaning::printer::kInsertVertical, Saved},
     {key::Device, L"strTrack2",                &C::m_strTrack2,                 L"",  meaning::printer::kTrack2, Saved},
     {key::Device, L"strTrack3",                &C::m_strTrack3,                 L"",  meaning::printer::kTrack3, Saved},

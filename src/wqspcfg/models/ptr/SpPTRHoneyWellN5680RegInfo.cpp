@@ -11,7 +11,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"Type",     &C::m_dwType,     0,    meaning::printer::kType, Saved, OneOf<0, 1>},
+    {key::Comm, L"Type",     &C::m_dwType,     0,    meaning::printer::kType, Saved, OneOf},
     {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved},
     {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
 };

@@ -37,7 +37,7 @@ constexpr Setting kReceiptsLeft[] = {
     {key::Device, L"CurLastCount", DwordValue, 0, L"receipts left", NotLogged},
 };
 // clang-format on
-constexpr OnRequest kOnRequest[] = {{L"DescCurLowCount", L"DescCurLowCount", kReceiptsLeft}};
+constexpr OperationSettings kOnRequest[] = {{L"DescCurLowCount", L"DescCurLowCount", kReceiptsLeft}};
 
 } // namespace
 

@@ -21,7 +21,7 @@ constexpr Setting kSettings[] = {
     {key::Device, L"FirstOverLen",        &C::m_dwFirstOverLen,       0,         meaning::printer::kFirstOverLen, Saved},
     {key::Device, L"SecondOverLen",       &C::m_dwSecondOverLen,      0,         meaning::printer::kSecondOverLen, Saved},
     {key::Device, L"UseOneForm",          &C::m_dwUseOneForm,         0,         meaning::printer::kUseOneForm, Saved},
-    {key::Device, L"PowerOnOption",       &C::m_dwPowerOnOption,      1,         meaning::printer::kPowerOnOption, Saved, OneOf<0, 1, 2>},
+    {key::Device, L"PowerOnOption",       &C::m_dwPowerOnOption,      1,         meaning::printer::kPowerOnOption, Saved, OneOf},
     {key::Device, L"MaxRetract",          &C::m_dwMaxRetract,         10,        meaning::printer::kMaxRetract, Saved},
     {key::Device, L"TopAdjustSpace",      &C::m_dwTopAdjustSpace,     0,         meaning::printer::kTopAdjustSpace, Saved},
     {key::Device, L"LeftAdjustSpace",     &C::m_dwLeftAdjustSpace,    0,         meaning::printer::kLeftAdjustSpace, Saved},

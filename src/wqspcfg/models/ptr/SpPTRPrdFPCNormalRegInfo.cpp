@@ -17,7 +17,7 @@ constexpr Setting kReadImageRule[] = {
     {key::Below(L"ReadImageRule"), L"%s", StringValue, L"", L"rule of the read-image command, under any name"},
 };
 // clang-format on
-constexpr OnRequest kOnRequest[] = {{L"LoadReadImageRuleCfg", L"", kReadImageRule}};
+constexpr OperationSettings kOnRequest[] = {{L"LoadReadImageRuleCfg", L"", kReadImageRule}};
 
 constexpr const wchar_t* kSaved[] = {L"DelDataAfterMatchFinger"};
 constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved, false); // the mix-in writes the protocol

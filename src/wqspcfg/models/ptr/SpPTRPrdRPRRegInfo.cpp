@@ -13,7 +13,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"PrintMode",                       &C::m_dwPrintMode,                      0,         L"print mode; 0 the standard one", Saved},
     {key::Control, L"PrintBMPMode",                    &C::m_dwPrintBMPMode,                   0,         L"mode of printing pictures; 0 the standard one", Saved},
     {key::Control, L"UseBlackMark",                    &C::m_bUseBlackMark,                    0,         meaning::printer::kIsUseBlackMark, Saved},
-    {key::Control, L"PowerOnAction",                   &C::m_dwPowerOnAction,                  0,         meaning::printer::kPowerOnOption, Saved, OneOf<0, 1, 2>},
+    {key::Control, L"PowerOnAction",                   &C::m_dwPowerOnAction,                  0,         meaning::printer::kPowerOnOption, Saved, OneOf},
     {key::Control, L"FullCut",                         &C::m_bFullCut,                         1,         meaning::printer::kFullCut, Saved},
     {key::Control, L"CutModeEx",                       &C::m_dwCutModeEx,                      0,         L"extended cut mode; 0 none", Saved},
     {key::Control, L"FeedBeforePrint",                 &C::m_dwFeedBeforePrint,                0,         meaning::printer::kFeedBeforePrint, Saved},

@@ -20,10 +20,10 @@ constexpr Setting kSettings[] = {
     {key::Comm,   L"PortOfRFID",      &C::m_dwPortOfRFID,      1, meaning::printer::kRFIDPort, Saved},
     {key::Device, L"LeftAdjustSpace", &C::m_dwLeftAdjustSpace, 0, meaning::printer::kLeftAdjustSpace, Saved},
     {key::Device, L"ResetCount",      &C::m_dwResetCount,      3, meaning::printer::kResetCount, Saved},
-    {key::Device, L"OpenActionType",  &C::m_dwOpenActionType,  0, meaning::printer::kOpenOption, Saved, OneOf<0, 1, 2>},
-    {key::Device, L"CloseActionType", &C::m_dwCloseActionType, 0, meaning::printer::kCloseActionType, Saved, OneOf<0, 1, 2>},
-    {key::Device, L"ResetActionType", &C::m_dwResetActionType, 1, meaning::printer::kResetActionType, Saved, OneOf<0, 1, 2>},
-    {key::Device, L"BankType",        &C::m_dwBankType,        1, meaning::printer::kBankType, Saved, OneOf<1, 2, 3>},
+    {key::Device, L"OpenActionType",  &C::m_dwOpenActionType,  0, meaning::printer::kOpenOption, Saved, OneOf},
+    {key::Device, L"CloseActionType", &C::m_dwCloseActionType, 0, meaning::printer::kCloseActionType, Saved, OneOf},
+    {key::Device, L"ResetActionType", &C::m_dwResetActionType, 1, meaning::printer::kResetActionType, Saved, OneOf},
+    {key::Device, L"BankType",        &C::m_dwBankType,        1, meaning::printer::kBankType, Saved, OneOf},
 };
 // clang-format on
 

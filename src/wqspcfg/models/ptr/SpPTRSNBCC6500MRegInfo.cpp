@@ -26,7 +26,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"ContentYPoxUpOffset",           &C::m_dwContentYPoxUpOffset,          0, L"upward offset of the content", Saved},
     {key::Control, L"ContentYPoxDownOffset",         &C::m_dwContentYPoxDownOffset,        0, L"downward offset of the content", Saved},
     {key::Control, L"FirstGetCheckNoWhenPrintCheck", &C::m_bFirstGetCheckNoWhenPrintCheck, 0, L"printing a cheque first gets its number: 0 no; nonzero yes", Saved},
-    {key::Control, L"CompareCheckStartNo",           &C::m_bCompareCheckStartNo,           0, meaning::printer::kCompareCheckStartNo, Saved, OneOf<0, 1>},
+    {key::Control, L"CompareCheckStartNo",           &C::m_bCompareCheckStartNo,           0, meaning::printer::kCompareCheckStartNo, Saved, OneOf},
     {key::Control, L"PintTwoDimCodePic",             &C::m_bPintTwoDimCodePic,             0, L"print a two-dimensional code: 0 no; nonzero yes", Saved},
 };
 // clang-format on

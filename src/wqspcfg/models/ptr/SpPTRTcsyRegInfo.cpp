@@ -12,7 +12,7 @@ namespace {
 // clang-format off
 constexpr Setting kSettings[] = {
     {key::Comm,    L"Port",              &C::m_dwPort,             1,  meaning::kPort, Saved},
-    {key::Comm,    L"Type",              &C::m_dwType,             0,  meaning::printer::kType, Saved, OneOf<0, 1>},
+    {key::Comm,    L"Type",              &C::m_dwType,             0,  meaning::printer::kType, Saved, OneOf},
     {key::Device,  L"OnlyGetFeature",    &C::m_bOnlyGetFeature,    0,  L"only the fingerprint feature is taken: 0 no; nonzero yes", Saved},
     {key::Device,  L"FeatureTimeOut",    &C::m_dwFeatureTimeOut,   30, L"time-out in s for taking the feature", Saved},
     {key::Control, L"StExtraRetFacInfo", &C::m_bStExtraRetFacInfo, 0,  L"the extended status returns vendor information: 0 no; nonzero yes", Saved},

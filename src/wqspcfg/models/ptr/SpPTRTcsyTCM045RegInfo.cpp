@@ -12,7 +12,7 @@ namespace {
 // clang-format off
 constexpr Setting kSettings[] = {
     {key::Control, L"MatchLev",                   &C::m_dwMatchLev,                  3, meaning::printer::kMatchLev, Saved},
-    {key::Comm,    L"Type",                       &C::m_dwType,                      0, meaning::printer::kType, Saved, OneOf<0, 1>},
+    {key::Comm,    L"Type",                       &C::m_dwType,                      0, meaning::printer::kType, Saved, OneOf},
     {key::Comm,    L"Port",                       &C::m_dwPort,                      1, meaning::kPort, Saved},
     {key::Comm,    L"BautRateIndex",              &C::m_dwBautRateIndex,             0, L"index of the serial speed in the device's list of speeds", Saved},
     {key::Control, L"SentMediatakenWaitFingerUp", &C::m_bSentMediatakenWaitFingerUp, 0, L"the media-taken event waits for the finger to be lifted: 0 no; nonzero yes", Saved},

@@ -20,9 +20,9 @@ constexpr Setting kSettings[] = {
     {key::Comm,   L"PortOfRFID",      &C::m_dwPortOfRFID,      1,  meaning::printer::kRFIDPort, Saved},
     {key::Device, L"LeftAdjustSpace", &C::m_dwLeftAdjustSpace, 0,  meaning::printer::kLeftAdjustSpace, Saved},
     {key::Device, L"ResetCount",      &C::m_dwResetCount,      3,  meaning::printer::kResetCount, Saved},
-    {key::Device, L"OpenActionType",  &C::m_dwOpenActionType,  0,  meaning::printer::kOpenOption, Saved, OneOf<0, 1, 2>},
-    {key::Device, L"CloseActionType", &C::m_dwCloseActionType, 0,  meaning::printer::kCloseActionType, Saved, OneOf<0, 1, 2>},
-    {key::Device, L"ResetActionType", &C::m_dwResetActionType, 1,  meaning::printer::kResetActionType, Saved, OneOf<0, 1, 2>},
+    {key::Device, L"OpenActionType",  &C::m_dwOpenActionType,  0,  meaning::printer::kOpenOption, Saved, OneOf},
+    {key::Device, L"CloseActionType", &C::m_dwCloseActionType, 0,  meaning::printer::kCloseActionType, Saved, OneOf},
+    {key::Device, L"ResetActionType", &C::m_dwResetActionType, 1,  meaning::printer::kResetActionType, Saved, OneOf},
     {key::Device, L"FrimBankType",    &C::m_dwFrimBankType,    0,  L"bank profile of the firmware; 0 the standard one", Saved},
     {key::Device, L"SaveImageTime",   &C::m_dwSaveImageTime,   30, meaning::printer::kSaveImageTime, Saved, Range(0, 90)},
 };

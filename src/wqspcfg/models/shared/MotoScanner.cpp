@@ -33,7 +33,7 @@ bool MotoScanner::Load(CLog* pLog)
 {
     Loading loading(*this, pLog);
     const bool bResult = CBCRRegInfo::Load(pLog);
-    return loading.Read(kSettings) && bResult;
+    return loading.Read(Settings(), kSettings) && bResult;
 }
 
 } // namespace wqspcfg

@@ -93,7 +93,7 @@ constexpr DWORD kMonitorLeft[C::kMonitors] = {0, 1024, 2048, 3072};
 
 // clang-format off
 constexpr Setting kMonitorRows[] = {
-    {kMonitor, L"Left",   Element<&C::m_arMonitor, &MonitorArea::m_dwLeft>,   0, L"left edge of the monitor on the desktop, in pixels (signed)", PerTurn(kMonitorLeft), Label(L"Monitor%d\\Left")},
+    {kMonitor, L"Left",   Element<&C::m_arMonitor, &MonitorArea::m_dwLeft>,   0, L"left edge of the monitor on the desktop, in pixels (signed)", PerIteration(kMonitorLeft), Label(L"Monitor%d\\Left")},
     {kMonitor, L"Top",    Element<&C::m_arMonitor, &MonitorArea::m_dwTop>,    0, L"top edge of the monitor on the desktop, in pixels (signed)", Label(L"Monitor%d\\Top")},
     {kMonitor, L"Width",  Element<&C::m_arMonitor, &MonitorArea::m_dwWidth>,  1024, L"width of the monitor, in pixels", Label(L"Monitor%d\\Width")},
     {kMonitor, L"Height", Element<&C::m_arMonitor, &MonitorArea::m_dwHeight>, 768, L"height of the monitor, in pixels", Label(L"Monitor%d\\Height")},
@@ -107,7 +107,7 @@ constexpr Setting kLedRows[] = {
 };
 
 constexpr Setting kSettings[] = {
-    {kScreen, L"Monitor", &C::m_dwMonitor, 1, L"number of the monitor that shows the terminal, 1 to 4; any other number means 1", Saved, Range(1, C::kMonitors), Correct([](C&, DWORD value, bool) -> DWORD { return value >= 1 && value <= C::kMonitors ? value : 1; })},
+    {kScreen, L"Monitor", &C::m_dwMonitor, 1, L"number of the monitor that shows the terminal, 1 to 4; any other number means 1", Saved, Range(1, C::kMonitors), Normalize([](C&, DWORD value, bool) -> DWORD { return value >= 1 && value <= C::kMonitors ? value : 1; })},
     Repeat(1, C::kMonitors, kMonitorRows),
     {kScreen,   L"Resolutions",   &C::m_strResolutions,  kDefaultResolution, L"the sizes of the screen between semicolons, each as columns x rows in characters; the first is used at the start", Saved},
     {kFont,     L"FontName",      &C::m_strFontName,     L"Courier New",     L"name of a font of fixed width", Saved},
@@ -116,10 +116,10 @@ constexpr Setting kSettings[] = {
     {key::Beep, L"BeepFrequency", &C::m_dwBeepFrequency, 1000,               L"pitch of the beep, in Hz", Saved},
     {key::Beep, L"BeepTime",      &C::m_dwBeepTime,      200,                L"length of a beep, in milliseconds", Saved},
     {key::Beep, L"BeepFile",      &C::m_strBeepFile,     L"",                L"sound file played in place of the beep; empty plays the beep", Saved},
-    {kLeds,     L"LedCount",      &C::m_dwLedCount,      0,                  L"number of LEDs, 0 to 8; a greater number means 8", Saved, Range(0, C::kLeds), Correct([](C&, DWORD value, bool) -> DWORD { return value <= C::kLeds ? value : C::kLeds; })},
+    {kLeds,     L"LedCount",      &C::m_dwLedCount,      0,                  L"number of LEDs, 0 to 8; a greater number means 8", Saved, Range(0, C::kLeds), Normalize([](C&, DWORD value, bool) -> DWORD { return value <= C::kLeds ? value : C::kLeds; })},
     Repeat(1, C::kLeds, kLedRows),
     {kWindow, L"Caption",     &C::m_strCaption,    L"Text terminal", L"caption of the window", Saved},
-    {kWindow, L"WindowStart", &C::m_dwWindowStart, 0,                L"the window at the start: 0 normal; 1 minimised; 2 full screen; 3 hidden until the first output", Saved, OneOf<0, 1, 2, 3>},
+    {kWindow, L"WindowStart", &C::m_dwWindowStart, 0,                L"the window at the start: 0 normal; 1 minimised; 2 full screen; 3 hidden until the first output", Saved, OneOf},
     {kWindow, L"TopMost",     &C::m_bTopMost,      0,                L"the window stays above all others: 0 no; nonzero yes", Saved},
     Step([](C& c, Loading& loading) { ParseLists(c, loading.Log()); }),
 };
@@ -141,7 +141,7 @@ bool TextTerminal::Load(CLog* pLog)
 {
     Loading loading(*this, pLog);
     const bool bResult = CTTURegInfo::Load(pLog);
-    return loading.Read(kSettings) && bResult;
+    return loading.Read(Settings(), kSettings) && bResult;
 }
 
 void TextTerminal::Save()

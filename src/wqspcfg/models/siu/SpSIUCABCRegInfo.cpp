@@ -41,10 +41,10 @@ constexpr Key kCashModule = key::Absolute(L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\TA
 
 // clang-format off
 constexpr Setting kLightRows[] = {
-    {key::Control, L"XFSIndesOfLight_%d", StringValue, L"", kLightMeaning, Saved, NotLogged, LoadedBy([](C&, Loading&) {})},
+    {key::Control, L"XFSIndesOfLight_%d", StringValue, L"", kLightMeaning, Saved, NotLogged, Documented},
 };
 constexpr Setting kCashModuleRow =
-    {kCashModule, L"Executable", StringValue, L"WQC81Driver.exe", L"executable of the cash module's driver, which tells whether the cash module has a light of its own", Label(L"TARNO_RECYCLE\\Executable"), Correct([](C& c, CString& strExecutable, bool bFound) {
+    {kCashModule, L"Executable", StringValue, L"WQC81Driver.exe", L"executable of the cash module's driver, which tells whether the cash module has a light of its own", Label(L"TARNO_RECYCLE\\Executable"), Normalize([](C& c, CString& strExecutable, bool bFound) {
         c.m_bCashModuleLight = bFound && HasCashModuleLight(strExecutable);
     })};
 
@@ -55,16 +55,16 @@ constexpr Setting kSettings[] = {
     {kControl, L"AllowUpsFlashBreakTime",             &C::m_dwAllowUpsFlashBreakTime,             1000, meaning::kAllowUpsFlashBreakTime, Saved},
     {kControl, L"PoweroffAutoShutdown",               &C::m_dwPoweroffAutoShutdown,               0,    meaning::kPoweroffAutoShutdown, Saved},
     {kControl, L"AutoRebootWhenNextPowerOn",          &C::m_dwAutoRebootWhenNextPowerOn,          1,    L"the terminal restarts when power returns after such a shutdown: 0 no; nonzero yes", Saved},
-    {kControl, L"UsePowerSwitch",                     &C::m_dwUsePowerSwitch,                     0,    meaning::kUsePowerSwitch, Saved, OneOf<0, 1, 2>},
-    {kControl, L"UseSafeDoor",                        &C::m_dwUseSafeDoor,                        0,    meaning::kUseSafeDoor, Saved, OneOf<0, 1>},
+    {kControl, L"UsePowerSwitch",                     &C::m_dwUsePowerSwitch,                     0,    meaning::kUsePowerSwitch, Saved, OneOf},
+    {kControl, L"UseSafeDoor",                        &C::m_dwUseSafeDoor,                        0,    meaning::kUseSafeDoor, Saved, OneOf},
     {kControl, L"KeepSupervisorCabinetOpen",          &C::m_dwKeepSupervisorCabinetOpen,          1,    meaning::kKeepSupervisorCabinetOpen, Saved},
     {kControl, L"BuzzerOfWithoutSelectContinueAudio", &C::m_dwBuzzerOfWithoutSelectContinueAudio, 0,    meaning::kContinueBuzzerWithoutAudio, Saved},
     {kControl, L"RearBackLightCtrl",                  &C::m_dwRearBackLightCtrl,                  0,    meaning::kRearBackLightCtrl, Saved},
     {kControl, L"FrontBackLightCtrl",                 &C::m_dwFrontBackLightCtrl,                 1,    meaning::kFrontBackLightCtrl, Saved},
-    {kSetup,        L"TermType",                           &C::m_strTermType,                          L"",  L"terminal type: WQT-7100 and WQT-7200 have a tamper sensor at the card slot", Correct([](C& c, CString& strType, bool) {
+    {kSetup,        L"TermType",                           &C::m_strTermType,                          L"",  L"terminal type: WQT-7100 and WQT-7200 have a tamper sensor at the card slot", Normalize([](C& c, CString& strType, bool) {
         c.m_bTamperTermType = Contains(strType, L"WQT-7100") || Contains(strType, L"WQT-7200");
     })},
-    {kControl,      L"SkimmerNeedReboot",         &C::m_dwSkimmerNeedReboot,         0,                 L"a skimmer fault at the card slot: 0 recover without a restart; 1 restart and recover; 2 restart without recovering", Saved, OneOf<0, 1, 2>},
+    {kControl,      L"SkimmerNeedReboot",         &C::m_dwSkimmerNeedReboot,         0,                 L"a skimmer fault at the card slot: 0 recover without a restart; 1 restart and recover; 2 restart without recovering", Saved, OneOf},
     {kControl,      L"UseSkimmer",                &C::m_dwUseSkimmer,                1,                 L"the skimmer sensor at the card slot is used: 0 no; nonzero yes", Saved},
     {kControl,      L"UseSafeAgent",              &C::m_dwUseSafeAgent,              0,                 meaning::kUseSafeAgent, Saved},
     {kControl,      L"UseInnerUPS",               &C::m_dwUseInnerUPS,               0,                 L"the internal UPS is used: 0 no; nonzero yes", Saved},
@@ -82,13 +82,13 @@ constexpr Setting kSettings[] = {
     {kSafeAgent,    L"BlindAlarmTime",            &C::m_dwBlindAlarmTime,            3,                 meaning::kBlindAlarmTime, Saved, Range(0, 255)},
     {kSafeAgent,    L"CoverAlarmTime",            &C::m_dwCoverAlarmTime,            300,               meaning::kCoverAlarmTime, Saved, Range(0, 65535)},
     {kSafeAgent,    L"AutoCancel",                &C::m_dwAutoCancel,                1,                 meaning::kAutoCancel, Saved},
-    {kSafeAgent,    L"ObserverType",              &C::m_dwObserverType,              2,                 L"what is observed: 1 the current state; 2 the warning state", Saved, OneOf<1, 2>},
+    {kSafeAgent,    L"ObserverType",              &C::m_dwObserverType,              2,                 L"what is observed: 1 the current state; 2 the warning state", Saved, OneOf},
     {key::Beep,     L"KeyPress",                  &C::m_strKeyPress,                 L"C:\\vexo\\sp\\Config\\sp.data\\KeyDownSound.wav", L"sound file of a key press", Saved},
     {key::Beep,     L"Exclamation",               &C::m_strExclamation,              L"",               L"sound file of an exclamation", Saved},
     {key::Beep,     L"Warning",                   &C::m_strWarning,                  L"",               L"sound file of a warning", Saved},
     {key::Beep,     L"Error",                     &C::m_strError,                    L"C:\\vexo\\sp\\Config\\sp.data\\DeviceErrSound.wav", L"sound file of an error", Saved},
     {key::Beep,     L"Critical",                  &C::m_strCritical,                 L"",               L"sound file of a critical error", Saved},
-    {kControl,      L"DimScreenMode",             &C::m_dwDimScreenMode,             0,                 L"dimming of the screen by the light sensor: 0 off; 1 simple; 2 incremental", Saved, OneOf<0, 1, 2>},
+    {kControl,      L"DimScreenMode",             &C::m_dwDimScreenMode,             0,                 L"dimming of the screen by the light sensor: 0 off; 1 simple; 2 incremental", Saved, OneOf},
     {kControl,      L"RearUpDoorRelationCabinet", &C::m_dwRearUpDoorRelationCabinet, 0,                 meaning::kRearUpDoorRelationCabinet, Saved},
     {kControl,      L"DecorateDoorRelateCabinet", &C::m_dwDecorateDoorRelateCabinet, 0,                 meaning::kDecorateDoorRelateCabinet, Saved},
     {kControl,      L"BrmHotLineRelateSafeDoor",  &C::m_dwBrmHotLineRelateSafeDoor,  0,                 L"the state of the safe door is linked to its handle: 0 no; nonzero yes", Saved},
@@ -96,7 +96,7 @@ constexpr Setting kSettings[] = {
     {key::Control,  L"PolicyOfCabinetOpen",       &C::m_dwPolicyOfCabinetOpen,       4,                 meaning::kPolicyOfCabinetOpen, Saved},
     {key::Control,  L"CabinetOpenBeepPath",       &C::m_strCabinetOpenBeepPath,      L"C:\\vexo\\sp\\Config\\sp.data\\DeviceErrSound.wav", meaning::kCabinetOpenBeepPath, Saved},
     {key::Control,  L"PhoneIndex",                &C::m_dwPhoneIndex,                10,                L"number of the handset sensor", Saved},
-    {key::Control,  L"IsUseHandsetSensor",        &C::m_bIsUseHandsetSensor,         0,                 L"the handset sensor masks the 24 V supply: 0 no; 1 yes", Saved, OneOf<0, 1>},
+    {key::Control,  L"IsUseHandsetSensor",        &C::m_bIsUseHandsetSensor,         0,                 L"the handset sensor masks the 24 V supply: 0 no; 1 yes", Saved, OneOf},
     kCashModuleRow,
     Repeat(kFirstLight, kLastLight, kLightRows),
     {key::Control, L"ProximityPresentWaitTime", &C::m_dwProximityPresentWaitTime, 0, meaning::kProximityPresentWaitTime, Saved},
@@ -126,9 +126,9 @@ bool CSpSIUCABCRegInfo::Load(CLog* pLog)
 {
     Loading loading(*this, pLog);
     const bool bResult = CSIURegInfo::Load(pLog);
-    loading.Read({std::begin(kSettings), kAfterCashModule});
+    loading.Read(Settings(), std::span<const Setting>{std::begin(kSettings), kAfterCashModule});
     LoadLights(loading);
-    loading.Read({kAfterCashModule, std::end(kSettings)});
+    loading.Read(Settings(), std::span<const Setting>{kAfterCashModule, std::end(kSettings)});
     return bResult;
 }
 

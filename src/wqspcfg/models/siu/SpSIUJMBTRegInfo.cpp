@@ -20,7 +20,7 @@ template <unsigned N>
 constexpr auto kPolarityOf = [](C& c, unsigned) -> DWORD& { return c.m_dwSwitch_Pol[N - 1]; };
 // A switch without a polarity becomes port 0 and keeps the polarity it has; installed terminals rely on it.
 template <unsigned N>
-constexpr auto kIndexZeroWithoutPolarity = Correct([](C& c, DWORD dwPolarity, bool bFound) -> DWORD {
+constexpr auto kIndexZeroWithoutPolarity = Normalize([](C& c, DWORD dwPolarity, bool bFound) -> DWORD {
     if (!bFound) {
         c.m_dwSwitch[N - 1] = 0;
     }

@@ -20,8 +20,8 @@ constexpr Key kPortRelate = key::Below(L"PortRelate\\");
 constexpr Setting kSettings[] = {
     {key::Device,     L"DN.SIU_NORMAL",                      &C::m_strDN_SIU_NORMAL,                     L"WQDrSIUTEK0816",       L"name of the board's driver", Saved},
     {kParameterCheck, L"ContinueBuzzerOfWithoutSelectAudio", &C::m_dwContinueBuzzerOfWithoutSelectAudio, 0,                       meaning::kContinueBuzzerWithoutAudio, Saved, QualifiedLabel},
-    {kSensors,        L"UsePowerSwitch",                     &C::m_dwUsePowerSwitch,                     0,                       meaning::kUsePowerSwitch, Saved, OneOf<0, 1, 2>, QualifiedLabel},
-    {kSensors,        L"UseSafeDoor",                        &C::m_dwUseSafeDoor,                        0,                       meaning::kUseSafeDoor, Saved, OneOf<0, 1>, QualifiedLabel},
+    {kSensors,        L"UsePowerSwitch",                     &C::m_dwUsePowerSwitch,                     0,                       meaning::kUsePowerSwitch, Saved, OneOf, QualifiedLabel},
+    {kSensors,        L"UseSafeDoor",                        &C::m_dwUseSafeDoor,                        0,                       meaning::kUseSafeDoor, Saved, OneOf, QualifiedLabel},
     {kSensors,        L"KeepSupervisorCabinetOpen",          &C::m_dwKeepSupervisorCabinetOpen,          1,                       meaning::kKeepSupervisorCabinetOpen, Saved, QualifiedLabel},
     {kSensors,        L"ProximityPresentWaitTime",           &C::m_dwProximityPresentWaitTime,           0,                       meaning::kProximityPresentWaitTime, Saved, QualifiedLabel},
     {kSensors,        L"SetScreenSTByProximityST",           &C::m_bSetScreenSTByProximityST,            0,                       meaning::kSetScreenSTByProximityST, Saved, QualifiedLabel},

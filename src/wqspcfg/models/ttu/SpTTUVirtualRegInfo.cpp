@@ -45,7 +45,7 @@ bool CSpTTUVirtualRegInfo::Load(CLog* pLog)
 {
     Loading loading(*this, pLog);
     const bool bResult = TextTerminal::Load(pLog);
-    return loading.Read(kSettings) && bResult;
+    return loading.Read(Settings(), kSettings) && bResult;
 }
 
 void CSpTTUVirtualRegInfo::Save()

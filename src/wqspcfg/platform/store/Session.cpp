@@ -7,6 +7,7 @@
 #include <functional>
 #include <iterator>
 #include <mutex>
+#include <utility>
 
 namespace wqspcfg {
 
@@ -26,6 +27,7 @@ std::shared_ptr<Store>& StoreSlot()
 
 thread_local Session* t_session = nullptr;
 thread_local Error t_error;
+thread_local ReadObserver* t_observer = nullptr;
 
 bool IsUsersPath(std::wstring_view path)
 {
@@ -93,7 +95,12 @@ void ClearStoreError() noexcept
     t_error = {};
 }
 
-Session::Session(Access access) : m_access(access)
+ReadObserver* ObserveReads(ReadObserver* observer) noexcept
+{
+    return std::exchange(t_observer, observer);
+}
+
+Session::Session(Access access) : m_observer(t_observer), m_access(access)
 {
     Error error;
     m_store = CurrentStore(error);
@@ -175,6 +182,24 @@ const Session::WrittenValue* Session::FindWritten(std::wstring_view path, std::w
 
 Outcome Session::Query(Key key, std::wstring_view name, ValueView& value)
 {
+    const auto outcome = Ask(key, name, value);
+    if (m_observer != nullptr) {
+        m_observer->Asked(m_keys[key].path, name, outcome, value);
+    }
+    return outcome;
+}
+
+Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueView& value)
+{
+    const auto outcome = AskAt(path, name, value);
+    if (m_observer != nullptr) {
+        m_observer->Asked(path, name, outcome, value);
+    }
+    return outcome;
+}
+
+Outcome Session::Ask(Key key, std::wstring_view name, ValueView& value)
+{
     if (!m_overlay.empty()) {
         if (const auto* written = FindWritten(m_keys[key].path, name)) {
             value = {written->type, written->data};
@@ -199,7 +224,7 @@ Outcome Session::Query(Key key, std::wstring_view name, ValueView& value)
     return Find(opened) ? Checked(m_transaction->Query(opened.id, name, value)) : Outcome::Missing;
 }
 
-Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueView& value)
+Outcome Session::AskAt(std::wstring_view path, std::wstring_view name, ValueView& value)
 {
     if (!m_overlay.empty()) {
         if (const auto* written = FindWritten(path, name)) {
@@ -211,7 +236,7 @@ Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueVi
         return Outcome::Failed;
     }
     if (!m_transaction->HasPathQueries()) {
-        return Query(Open(path), name, value);
+        return Ask(Open(path), name, value);
     }
     return Checked(m_transaction->QueryAt(HiveOf(path), path, name, value));
 }
@@ -219,12 +244,18 @@ Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueVi
 Outcome Session::EnumKeys(Key key, const KeyVisitor& visit)
 {
     auto& opened = m_keys[key];
+    if (m_observer != nullptr) {
+        m_observer->AskedAll(opened.path, true);
+    }
     return Find(opened) ? Checked(m_transaction->EnumKeys(opened.id, visit)) : Outcome::Missing;
 }
 
 Outcome Session::EnumValues(Key key, const ValueVisitor& visit)
 {
     auto& opened = m_keys[key];
+    if (m_observer != nullptr) {
+        m_observer->AskedAll(opened.path, false);
+    }
     return Find(opened) ? Checked(m_transaction->EnumValues(opened.id, visit)) : Outcome::Missing;
 }
 

@@ -27,6 +27,24 @@ WQSPCFG_API std::shared_ptr<Store> CurrentStore(Error& error);
 WQSPCFG_API const Error& LastStoreError() noexcept;
 WQSPCFG_API void ClearStoreError() noexcept;
 
+// Told of what the sessions of one thread read. The arguments are valid during the call, which must not use the
+// session.
+class ReadObserver
+{
+  public:
+    // `value` counts where the outcome is Found.
+    virtual void Asked(std::wstring_view path, std::wstring_view name, Outcome outcome, const ValueView& value) = 0;
+    // All values of a key, or the names of its subkeys, were asked for.
+    virtual void AskedAll(std::wstring_view path, bool subkeys) = 0;
+
+  protected:
+    ~ReadObserver() = default;
+};
+
+// Tells `observer`, or nobody when it is null, of the sessions that this thread begins from now on. Gives the one
+// before.
+WQSPCFG_API ReadObserver* ObserveReads(ReadObserver* observer) noexcept;
+
 // One transaction of this thread with the keys it has opened. Reached through a scope.
 class WQSPCFG_API Session
 {
@@ -93,6 +111,8 @@ class WQSPCFG_API Session
         std::vector<std::byte> data;
     };
 
+    Outcome Ask(Key key, std::wstring_view name, ValueView& value);
+    Outcome AskAt(std::wstring_view path, std::wstring_view name, ValueView& value);
     Outcome Fail(const Error& error);
     Outcome Checked(Outcome outcome);
     // Whether the key exists. Looks again for a missing one once another was created: that may be its subkey, or the
@@ -100,6 +120,7 @@ class WQSPCFG_API Session
     bool Find(OpenedKey& opened);
     const WrittenValue* FindWritten(std::wstring_view path, std::wstring_view name) const;
 
+    ReadObserver* m_observer;
     std::shared_ptr<Store> m_store;
     std::unique_ptr<Transaction> m_transaction;
     std::deque<OpenedKey> m_keys; // a deque: m_byPath holds views of the paths

@@ -1,0 +1,105 @@
+// Allowed values with their words, as a meaning lists them behind a colon: "card when the SP closes: 0 eject; 1
+// retain". The list stands once, in the text that the line and the reference show; tools take numbers and words from
+// it.
+#pragma once
+
+#include "wqspcfg/platform/base/WinTypes.h"
+
+#include <string_view>
+
+namespace wqspcfg {
+
+namespace choices {
+
+constexpr bool TakeText(std::wstring_view& text, std::wstring_view expected)
+{
+    if (!text.starts_with(expected)) {
+        return false;
+    }
+    text.remove_prefix(expected.size());
+    return true;
+}
+
+constexpr int DigitOf(wchar_t character, DWORD base)
+{
+    const int digit = character >= L'0' && character <= L'9'   ? character - L'0'
+                      : character >= L'a' && character <= L'f' ? character - L'a' + 10
+                      : character >= L'A' && character <= L'F' ? character - L'A' + 10
+                                                               : -1;
+    return digit < static_cast<int>(base) ? digit : -1;
+}
+
+constexpr bool TakeNumber(std::wstring_view& text, DWORD& number)
+{
+    const DWORD base = TakeText(text, L"0x") ? 16 : 10;
+    bool any = false;
+    number = 0;
+    for (; !text.empty() && DigitOf(text.front(), base) >= 0; text.remove_prefix(1)) {
+        number = number * base + static_cast<DWORD>(DigitOf(text.front(), base));
+        any = true;
+    }
+    return any && (text.empty() || text.front() == L' ' || text.front() == L',' || text.front() == L';');
+}
+
+// The numbers at the beginning of an item, such as "2 and 3" or "0, 90 or 180", each with the words that follow them.
+template <class F>
+constexpr bool VisitItem(std::wstring_view item, F visit)
+{
+    DWORD number = 0;
+    std::wstring_view words = item;
+    for (bool more = true; more;) {
+        if (!TakeNumber(words, number)) {
+            return false;
+        }
+        std::wstring_view next = words;
+        more =
+            (TakeText(next, L", ") || TakeText(next, L" or ") || TakeText(next, L" and ")) && TakeNumber(next, number);
+        if (more) {
+            TakeText(words, L", ") || TakeText(words, L" or ") || TakeText(words, L" and ");
+        }
+    }
+    TakeText(words, L" ");
+    for (std::wstring_view rest = item; TakeNumber(rest, number);) {
+        visit(number, words);
+        if (!(TakeText(rest, L", ") || TakeText(rest, L" or ") || TakeText(rest, L" and "))) {
+            break;
+        }
+    }
+    return true;
+}
+
+template <class F>
+constexpr bool VisitList(std::wstring_view list, F visit)
+{
+    while (true) {
+        const auto end = list.find(L"; ");
+        if (!VisitItem(list.substr(0, end), visit)) {
+            return false;
+        }
+        if (end == std::wstring_view::npos) {
+            return true;
+        }
+        list.remove_prefix(end + 2);
+    }
+}
+
+} // namespace choices
+
+// Calls `visit(DWORD value, std::wstring_view word)` for each allowed value in the order of the text. False, with no
+// call, when the meaning is no such list and does not end in one.
+template <class F>
+constexpr bool ForEachChoice(std::wstring_view meaning, F visit)
+{
+    for (std::wstring_view list = meaning;;) {
+        if (choices::VisitList(list, [](DWORD, std::wstring_view) {})) {
+            return choices::VisitList(list, visit);
+        }
+        const auto colon = list.find(L": ");
+        if (colon == std::wstring_view::npos) {
+            return false;
+        }
+        list.remove_prefix(colon + 2);
+    }
+}
+
+} // namespace wqspcfg
