@@ -124,10 +124,9 @@ std::vector<std::string> Remarks(const DescribedSetting& setting)
             remarks.push_back(std::move(text));
         }
     };
+    remark(!setting.readAs.empty(), "read there as " + Utf8(setting.readAs));
     if (setting.fallback) {
-        const auto& place = *setting.fallback;
-        remark(true, "else from " + KeyText(place.root, place.key) +
-                         (place.name == setting.name ? "" : " : " + Utf8(place.name)));
+        remark(true, "else from " + KeyText(setting.fallback->root, setting.fallback->key));
     }
     remark(setting.secret, "secret");
     remark(setting.wholeKey && setting.name == L"%s", "every value of the key");
@@ -153,6 +152,9 @@ std::string RemarkText(const DescribedSetting& setting)
 
 void AddRemarks(const DescribedSetting& setting, ordered_json& row)
 {
+    if (!setting.readAs.empty()) {
+        row["readAs"] = Utf8(setting.readAs);
+    }
     if (setting.fallback) {
         row["fallback"] = {{"root", NameOf(setting.fallback->root)},
                            {"key", Utf8(setting.fallback->key)},

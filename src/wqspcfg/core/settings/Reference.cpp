@@ -3,6 +3,8 @@
 #include "wqspcfg/core/RegistryRoots.h"
 #include "wqspcfg/core/settings/Walk.h"
 
+#include <utility>
+
 namespace wqspcfg {
 
 namespace {
@@ -84,8 +86,12 @@ DescribedSetting DescribeRow(const Setting& row, const Iteration* iteration)
         described.emptySavedAs = row.emptySavedAs;
     }
     if (row.fallbackSubkey != nullptr) {
+        if (row.fallbackName != nullptr) {
+            described.readAs = std::exchange(described.name, row.fallbackName);
+            described.label.clear();
+        }
         described.fallback = {row.fallbackRoot, WithoutEndingBackslash(ForIteration(row.fallbackSubkey, iteration)),
-                              row.fallbackName != nullptr ? row.fallbackName : described.name};
+                              described.name};
     }
     described.secret = row.Has(Flags::Secret);
     described.required = row.requiredLine != 0;
