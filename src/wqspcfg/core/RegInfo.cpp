@@ -20,15 +20,14 @@ namespace {
 
 constexpr DWORD kNotLoaded = 9999; // in DevBusy, until the first Load
 constexpr DWORD kNotRead = 0xFFFFFFFF;
-constexpr wchar_t kCommonPolicyFormat[] = L"%sWQCmnCfg\\Policy";
-constexpr wchar_t kSetupFormat[] = L"%sWQCmnCfg\\Setup";
+constexpr wchar_t kDeviceKeyFormat[] = L"%s%s\\%s"; // a subkey of the device key
 
 long g_refCount = 0;
 
 // Guards the results that getters cache for the process: service providers call them from several threads.
-std::recursive_mutex& CacheMutex()
+std::mutex& CacheMutex()
 {
-    static std::recursive_mutex mutex; // the name of the device key may need a cached path
+    static std::mutex mutex;
     return mutex;
 }
 
@@ -38,23 +37,34 @@ bool EndsWith(const CString& strText, std::wstring_view ending)
     return text.size() >= ending.size() && EqualNoCase(text.substr(text.size() - ending.size()), ending);
 }
 
-// `query` fills the cache when it is empty. It may ask for other cached results, so the lock is not held meanwhile.
-template <class F>
-CString Cached(CString& strCache, F query)
+// What `query` gives is kept once it is not `unread`, but not what a store that failed gave. It may ask for other
+// cached results, so the lock is not held meanwhile.
+template <class T, class F>
+T Cached(T& cache, const T& unread, F query)
 {
     {
         const std::lock_guard lock(CacheMutex());
-        if (!strCache.IsEmpty()) {
-            return strCache;
+        if (cache != unread) {
+            return cache;
         }
     }
-    CString strResult;
-    query(strResult);
-    const std::lock_guard lock(CacheMutex());
-    if (strCache.IsEmpty()) {
-        strCache = strResult;
+    wqspcfg::ReadScope scope;
+    const T result = query();
+    if (scope->Failure()) {
+        return result;
     }
-    return strCache;
+    const std::lock_guard lock(CacheMutex());
+    if (cache == unread) {
+        cache = result;
+    }
+    return cache;
+}
+
+CString TextOf(const CRegInfo& object, const wqspcfg::Setting& row)
+{
+    CString strText;
+    wqspcfg::ReadSetting(object, row, strText);
+    return strText;
 }
 
 } // namespace
@@ -143,14 +153,15 @@ bool CRegInfo::Load(CLog* pLog)
         ReportShared(loading);
     }
     loading.Read(table, shared::kIsDeleteSensetiveInfo);
+    if (loading.HasFailed()) {
+        m_lpsPolicyGroup->DevBusy = kNotLoaded; // the next Load reads what this one could not
+    }
     return true;
 }
 
 void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
 {
-    CLog* const pLog = loading.Log();
     const auto& table = Settings();
-    const auto& policy = *m_lpsPolicyGroup;
 
     loading.Read(table, shared::kSetup);
     const auto version = [&](const wqspcfg::Setting& row, const wqspcfg::Setting& rowOfBuild) {
@@ -165,15 +176,9 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
     loading.Read(table, shared::kSetupRest);
 
     for (const auto* row : shared::kPolicyLines) {
-        if (row->type == wqspcfg::Type::String) {
-            loading.Print(*row, *policy.ErrorCodeKey);
-        } else if (row->name == L"DevError") {
-            wqspcfg::LogInfo(pLog, L"[CFG] %40s : 0x%02x[%s]", L"LOBYTE(DevError)", LOBYTE(policy.DevError),
-                             L"device states that are converted when the status is queried: 0x01 NODEVICE, 0x02 "
-                             L"OFFLINE, 0x04 POWEROFF, 0x08 USERERROR, 0x10 HWERROR; 0x00 none");
-            wqspcfg::LogInfo(pLog, L"[CFG] %40s : 0x%02x[%s]", L"HIBYTE(DevError)", HIBYTE(policy.DevError),
-                             L"the state reported instead: 0x00 HWERROR, 0x01 NODEVICE, 0x02 OFFLINE, 0x04 POWEROFF, "
-                             L"0x08 USERERROR");
+        if (row == &shared::kDevError) {
+            loading.Print(shared::kDevErrorLow, LOBYTE(m_lpsPolicyGroup->DevError));
+            loading.Print(shared::kDevErrorHigh, HIBYTE(m_lpsPolicyGroup->DevError));
         } else {
             loading.PrintHeld(*row);
         }
@@ -190,12 +195,12 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
 
     loading.PrintHeld(shared::kServer);
     loading.Print(shared::kOtherSideServerName, CStringUtility::CombineString(m_arOtherSideServerName, L';'));
-    loading.Read(table, shared::kStartInfo);
+    loading.Read(table, shared::kOpenCompleteTimeout);
     CString strBatFile;
     if (loading.Query(shared::kExtBatFileName, strBatFile) && !strBatFile.IsEmpty()) {
         loading.Print(shared::kExtBatFileName, strBatFile);
     }
-    loading.Read(table, shared::kIdle);
+    loading.Read(table, shared::kIdleNormal);
     loading.PrintHeld(shared::kExtraSepCharacter);
 }
 
@@ -224,7 +229,7 @@ CString CRegInfo::GetPhysicalName(LPCWSTR lpszLogicalName) const
         m_strPhysicalName.Empty();
     }
     if (m_strPhysicalName.IsEmpty()) {
-        QueryValue(m_strPhysicalName, L"Provider", L"%s%s", kLogicalRoot, m_strLogicalName);
+        wqspcfg::ReadSetting(*this, shared::kProvider, m_strPhysicalName);
     }
     return m_strPhysicalName;
 }
@@ -233,16 +238,16 @@ CString CRegInfo::GetClassNameW(LPCWSTR lpszLogicalName) const
 {
     CString strClass;
     if (lpszLogicalName != nullptr) {
-        QueryValue(strClass, L"Class", L"%s%s", kLogicalRoot, lpszLogicalName);
-    } else if (!m_strLogicalName.IsEmpty()) {
-        QueryValue(strClass, L"Class", L"%s%s", kLogicalRoot, m_strLogicalName);
-    } else {
-        if (m_strPhysicalName.IsEmpty()) {
-            GetPhysicalName();
-        }
-        QueryValue(strClass, L"Class", L"%s%s", kServiceRoot, m_strPhysicalName);
+        QueryValue(strClass, shared::kClass.name, L"%s%s", kLogicalRoot, lpszLogicalName);
+        return strClass;
     }
-    return strClass;
+    if (!m_strLogicalName.IsEmpty()) {
+        return TextOf(*this, shared::kClass);
+    }
+    if (m_strPhysicalName.IsEmpty()) {
+        GetPhysicalName();
+    }
+    return TextOf(*this, shared::kClassOfProvider);
 }
 
 CString CRegInfo::GetType(LPCWSTR lpszLogicalName) const
@@ -250,7 +255,7 @@ CString CRegInfo::GetType(LPCWSTR lpszLogicalName) const
     CString strType;
     const CString strLogicalName = lpszLogicalName != nullptr ? CString(lpszLogicalName) : m_strLogicalName;
     if (!strLogicalName.IsEmpty()) {
-        QueryValue(strType, L"Type", L"%s%s", kLogicalRoot, strLogicalName);
+        QueryValue(strType, shared::kType.name, L"%s%s", kLogicalRoot, strLogicalName);
     }
     return strType;
 }
@@ -262,7 +267,8 @@ CString CRegInfo::GetDeviceClassName(LPCWSTR lpszLogicalName, int bWithExtension
         return {};
     }
     CString strModule;
-    if (!QueryValue(strModule, strClass + L"Name", L"%s%s", kServiceRoot, m_strPhysicalName)) {
+    if (!QueryValue(strModule, wqspcfg::FormatString(shared::kClassModule.name.data(), strClass), L"%s%s", kServiceRoot,
+                    m_strPhysicalName)) {
         return CString(wqspcfg::FormatString(bWithExtension ? L"WQSp%s.dll" : L"WQSp%s", strClass));
     }
     strModule = strModule.Mid(strModule.ReverseFind(L'\\') + 1);
@@ -277,16 +283,15 @@ CString CRegInfo::GetDeviceClassName(LPCWSTR lpszLogicalName, int bWithExtension
 
 CString CRegInfo::GetDllPathName() const
 {
-    return Cached(m_strDllPathName, [this](CString& strPath) {
-        if (!QueryValue(strPath, L"DLLName", L"%s%s", kServiceRoot, m_strPhysicalName)) {
-            return;
+    return Cached(m_strDllPathName, CString(), [this] {
+        CString strPath;
+        if (!wqspcfg::ReadSetting(*this, shared::kDllName, strPath)) {
+            return strPath;
         }
         if (strPath.Find(L'\\') < 0) {
             strPath = CUtility::GetModuleDir(1, wqspcfg::ThisModule(), true) + strPath;
         }
-        if (!EndsWith(strPath, L".dll")) {
-            strPath += L".dll";
-        }
+        return EndsWith(strPath, L".dll") ? strPath : strPath + L".dll";
     });
 }
 
@@ -300,7 +305,7 @@ CString CRegInfo::GetDllDir(int bTrailingBackslash) const
 CString CRegInfo::GetExePathName(int bDefault) const
 {
     CString strPath;
-    if (QueryValue(strPath, L"Executable", L"%s%s", kServiceRoot, m_strPhysicalName)) {
+    if (wqspcfg::ReadSetting(*this, shared::kExecutable, strPath)) {
         if (strPath.Find(L'\\') < 0) {
             strPath = GetDllDir(1) + strPath;
         }
@@ -334,7 +339,7 @@ CString CRegInfo::GetExeDllMother(int bUseExeTitle, int* pbIsExe) const
     }
     int bIsExe = 1;
     CString strMother;
-    if (QueryValue(strMother, L"ExeDllMother", L"%s%s", kServiceRoot, m_strPhysicalName) && !strMother.IsEmpty()) {
+    if (wqspcfg::ReadSetting(*this, shared::kExeDllMother, strMother) && !strMother.IsEmpty()) {
         const int nDot = strMother.ReverseFind(L'.');
         if (nDot >= 0) {
             bIsExe = strMother.Mid(nDot).CompareNoCase(L".dll") == 0 ? 0 : 1;
@@ -351,32 +356,33 @@ CString CRegInfo::GetExeDllMother(int bUseExeTitle, int* pbIsExe) const
 
 CString CRegInfo::GetVersion() const
 {
-    return Cached(m_strVersion, [this](CString& strVersion) {
-        QueryValue(strVersion, L"Version", L"%s%s", kServiceRoot, m_strPhysicalName);
-    });
+    return Cached(m_strVersion, CString(), [this] { return TextOf(*this, shared::kVersion); });
 }
 
 CString CRegInfo::GetProductVersion() const
 {
-    return Cached(m_strProductVersion, [](CString& strVersion) {
-        QueryValue(strVersion, L"NewVersion", kSetupFormat, kServiceRoot);
-        CString strPart;
-        QueryValue(strPart, L"NewBuild", kSetupFormat, kServiceRoot);
-        if (!strPart.IsEmpty()) {
-            strVersion += L" " + strPart;
+    return Cached(m_strProductVersion, CString(), [this] {
+        CString strVersion = TextOf(*this, shared::kNewVersion);
+        const CString strBuild = TextOf(*this, shared::kNewBuild);
+        if (!strBuild.IsEmpty()) {
+            strVersion += L" " + strBuild;
         }
-        strPart.Empty();
-        QueryValue(strPart, L"PatchVersion", kSetupFormat, kServiceRoot);
-        if (!strPart.IsEmpty()) {
-            strVersion += L" Patch" + strPart;
+        const CString strPatch = TextOf(*this, shared::kPatchVersion);
+        if (!strPatch.IsEmpty()) {
+            strVersion += L" Patch" + strPatch;
         }
+        return strVersion;
     });
 }
 
 CString CRegInfo::GetSpSettingAppID() const
 {
+    CString strAppID;
+    const bool bFound = wqspcfg::ReadSetting(*this, shared::kAppID, strAppID);
     const std::lock_guard lock(CacheMutex());
-    QueryValue(m_strSpSettingAppID, shared::kAppID.name, L"%sWQCmnCfg\\SpSetting", kServiceRoot);
+    if (bFound) {
+        m_strSpSettingAppID = strAppID;
+    }
     m_strSpSettingAppID.Trim();
     if (m_strSpSettingAppID.IsEmpty()) {
         m_strSpSettingAppID = shared::kAppID.defaultValue.text;
@@ -393,17 +399,16 @@ CString CRegInfo::GetSPLifeCtrl() const
 
 DWORD CRegInfo::GetOnlyOpenReSetTimeout() const
 {
-    const std::lock_guard lock(CacheMutex());
-    if (m_dwOnlyOpenReSetTimeout == kNotRead) {
-        m_dwOnlyOpenReSetTimeout = shared::kOnlyOpenAppend.defaultValue.number;
-        QueryValue(m_dwOnlyOpenReSetTimeout, shared::kOnlyOpenAppend.name, L"%s%s\\ReSetTimeout", kDeviceRoot,
-                   GetExeDllMother(1, nullptr));
-    }
-    return m_dwOnlyOpenReSetTimeout;
+    return Cached(m_dwOnlyOpenReSetTimeout, kNotRead, [this] {
+        DWORD dwOnlyOpen = 0;
+        wqspcfg::ReadSetting(*this, shared::kOnlyOpenAppend, dwOnlyOpen);
+        return dwOnlyOpen;
+    });
 }
 
 DWORD CRegInfo::GetReSetTimeout(const CString& strCommand, UINT nIndex) const
 {
+    wqspcfg::ReadScope scope;
     CString strUpper(strCommand);
     strUpper.MakeUpper(); // not lower: that is the locale's, and a Turkish one would not find "inf" in "INFO"
     if (GetOnlyOpenReSetTimeout() != 0 && strUpper.Find(L"OPEN") < 0) {
@@ -412,29 +417,32 @@ DWORD CRegInfo::GetReSetTimeout(const CString& strCommand, UINT nIndex) const
     const bool bIndexed = strUpper.Find(L"EXE") >= 0 || strUpper.Find(L"INF") >= 0;
     const CString strName(bIndexed ? wqspcfg::FormatString(L"%s%d", strCommand, nIndex) : strCommand.Std());
     DWORD dwTimeout = 0;
-    QueryValue(dwTimeout, strName, L"%s%s\\ReSetTimeout", kDeviceRoot, GetExeDllMother(1, nullptr));
+    QueryValue(dwTimeout, strName, kDeviceKeyFormat, kDeviceRoot, GetExeDllMother(1, nullptr),
+               shared::kReSetTimeout.key.subkey);
     return dwTimeout;
 }
 
 DWORD CRegInfo::GetIdleTimeInterval(LPCWSTR lpszName) const
 {
-    const CString strName(lpszName != nullptr ? lpszName : L"Normal");
-    DWORD dwInterval = strName.CompareNoCase(L"Normal") == 0 ? 60000 : 0;
-    QueryValue(dwInterval, strName, L"%s%s\\IdleInterval", kDeviceRoot, GetExeDllMother(1, nullptr));
+    wqspcfg::ReadScope scope;
+    const auto& normal = shared::kIdleNormal;
+    const CString strName(lpszName != nullptr ? CString(lpszName) : CString(normal.name));
+    DWORD dwInterval = EqualNoCase(strName.View(), normal.name) ? normal.defaultValue.number : 0;
+    QueryValue(dwInterval, strName, kDeviceKeyFormat, kDeviceRoot, GetExeDllMother(1, nullptr), normal.key.subkey);
     return dwInterval;
 }
 
 DWORD CRegInfo::GetCheckErrorRuler(const CString& strRequest, const CString& strRule) const
 {
     wqspcfg::ReadScope scope;
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    DWORD dwLevel = 1;
-    QueryValue(dwLevel, L"CheckLevel", L"%s%s\\CheckErrorHandler", kDeviceRoot, strDevice);
+    DWORD dwLevel = 0;
+    wqspcfg::ReadSetting(*this, shared::kCheckLevel, dwLevel);
     if (dwLevel <= 1) {
         return dwLevel;
     }
     CString strRules;
-    QueryValue(strRules, strRequest, L"%s%s\\CheckErrorHandler", kDeviceRoot, strDevice);
+    QueryValue(strRules, strRequest, kDeviceKeyFormat, kDeviceRoot, GetExeDllMother(1, nullptr),
+               shared::kCheckRules.key.subkey);
     CStringArray arItems;
     CStringUtility::SplitString(arItems, strRules, L';');
     for (const auto& strItem : arItems) {
@@ -448,25 +456,15 @@ DWORD CRegInfo::GetCheckErrorRuler(const CString& strRequest, const CString& str
 
 void CRegInfo::GetCmdMap()
 {
-    wqspcfg::ReadScope scope;
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    const auto fill = [&](auto& mapCodes, LPCWSTR lpszFormat) {
-        mapCodes.RemoveAll();
-        if (!QueryValues(mapCodes, lpszFormat, kDeviceRoot, strDevice)) {
-            mapCodes.RemoveAll();
-        }
-    };
-    fill(m_mapExeCmd, L"%s%s\\ExeCmdMap");
-    fill(m_mapInfoCmd, L"%s%s\\InfoCmdMap");
-    fill(m_mapErrCode, L"%s%s\\ErrCodeMap");
+    wqspcfg::Loading loading(*this, nullptr);
+    loading.Read(Settings(), shared::kCommandMaps);
 }
 
 DWORD CRegInfo::GetResetLoadCfgPolicy() const
 {
-    // A getter that several threads may call, although it refreshes what they share.
-    const std::lock_guard lock(CacheMutex());
     auto& dwResetLoadCfg = m_lpsPolicyGroup->ResetLoadCfg;
-    QueryValue(dwResetLoadCfg, L"ResetLoadCfg", kCommonPolicyFormat, kServiceRoot);
+    QueryValue(dwResetLoadCfg, shared::kResetLoadCfg.name, L"%s%s%s", kServiceRoot, wqspcfg::kCommonKey,
+               shared::kCommonPolicy.subkey);
     return dwResetLoadCfg;
 }
 
@@ -480,31 +478,20 @@ int CRegInfo::FindOtherSideServerName(const CString& strServerName) const
     return -1;
 }
 
-CString CRegInfo::DescKey(CString& strCache, LPCWSTR lpszName, LPCWSTR lpszDefault) const
-{
-    return Cached(strCache, [&](CString& strKey) {
-        if (!QueryValue(strKey, lpszName, L"%s%s", kDeviceRoot, GetExeDllMother(1, nullptr))) {
-            strKey = lpszDefault;
-        }
-    });
-}
-
 CString CRegInfo::GetErrorCodeDescKey() const
 {
-    return DescKey(m_strErrorCodeDescKey, shared::kErrorCodeDescKey.name.data(),
-                   shared::kErrorCodeDescKey.defaultValue.text);
+    return Cached(m_strErrorCodeDescKey, CString(), [this] { return TextOf(*this, shared::kErrorCodeDescKey); });
 }
 
 CString CRegInfo::GetCapVendorDescKey() const
 {
-    return DescKey(m_strCapVendorDescKey, shared::kCapVendorDescKey.name.data(),
-                   shared::kCapVendorDescKey.defaultValue.text);
+    return Cached(m_strCapVendorDescKey, CString(), [this] { return TextOf(*this, shared::kCapVendorDescKey); });
 }
 
 CString CRegInfo::GetCapVendorDescKeyValue() const
 {
-    return DescKey(m_strCapVendorDescKeyValue, shared::kCapVendorDescKeyValue.name.data(),
-                   shared::kCapVendorDescKeyValue.defaultValue.text);
+    return Cached(m_strCapVendorDescKeyValue, CString(),
+                  [this] { return TextOf(*this, shared::kCapVendorDescKeyValue); });
 }
 
 WQSPCFG_CATALOGUE_ENTRY(CRegInfo)

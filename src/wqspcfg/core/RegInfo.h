@@ -115,5 +115,4 @@ class WQSPCFG_API CRegInfo : public CRegKeyEx
 
   private:
     void ReportShared(wqspcfg::Loading& loading) const;
-    CString DescKey(CString& strCache, LPCWSTR lpszName, LPCWSTR lpszDefault) const;
 };
