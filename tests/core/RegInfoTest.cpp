@@ -250,6 +250,44 @@ TEST_F(RegInfoTest, SharedSettingsAreLoadedOnceInTheLifeOfAPolicyGroup)
     EXPECT_TRUE(m_log.Entries().empty());
 }
 
+// A store that cannot be read.
+class BrokenStore final : public wqspcfg::Store
+{
+  public:
+    std::unique_ptr<wqspcfg::Transaction> Begin(wqspcfg::Access, wqspcfg::Error& error) override
+    {
+        error = {wqspcfg::ErrorKind::Io, "the disk is gone"};
+        return nullptr;
+    }
+    const std::string& Address() const noexcept override { return m_address; }
+
+  private:
+    std::string m_address = "broken:";
+};
+
+TEST_F(RegInfoTest, AStoreThatFailedLeavesNoDefaultsBehind)
+{
+    Set(Common(L"Policy"), L"SPExit", 8);
+    Set(Device(), L"ErrorCodeDescKey", L"Mine");
+    Set(Device(L"ReSetTimeout"), L"OnlyOpenAppend", 0);
+    Set(Service(), L"Version", L"7.1");
+    wqspcfg::SetCurrentStore(std::make_shared<BrokenStore>());
+    CRegInfo config(L"Phys", true);
+    EXPECT_TRUE(config.Load(&m_log));
+    EXPECT_EQ(config.GetErrorCodeDescKey(), L"ErrorCodeDescription");
+    EXPECT_EQ(config.GetOnlyOpenReSetTimeout(), 1U);
+    EXPECT_EQ(config.GetVersion(), L"");
+
+    wqspcfg::SetCurrentStore(m_store);
+    m_log.Clear();
+    EXPECT_TRUE(config.Load(&m_log));
+    EXPECT_FALSE(m_log.Entries().empty());
+    EXPECT_EQ(CRegInfo::m_lpsPolicyGroup->SPExit, 8U);
+    EXPECT_EQ(config.GetErrorCodeDescKey(), L"Mine");
+    EXPECT_EQ(config.GetOnlyOpenReSetTimeout(), 0U);
+    EXPECT_EQ(config.GetVersion(), L"7.1");
+}
+
 TEST_F(RegInfoTest, TheLastObjectFreesThePolicyGroup)
 {
     {

@@ -2,6 +2,7 @@
 
 #include "wqspcfg/core/RegInfoSettings.h"
 #include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/core/settings/OwnChanges.h"
 #include "wqspcfg/core/settings/Settings.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/platform/utility/StringUtility.h"
@@ -113,6 +114,7 @@ CRegInfo::CRegInfo(const CString& strName, bool bPhysicalName)
 
 CRegInfo::~CRegInfo()
 {
+    wqspcfg::ForgetLoaded(*this);
     m_vilRefCount.Decrement();
     if (m_vilRefCount.Get() < 1) {
         delete m_lpsPolicyGroup;

@@ -21,10 +21,10 @@ inline constexpr auto Policy = [](CRegInfo&, unsigned) -> auto&
     L"USERERROR, 0x10 HWERROR; 0x00 none"
 #define WQSPCFG_REPORTED_STATES                                                                                        \
     L"the state reported instead: 0x00 HWERROR, 0x01 NODEVICE, 0x02 OFFLINE, 0x04 POWEROFF, 0x08 USERERROR"
-inline constexpr Setting kDevErrorLow{key::Policy,          L"LOBYTE(DevError)", DwordValue, 0,
-                                      WQSPCFG_CONVERTED_STATES, Format(L"0x%02x")};
-inline constexpr Setting kDevErrorHigh{key::Policy,          L"HIBYTE(DevError)", DwordValue, 0,
-                                       WQSPCFG_REPORTED_STATES, Format(L"0x%02x")};
+inline constexpr Setting kDevErrorLow{key::Policy, L"LOBYTE(DevError)",      DwordValue,
+                                      0,           WQSPCFG_CONVERTED_STATES, Format(L"0x%02x")};
+inline constexpr Setting kDevErrorHigh{key::Policy, L"HIBYTE(DevError)",     DwordValue,
+                                       0,           WQSPCFG_REPORTED_STATES, Format(L"0x%02x")};
 
 // clang-format off
 inline constexpr Setting kPolicy[] = {

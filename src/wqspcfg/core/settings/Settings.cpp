@@ -1,6 +1,8 @@
 #include "wqspcfg/core/settings/Settings.h"
 
 #include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/core/SavePolicy.h"
+#include "wqspcfg/core/settings/OwnChanges.h"
 #include "wqspcfg/core/settings/Walk.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/text/Utf.h"
@@ -118,6 +120,44 @@ T FromValue(const Setting& row, const Value& value, unsigned index)
     }
 }
 
+template <class T>
+T ConstructedOf(const Setting& row, unsigned index)
+{
+    if (!row.hasConstructed) {
+        return FromValue<T>(row, row.defaultValue, index);
+    }
+    if constexpr (std::is_same_v<T, DWORD>) {
+        return row.constructed.number;
+    } else {
+        return row.constructed.text;
+    }
+}
+
+SettingContent ContentOf(DWORD number)
+{
+    return {number, {}, {}};
+}
+
+SettingContent ContentOf(const CString& text)
+{
+    return {0, text.Std(), {}};
+}
+
+SettingContent ContentOf(const Texts& map)
+{
+    SettingContent content;
+    for (const auto& [strName, strText] : map) {
+        content.entries.emplace(strName.Std(), strText.Std());
+    }
+    return content;
+}
+
+// Whether Save can write the setting.
+bool IsWritten(const Setting& row)
+{
+    return row.saved && row.bound && !row.Has(Flags::Documented);
+}
+
 void Correct(const Setting& row, CRegKeyEx& object, DWORD& value, bool found)
 {
     if (row.normalize != nullptr) {
@@ -139,14 +179,14 @@ void Correct(const Setting& row, CRegKeyEx& object, CString& value, bool found)
 
 void Construct(CRegKeyEx& object, std::span<const Setting> rows)
 {
+    ForgetLoaded(object); // of an object that lay here before
     Walk(rows, nullptr, EnterAll, [&](const Setting& row, const Iteration* iteration) {
         if (row.kind == Kind::Value && row.bound && !row.Has(Flags::Preloaded)) {
             const auto index = IndexOf(iteration);
-            const auto& value = row.hasConstructed ? row.constructed : row.defaultValue;
             if (IsNumber(row)) {
-                Hold(row, object, index, row.hasConstructed ? value.number : FromValue<DWORD>(row, value, index));
+                Hold(row, object, index, ConstructedOf<DWORD>(row, index));
             } else {
-                Hold(row, object, index, FromValue<CString>(row, value, index));
+                Hold(row, object, index, ConstructedOf<CString>(row, index));
             }
         }
         return true;
@@ -355,8 +395,9 @@ void Loading::ReadValue(const Setting& row, const Iteration* iteration)
             m_lines.PrintMissing(m_table->className, row, iteration);
         }
     }
+    const bool remember = IsWritten(row) && GetSavePolicy() == SavePolicy::OwnChanges;
     T read{};
-    if (kNumber || m_observer != nullptr) {
+    if (kNumber || m_observer != nullptr || remember) {
         read = value;
     }
     if (!given) {
@@ -377,6 +418,12 @@ void Loading::ReadValue(const Setting& row, const Iteration* iteration)
         if (row.bound && !given) {
             m_observer == nullptr ? Hold(row, m_object, index, std::move(value)) : Hold(row, m_object, index, value);
         }
+    }
+    if (remember) {
+        RememberLoaded(m_object, row, index,
+                       {loaded.origin == Origin::Key ? std::optional(ContentOf(read)) : std::nullopt,
+                        ContentOf(HeldOf<T>(row, m_object, index))},
+                       Log());
     }
     if (m_observer != nullptr) {
         m_observer->Loaded(loaded);
@@ -432,6 +479,10 @@ void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
         for (const auto& entry : row.entries) {
             static_cast<Texts*>(map)->SetAt(entry.name, entry.text);
         }
+    }
+    if (IsWritten(row) && GetSavePolicy() == SavePolicy::OwnChanges) {
+        auto content = ContentOf(*static_cast<const Texts*>(map));
+        RememberLoaded(m_object, row, IndexOf(iteration), {content, content}, Log());
     }
     if (Log() != nullptr && !row.Has(Flags::NotLogged)) {
         for (const auto& [strName, strText] : *static_cast<const Texts*>(map)) {
@@ -541,7 +592,7 @@ void Saving::Write(const Table& table)
 void Saving::Write(std::span<const Setting> rows)
 {
     Walk(rows, nullptr, EnterAll, [this](const Setting& row, const Iteration* iteration) {
-        if (row.saved && row.bound && !row.Has(Flags::Documented)) {
+        if (IsWritten(row)) {
             WriteRow(row, iteration);
         }
         return true;
@@ -559,22 +610,80 @@ void Saving::WriteRow(const Setting& row, const Iteration* iteration)
 {
     const auto index = IndexOf(iteration);
     if (row.kind == Kind::WholeKey) {
-        CRegKeyEx::SetValues(*static_cast<const Texts*>(row.locate(m_object, index)), L"%s",
-                             m_keys.PathOf(row.key, iteration));
+        WriteWholeKey(row, index, m_keys.PathOf(row.key, iteration));
         return;
     }
     const auto key = m_keys.Open(*m_scope, row.key, iteration);
     const auto name = ForIteration(row.savedName != nullptr ? row.savedName : row.name.data(), iteration);
     if (IsNumber(row)) {
         const DWORD held = HeldOf<DWORD>(row, m_object, index);
-        const DwordBytes bytes(row.savedAsSwitch ? (held != 0 ? 1U : 0U) : held);
-        m_scope->Set(key, name, bytes.View());
+        const DWORD written = row.savedAsSwitch ? (held != 0 ? 1U : 0U) : held;
+        if (IsToBeWritten(row, index, key, name, held, written)) {
+            m_scope->Set(key, name, DwordBytes(written).View());
+        }
         return;
     }
     if (row.emptySavedAs != nullptr && MemberOf<CString>(row, m_object, index).IsEmpty()) {
         MemberOf<CString>(row, m_object, index) = row.emptySavedAs;
     }
-    SetText(*m_scope, key, name, HeldOf<CString>(row, m_object, index).View());
+    const auto held = HeldOf<CString>(row, m_object, index);
+    if (IsToBeWritten(row, index, key, name, held, held)) {
+        SetText(*m_scope, key, name, held.View());
+    }
+}
+
+template <class T>
+bool Saving::IsToBeWritten(const Setting& row, unsigned index, Session::Key key, const std::wstring& name,
+                           const T& held, const T& written)
+{
+    if (GetSavePolicy() == SavePolicy::All) {
+        return true;
+    }
+    T current{};
+    ValueView view;
+    if (m_scope->Query(key, name, view) != Outcome::Found || !ToValue(view, current)) {
+        return true;
+    }
+    const auto* loaded = FindLoaded(m_object, row, index);
+    const auto before = loaded != nullptr ? loaded->held : ContentOf(ConstructedOf<T>(row, index));
+    if (ContentOf(held) == before) {
+        return false;
+    }
+    CLog* const log = LogOfLoad(m_object);
+    if (loaded != nullptr && loaded->stored != ContentOf(current) && log != nullptr) {
+        log->Error(
+            kLogCategory,
+            L"<%s(%d) : %s> %s was changed in the registry since it was loaded; what the service provider set is "
+            L"saved over it",
+            L"core/settings/Settings.cpp", __LINE__, L"wqspcfg::Saving", name);
+    }
+    RememberLoaded(m_object, row, index, {ContentOf(written), ContentOf(held)}, log);
+    return true;
+}
+
+void Saving::WriteWholeKey(const Setting& row, unsigned index, const std::wstring& path)
+{
+    const auto& map = *static_cast<const Texts*>(row.locate(m_object, index));
+    if (GetSavePolicy() == SavePolicy::All) {
+        CRegKeyEx::SetValues(map, L"%s", path);
+        return;
+    }
+    const auto* loaded = FindLoaded(m_object, row, index);
+    const auto key = m_scope->Open(path);
+    for (const auto& [strName, strText] : map) {
+        CString strCurrent;
+        ValueView view;
+        const bool stored = m_scope->Query(key, strName.View(), view) == Outcome::Found && ToValue(view, strCurrent);
+        bool changed = true;
+        if (loaded != nullptr) {
+            const auto before = loaded->held.entries.find(strName.Std());
+            changed = before == loaded->held.entries.end() || before->second != strText.Std();
+        }
+        if (changed || !stored) {
+            SetText(*m_scope, key, strName.View(), strText.View());
+        }
+    }
+    RememberLoaded(m_object, row, index, {ContentOf(map), ContentOf(map)}, LogOfLoad(m_object));
 }
 
 void Saving::Put(Key key, const CString& strName, DWORD value)

@@ -147,6 +147,10 @@ class WQSPCFG_API Saving
 
   private:
     void WriteRow(const Setting& row, const Iteration* iteration);
+    void WriteWholeKey(const Setting& row, unsigned index, const std::wstring& path);
+    template <class T>
+    bool IsToBeWritten(const Setting& row, unsigned index, Session::Key key, const std::wstring& name, const T& held,
+                       const T& written);
 
     WriteScope m_scope;
     CRegKeyEx& m_object;

@@ -1,0 +1,104 @@
+#include "wqspcfg/core/settings/OwnChanges.h"
+
+#include "wqspcfg/core/SavePolicy.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <mutex>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+namespace wqspcfg {
+
+namespace {
+
+SavePolicy PolicyOfEnvironment() noexcept
+{
+    const char* policy = std::getenv("WQSPCFG_SAVE_POLICY");
+    return policy != nullptr && std::string_view(policy) == "own-changes" ? SavePolicy::OwnChanges : SavePolicy::All;
+}
+
+std::atomic<SavePolicy>& Policy() noexcept
+{
+    static std::atomic<SavePolicy> policy{PolicyOfEnvironment()};
+    return policy;
+}
+
+struct LoadedObject
+{
+    CLog* log = nullptr;
+    std::map<std::pair<const Setting*, unsigned>, LoadedContent> settings;
+};
+
+// Beside the objects, so that their layout is the same under both policies.
+struct LoadedObjects
+{
+    std::mutex mutex;
+    std::unordered_map<const CRegKeyEx*, LoadedObject> objects;
+};
+
+LoadedObjects& Objects()
+{
+    static auto* objects = new LoadedObjects; // never destroyed: objects may outlive the end of main
+    return *objects;
+}
+
+LoadedObject* FindObject(const CRegKeyEx& object)
+{
+    auto& all = Objects();
+    const std::lock_guard lock(all.mutex);
+    const auto found = all.objects.find(&object);
+    return found != all.objects.end() ? &found->second : nullptr; // elements of the map keep their place
+}
+
+} // namespace
+
+void SetSavePolicy(SavePolicy policy) noexcept
+{
+    Policy() = policy;
+}
+
+SavePolicy GetSavePolicy() noexcept
+{
+    return Policy();
+}
+
+void RememberLoaded(const CRegKeyEx& object, const Setting& row, unsigned index, LoadedContent content, CLog* log)
+{
+    auto* loaded = FindObject(object);
+    if (loaded == nullptr) {
+        auto& all = Objects();
+        const std::lock_guard lock(all.mutex);
+        loaded = &all.objects[&object];
+    }
+    loaded->log = log;
+    loaded->settings[{&row, index}] = std::move(content);
+}
+
+const LoadedContent* FindLoaded(const CRegKeyEx& object, const Setting& row, unsigned index)
+{
+    const auto* loaded = FindObject(object);
+    if (loaded == nullptr) {
+        return nullptr;
+    }
+    const auto found = loaded->settings.find({&row, index});
+    return found != loaded->settings.end() ? &found->second : nullptr;
+}
+
+CLog* LogOfLoad(const CRegKeyEx& object)
+{
+    const auto* loaded = FindObject(object);
+    return loaded != nullptr ? loaded->log : nullptr;
+}
+
+void ForgetLoaded(const CRegKeyEx& object) noexcept
+{
+    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+        auto& all = Objects();
+        const std::lock_guard lock(all.mutex);
+        all.objects.erase(&object);
+    }
+}
+
+} // namespace wqspcfg

@@ -1,0 +1,145 @@
+#include "wqspcfg/core/SavePolicy.h"
+
+#include "support/ConfigTest.h"
+#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/classes/PINRegInfo.h"
+#include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
+#include "wqspcfg/platform/store/Session.h"
+
+#include <algorithm>
+
+namespace {
+
+using namespace wqspcfg;
+
+class SavePolicyTest : public test::ConfigTest
+{
+  protected:
+    SavePolicyTest() { SetSavePolicy(SavePolicy::OwnChanges); }
+    ~SavePolicyTest() override { SetSavePolicy(SavePolicy::All); }
+
+    const std::wstring m_comm = Device(L"Comm");
+};
+
+TEST_F(SavePolicyTest, AllUndoesWhatWasEditedSinceLoad)
+{
+    SetSavePolicy(SavePolicy::All);
+    Set(m_comm, L"Port", 1);
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    Set(m_comm, L"Port", 4);
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 1U);
+}
+
+TEST_F(SavePolicyTest, WhatOthersChangedStaysAndWhatTheObjectChangedIsWritten)
+{
+    Set(m_comm, L"Port", 1);
+    Set(m_comm, L"BaudRate", 9600);
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    Set(m_comm, L"Port", 4);
+    config.m_dwBaudRate = 115200;
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 4U);
+    EXPECT_EQ(Number(m_comm, L"BaudRate"), 115200U);
+
+    // What it wrote is what it knows from then on.
+    Set(m_comm, L"BaudRate", 19200);
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"BaudRate"), 19200U);
+    EXPECT_TRUE(
+        std::ranges::none_of(m_log.Entries(), [](const auto& entry) { return entry.severity == Severity::Error; }));
+}
+
+TEST_F(SavePolicyTest, TwoObjectsOnOneDeviceKeyKeepEachOthersChanges)
+{
+    CSpCRDWQTYM1200RegInfo first(L"Svc", false);
+    CSpCRDWQTYM1200RegInfo second(L"Svc", false);
+    first.Load(&m_log);
+    second.Load(&m_log);
+    first.m_dwPort = 7;
+    first.Save();
+    second.m_dwBaudRate = 38400;
+    second.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 7U);
+    EXPECT_EQ(Number(m_comm, L"BaudRate"), 38400U);
+}
+
+TEST_F(SavePolicyTest, AConflictIsTheObjectsAndIsLogged)
+{
+    Set(m_comm, L"Port", 1);
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    Set(m_comm, L"Port", 4);
+    config.m_dwPort = 9;
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 9U);
+    const auto& entries = m_log.Entries();
+    EXPECT_TRUE(std::ranges::any_of(entries, [](const auto& entry) {
+        return entry.severity == Severity::Error &&
+               entry.text.find(L"Port was changed in the registry") != std::wstring::npos;
+    }));
+}
+
+TEST_F(SavePolicyTest, WhatTheRegistryLacksOrHoldsInAnotherTypeIsWritten)
+{
+    Set(m_comm, L"Port", L"4");
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 1U);
+    EXPECT_EQ(Number(m_comm, L"BaudRate"), config.m_dwBaudRate);
+}
+
+TEST_F(SavePolicyTest, AnObjectThatHasNotLoadedWritesNothingOver)
+{
+    Set(m_comm, L"Port", 4);
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 4U);
+    config.m_dwPort = 5;
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 5U);
+}
+
+TEST_F(SavePolicyTest, WhatASwitchedOffModuleHasStaysStored)
+{
+    const auto control = Device(L"Control");
+    Set(control, L"HaveRCM", 0);
+    Set(Device(L"SlotInfo"), L"SlotInfoType", 3);
+    CIDCRegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    config.Save();
+    EXPECT_EQ(Number(Device(L"SlotInfo"), L"SlotInfoType"), 3U);
+}
+
+TEST_F(SavePolicyTest, EntriesOfAWholeKeyAreComparedOneByOne)
+{
+    const auto mapping = Device(L"KeybordInfo\\KeyboardMapping");
+    Set(mapping, L"1", L"F1");
+    Set(mapping, L"2", L"F2");
+    CPINRegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    Set(mapping, L"1", L"ENTER");
+    config.m_mapKeyboardMapping.SetAt(L"2", L"CANCEL");
+    config.Save();
+    EXPECT_EQ(Text(mapping, L"1"), L"ENTER");
+    EXPECT_EQ(Text(mapping, L"2"), L"CANCEL");
+}
+
+TEST_F(SavePolicyTest, AServiceWithoutAProviderSavesNothing)
+{
+    for (const auto policy : {SavePolicy::All, SavePolicy::OwnChanges}) {
+        SetSavePolicy(policy);
+        CSpCRDWQTYM1200RegInfo config(L"Ghost", false);
+        ClearRecord();
+        ClearStoreError();
+        config.Save();
+        EXPECT_EQ(Commits(), 0U);
+        EXPECT_FALSE(Number(L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\Comm", L"Port"));
+        EXPECT_NE(LastStoreError().message.find("Ghost"), std::string::npos) << LastStoreError().message;
+    }
+}
+
+} // namespace
