@@ -17,17 +17,29 @@ else()
     target_link_libraries(wqspcfg_gtest_main INTERFACE GTest::gmock_main)
 endif()
 
-# Runs a GoogleTest program as the test `name`, which leaves its results in test-results/<name>.xml.
+# Runs a GoogleTest program as the test `name`, which leaves its results in test-results/<name>.xml. With `parts`, so many
+# tests, <name>-1 and so on, run a part of it each, side by side with `ctest --parallel`.
 function(wqspcfg_add_gtest name target)
-    add_test(NAME ${name} COMMAND ${target} --gtest_brief=1 --gtest_output=xml:test-results/${name}.xml
-             WORKING_DIRECTORY "${PROJECT_BINARY_DIR}")
-    set_tests_properties(
-        ${name}
-        PROPERTIES
-            TIMEOUT 900
-            ENVIRONMENT
-            "ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1"
-    )
+    set(parts ${ARGN})
+    if(NOT parts OR WIN32)
+        set(parts 1) # under Wine, the programs would share a registry
+    endif()
+    foreach(part RANGE 1 ${parts})
+        set(test ${name})
+        if(parts GREATER 1)
+            string(APPEND test -${part})
+        endif()
+        math(EXPR index "${part} - 1")
+        add_test(NAME ${test} COMMAND ${target} --gtest_brief=1 --gtest_output=xml:test-results/${test}.xml
+                 WORKING_DIRECTORY "${PROJECT_BINARY_DIR}")
+        set_tests_properties(
+            ${test}
+            PROPERTIES
+                TIMEOUT 900
+                ENVIRONMENT
+                "GTEST_TOTAL_SHARDS=${parts};GTEST_SHARD_INDEX=${index};ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1"
+        )
+    endforeach()
 endfunction()
 
 # Builds `source`, which defines LLVMFuzzerTestOneInput, as fuzzers/<name>; the target `fuzzers` builds all of them.
