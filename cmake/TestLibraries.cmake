@@ -17,12 +17,14 @@ else()
     target_link_libraries(wqspcfg_gtest_main INTERFACE GTest::gmock_main)
 endif()
 
-# Runs a GoogleTest program as the test `name`, which leaves its results in test-results/<name>.xml. With `parts`, so many
-# tests, <name>-1 and so on, run a part of it each, side by side with `ctest --parallel`.
+# Runs a GoogleTest program as the test `name`, which leaves its results in test-results/<name>.xml. With PARTS, so many
+# tests, <name>-1 and so on, run a part of it each, side by side with `ctest --parallel`. Further arguments are passed
+# to the program.
 function(wqspcfg_add_gtest name target)
-    set(parts ${ARGN})
-    if(NOT parts OR WIN32)
-        set(parts 1) # under Wine, the programs would share a registry
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "PARTS" "")
+    set(parts 1)
+    if(arg_PARTS AND NOT WIN32) # under Wine, the programs would share a registry
+        set(parts ${arg_PARTS})
     endif()
     foreach(part RANGE 1 ${parts})
         set(test ${name})
@@ -31,6 +33,7 @@ function(wqspcfg_add_gtest name target)
         endif()
         math(EXPR index "${part} - 1")
         add_test(NAME ${test} COMMAND ${target} --gtest_brief=1 --gtest_output=xml:test-results/${test}.xml
+                                            ${arg_UNPARSED_ARGUMENTS}
                  WORKING_DIRECTORY "${PROJECT_BINARY_DIR}")
         set_tests_properties(
             ${test}
