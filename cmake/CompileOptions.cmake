@@ -48,7 +48,7 @@ function(wqspcfg_precompile target)
 endfunction()
 
 if(WQSPCFG_SANITIZE)
-    add_compile_options(-fsanitize=${WQSPCFG_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -g)
+    add_compile_options(-fsanitize=${WQSPCFG_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${WQSPCFG_SANITIZE})
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         # The instrumentation hides initialisations from these.

@@ -17,17 +17,32 @@ else()
     target_link_libraries(wqspcfg_gtest_main INTERFACE GTest::gmock_main)
 endif()
 
-# Runs a GoogleTest program as the test `name`, which leaves its results in test-results/<name>.xml.
+# Runs a GoogleTest program as the test `name`, which leaves its results in test-results/<name>.xml. With PARTS, so many
+# tests, <name>-1 and so on, run a part of it each, side by side with `ctest --parallel`. Further arguments are passed
+# to the program.
 function(wqspcfg_add_gtest name target)
-    add_test(NAME ${name} COMMAND ${target} --gtest_brief=1 --gtest_output=xml:test-results/${name}.xml
-             WORKING_DIRECTORY "${PROJECT_BINARY_DIR}")
-    set_tests_properties(
-        ${name}
-        PROPERTIES
-            TIMEOUT 900
-            ENVIRONMENT
-            "ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1"
-    )
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "PARTS" "")
+    set(parts 1)
+    if(arg_PARTS AND NOT WIN32) # under Wine, the programs would share a registry
+        set(parts ${arg_PARTS})
+    endif()
+    foreach(part RANGE 1 ${parts})
+        set(test ${name})
+        if(parts GREATER 1)
+            string(APPEND test -${part})
+        endif()
+        math(EXPR index "${part} - 1")
+        add_test(NAME ${test} COMMAND ${target} --gtest_brief=1 --gtest_output=xml:test-results/${test}.xml
+                                            ${arg_UNPARSED_ARGUMENTS}
+                 WORKING_DIRECTORY "${PROJECT_BINARY_DIR}")
+        set_tests_properties(
+            ${test}
+            PROPERTIES
+                TIMEOUT 900
+                ENVIRONMENT
+                "GTEST_TOTAL_SHARDS=${parts};GTEST_SHARD_INDEX=${index};ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1"
+        )
+    endforeach()
 endfunction()
 
 # Builds `source`, which defines LLVMFuzzerTestOneInput, as fuzzers/<name>; the target `fuzzers` builds all of them.

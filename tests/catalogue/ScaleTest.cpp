@@ -282,7 +282,10 @@ TEST_F(CatalogueScaleTest, PortsThatAreEnabledAutomatically)
                 Set(Device(L"AutoEnable"), Numbered(L"Sensor_", i), L"1");
             }
         },
-        [](CSIURegInfo& config, DWORD) { EXPECT_EQ(config.m_bySensorAutoEnable[1], 1); });
+        [](CSIURegInfo& config, DWORD) {
+            EXPECT_EQ(config.m_bySensorAutoEnable[1], 1);
+            EXPECT_EQ(config.m_bySensorAutoEnable[31], 1);
+        });
 }
 
 } // namespace wqspcfg::test

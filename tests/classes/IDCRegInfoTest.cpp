@@ -161,16 +161,26 @@ TEST_F(IDCRegInfoTest, SaveHasAnOrderOfItsOwn)
     EXPECT_TRUE(config.m_bCancelReadRawDataWhenNewReq);
     ClearRecord();
     config.Save();
-    const auto writes = Writes();
-    ASSERT_EQ(writes.size(), 41U);
-    EXPECT_EQ(writes[1], Device(L"Control") + L"|WaitCardReMoveBeforeComplete");
-    EXPECT_EQ(writes[5], Device(L"IdleInterval") + L"|WaitCardTaken");
-    EXPECT_EQ(writes[8], Device(L"RetainCardSet") + L"|ActionOnFull");
-    EXPECT_EQ(writes[17], Device(L"RetainCardSet") + L"|RetainBinHigh");
-    EXPECT_EQ(writes[18], Device(L"RetainCardSet") + L"|MaxRetainCard");
-    EXPECT_EQ(writes[33], Device(L"SlotInfo") + L"|SlotInfoType");
-    EXPECT_EQ(writes[39], Device() + L"|CancelReadRawDataWhenNewReq");
-    EXPECT_EQ(writes[40], Device(L"IdleInterval") + L"|FastUpdateStatuWhenContactlessPresent");
+    EXPECT_EQ(
+        Writes(),
+        OfDevice({{L"Policy", L"IsDeleteSensetiveInfo"},
+                  {L"Control", L"WaitCardReMoveBeforeComplete ResetOfUncommunicateErr ReturnSuccessIfInvalidMedia "
+                               L"RtnSuccessOfNoMediaEject"},
+                  {L"IdleInterval", L"WaitCardTaken"},
+                  {L"RetainCardSet", L"SendCardMoveEventOfRetain"},
+                  {L"Control", L"SendInvalidTrackDataEvent"},
+                  {L"RetainCardSet", L"ActionOnFull AllowRetainOfRetainBinFull AllowRetainOfHwError"},
+                  {L"Control", L"AllowResetCountByErrDevStatu ICCInsertDependChip BroadcastExeeToAllWnd "
+                               L"TimeOfAllowCardGate ChangeTimeOfCardGate ChangeCountOfCardGate"},
+                  {L"RetainCardSet", L"RetainBinHigh MaxRetainCard CountOfRetained"},
+                  {L"Control", L"ApID Track1KeyWord Track2KeyWord Track3KeyWord ActionOfCardHook "
+                               L"ExecBackEntryOfResetReq LedFlushTimeOfEject LEDFlushTimeGap HWErrorBuzzerTime "
+                               L"LEDBuzzerControl DevErrBeepPath IsSendInsertEvent HaveRCM"},
+                  {L"SlotInfo", L"SlotInfoType"},
+                  {L"Control", L"IsSaveTimeFromAP IsClearAllSlotWhenCMSETCONT IsChipIODataLenDivideTwo "
+                               L"SendMREOnlyIfWaitTaken IsAddExtraMemWhenSavePic"},
+                  {L"", L"CancelReadRawDataWhenNewReq"},
+                  {L"IdleInterval", L"FastUpdateStatuWhenContactlessPresent"}}));
     EXPECT_EQ(Number(Device(), L"CancelReadRawDataWhenNewReq"), 1U);
 }
 

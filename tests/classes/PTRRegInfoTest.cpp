@@ -92,19 +92,16 @@ TEST_F(PTRRegInfoTest, SaveLeavesWhatOthersOwn)
     ClearRecord();
     config.Save();
     EXPECT_EQ(Commits(), 1U);
-    const auto writes = Writes();
-    ASSERT_EQ(writes.size(), 29U); // 28 and the one of the root
-    EXPECT_EQ(writes[1], Device() + L"|CheckDataBoundary");
-    EXPECT_EQ(writes[4], Device(L"Form") + L"|OtherFileDirectory");
-    EXPECT_EQ(writes[9], Device() + L"|ForceWaitMediaInsert");
-    EXPECT_EQ(writes.back(), Device() + L"|RawDataWaitMediaInsert");
-    for (const auto* name : {L"CutWhenResetWithEject", L"UseOldPrintType", L"DevNotOnLine", L"DevError",
-                             L"ReadFormFieldDivCharLeft", L"ReadFormFieldDivCharRight", L"SendPaperThresholdAction",
-                             L"StyleSupportVertialLine", L"TriggerMTWhenNoMedia"}) {
-        EXPECT_EQ(Number(Device(), name), std::nullopt) << std::wstring(name).size();
-        EXPECT_EQ(Text(Device(), name), std::nullopt);
-    }
-    EXPECT_EQ(Number(Device(L"IdleInterval"), L"PaperOut"), std::nullopt);
+    EXPECT_EQ(Writes(),
+              OfDevice({{L"Policy", L"IsDeleteSensetiveInfo"},
+                        {L"", L"CheckDataBoundary CheckFormMediaOverflow NoAddBlankNode"},
+                        {L"Form", L"OtherFileDirectory FormsDirectory FormsExtension MediasDirectory MediasExtension"},
+                        {L"", L"ForceWaitMediaInsert ForceErrorWhenRetractBoxFull CheckInputParam AllDataMoveDown "
+                              L"IsCkFormInvaidWhenPrint IsSupportFormInvaidList IsSupportMediaInvaidList "
+                              L"IsUseEscapeCharacter IsUseEscapeCharacterWhenPrint SpaceCntWithTabKey "
+                              L"IsSupportFormMediaReLoad SendErrorWhenFieldNotExist ApID RtFieldNameWhenTrackEmpty "
+                              L"UsedInitialValueForIndex SentMediatakenAfterSentMediapresented AllowRetractWhenFull "
+                              L"SendMediaTakenOfReadImage PrintNodeMgrType RawDataWaitMediaInsert"}}));
 }
 
 } // namespace

@@ -1,10 +1,8 @@
 #include "wqspcfg/classes/SIURegInfo.h"
 
 #include "support/ConfigTest.h"
-#include "wqspcfg/platform/store/Session.h"
 
 #include <algorithm>
-#include <chrono>
 #include <numeric>
 
 namespace {
@@ -210,20 +208,6 @@ TEST_F(SIURegInfoTest, AutoEnableTakesWellFormedNamesAndNeverClearsAFlag)
     EXPECT_EQ(Text(key, L"Sensor_0"), L"1");
     EXPECT_EQ(Text(key, L"Door_5"), std::nullopt); // nothing is written for a cleared flag
     EXPECT_EQ(Text(key, L"Door_05"), L"1");        // and nothing removed
-}
-
-TEST_F(SIURegInfoTest, AHundredThousandAutoEnableEntriesLoadInLinearTime)
-{
-    {
-        const wqspcfg::WriteScope scope;
-        for (int i = 0; i < 100000; ++i) {
-            Set(Device(L"AutoEnable"), L"Sensor_" + std::to_wstring(i), L"1");
-        }
-    }
-    const auto start = std::chrono::steady_clock::now();
-    m_config.Load(nullptr);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5)); // a square would take minutes
-    EXPECT_EQ(m_config.m_bySensorAutoEnable[31], 1);
 }
 
 TEST_F(SIURegInfoTest, WindowNamesAreSplitWithoutBlanksAndTheLineShowsThemAsTheyAre)

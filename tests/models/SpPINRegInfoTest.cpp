@@ -53,10 +53,15 @@ TEST_F(SpPINRegInfoTest, XZSE8098BShowsItsCBCSwitchUnderTheLabelOfTheECBSwitch)
     EXPECT_EQ(Number(Device(), L"EnableXZlog"), std::nullopt);
     const auto writes = Writes();
     EXPECT_EQ(Commits(), 1U);
-    const auto from = static_cast<std::ptrdiff_t>(writes.size()) - 3;
-    EXPECT_EQ(std::vector(writes.begin() + from, writes.end()),
-              (std::vector<std::wstring>{Device() + L"|ReadOneKeyToMaxForceEnter", Device() + L"|PageDownToXFSKey",
-                                         Device() + L"|CBHBSM"}));
+    const auto own =
+        OfDevice({{L"", L"PostWin32PCKeyEventInGetData PostWin32PCKeyEventInGetPin DisabledPCKeyEventOfKey"},
+                  {L"Comm", L"Port BaudRate MachineType"},
+                  {L"", L"CrytDESECBtoSM CrytDESCBCtoSM PressKeyTimeOut MacType AtiveClearAndBaskSpaceOption "
+                        L"DerivationAlgorithms PresentationAlgorithms IDKey AtivePageUpPageDownInGetData "
+                        L"EarlyTerminateEnterToMaxLen PageUpToFDK PageUpToXFSKey PageDownToFDK "
+                        L"LoadKeyEncKeyOfCryptCmd ReadOneKeyToMaxForceEnter PageDownToXFSKey CBHBSM"}});
+    ASSERT_GT(writes.size(), own.size());
+    EXPECT_EQ(std::vector(writes.end() - static_cast<std::ptrdiff_t>(own.size()), writes.end()), own);
 }
 
 TEST_F(SpPINRegInfoTest, TheModelsCapabilityValuesStandBesideThoseOfTheClass)

@@ -1,10 +1,16 @@
 // A small SP: a log of its own, an override of its own, one device model.
+#include "core/Log.h"
+
 #include <wqspcfg/core/Log.h>
 #include <wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h>
 #include <wqspcfg/platform/store/Session.h>
 #include <wqspcfg/platform/store/Store.h>
 
 #include <cstdio>
+
+#if !defined(PROVIDER_LOG)
+#error "core/Log.h is not the provider's"
+#endif
 
 namespace {
 

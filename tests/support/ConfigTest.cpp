@@ -3,6 +3,8 @@
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/utility/Utility.h"
 
+#include <sstream>
+
 namespace wqspcfg::test {
 
 namespace {
@@ -125,6 +127,18 @@ std::vector<std::wstring> ConfigTest::Reads()
 std::vector<std::wstring> ConfigTest::Writes()
 {
     return Filter(*m_store, Recorded::What::Set);
+}
+
+std::vector<std::wstring> ConfigTest::OfDevice(const std::vector<Values>& values)
+{
+    std::vector<std::wstring> all;
+    for (const auto& each : values) {
+        std::wistringstream names(each.names);
+        for (std::wstring name; names >> name;) {
+            all.push_back(Device(each.subkey) + L"|" + name);
+        }
+    }
+    return all;
 }
 
 std::size_t ConfigTest::Commits()

@@ -47,6 +47,13 @@ class ConfigTest : public ::testing::Test
     std::vector<std::wstring> Writes();
     std::size_t Commits();
     void ClearRecord() { m_store->Clear(); }
+    // The same form of values below the device key: the names, separated by blanks, of each subkey in turn.
+    struct Values
+    {
+        const wchar_t* subkey;
+        const wchar_t* names;
+    };
+    static std::vector<std::wstring> OfDevice(const std::vector<Values>& values);
 
     MemoryLog m_log;
     std::shared_ptr<RecordingStore> m_store;
