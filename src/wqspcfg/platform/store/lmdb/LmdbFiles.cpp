@@ -20,20 +20,9 @@ namespace {
 ErrorKind KindOf(int status)
 {
     switch (status) {
-    case ENOENT:
-    case ENOTDIR:
-        return ErrorKind::NotFound;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return ErrorKind::AccessDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
     case MDB_MAP_FULL:
     case MDB_TXN_FULL:
         return ErrorKind::NoSpace;
-    case ENAMETOOLONG:
     case MDB_BAD_VALSIZE:
         return ErrorKind::TooLong;
     case MDB_CORRUPTED:
@@ -43,7 +32,7 @@ ErrorKind KindOf(int status)
     case MDB_CURSOR_FULL:
         return ErrorKind::Damaged;
     default:
-        return ErrorKind::Io;
+        return KindOfSystemError(status);
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "wqspcfg/platform/base/Error.h"
+#include "wqspcfg/platform/store/PosixFile.h"
 
 #include <lmdb.h>
 
@@ -18,24 +19,6 @@ constexpr std::size_t kLeastMapSize = std::size_t{1} << 20;
 constexpr unsigned kMaxReaders = 512;
 // The name of the record that holds the format and the transaction's number; the first of all.
 constexpr std::string_view kStateName{"\0state", 6};
-
-class FileDescriptor
-{
-  public:
-    explicit FileDescriptor(int fd) : m_fd(fd) {}
-    ~FileDescriptor()
-    {
-        if (m_fd >= 0) {
-            close(m_fd);
-        }
-    }
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-    int Get() const { return m_fd; }
-
-  private:
-    int m_fd;
-};
 
 // What a message begins with; nothing without an address.
 std::string ErrorPrefix(const std::string& address);

@@ -234,6 +234,11 @@ LmdbStore::LmdbStore(std::string address, std::string directory, const LmdbOptio
 
 LmdbStore::~LmdbStore() = default;
 
+std::string LmdbStore::FilePath() const
+{
+    return m_environment->DataPath();
+}
+
 std::unique_ptr<Transaction> LmdbStore::Begin(Access access, Error& error)
 {
     auto environment = m_environment;

@@ -37,6 +37,7 @@ class LmdbStore final : public Store
 
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_address; }
+    std::string FilePath() const override;
 
   private:
     std::string m_address;
