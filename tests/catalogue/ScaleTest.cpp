@@ -8,6 +8,7 @@
 #include "wqspcfg/classes/SIURegInfo.h"
 #include "wqspcfg/classes/TTURegInfo.h"
 #include "wqspcfg/models/ptr/SpPTRPrdFPCNormalRegInfo.h"
+#include "wqspcfg/platform/store/ForwardingTransaction.h"
 #include "wqspcfg/platform/store/Session.h"
 
 #include <memory>
@@ -36,60 +37,64 @@ class CountingStore final : public Store
     std::shared_ptr<Store> m_inner;
 };
 
-class CountingTransaction final : public Transaction
+class CountingTransaction final : public ForwardingTransaction
 {
   public:
-    CountingTransaction(std::unique_ptr<Transaction> inner, std::size_t& work) : m_inner(std::move(inner)), m_work(work)
+    CountingTransaction(std::unique_ptr<Transaction> inner, std::size_t& work)
+        : ForwardingTransaction(std::move(inner)), m_work(work)
     {}
 
     Outcome OpenKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
-        return Counted(m_inner->OpenKey(hive, path, key));
+        return Counted(ForwardingTransaction::OpenKey(hive, path, key));
     }
-    void CloseKey(KeyId key) noexcept override { m_inner->CloseKey(key); }
     Outcome Query(KeyId key, std::wstring_view name, ValueView& value) override
     {
-        return Counted(m_inner->Query(key, name, value));
+        return Counted(ForwardingTransaction::Query(key, name, value));
     }
     Outcome QueryAt(Hive hive, std::wstring_view path, std::wstring_view name, ValueView& value) override
     {
-        return Counted(m_inner->QueryAt(hive, path, name, value));
+        return Counted(ForwardingTransaction::QueryAt(hive, path, name, value));
     }
-    bool HasPathQueries() const noexcept override { return m_inner->HasPathQueries(); }
     Outcome EnumKeys(KeyId key, const KeyVisitor& visit) override
     {
-        return Counted(m_inner->EnumKeys(key, [&](std::wstring_view name) {
+        return Counted(ForwardingTransaction::EnumKeys(key, [&](std::wstring_view name) {
             ++m_work;
             return visit(name);
         }));
     }
     Outcome EnumValues(KeyId key, const ValueVisitor& visit) override
     {
-        return Counted(m_inner->EnumValues(key, [&](std::wstring_view name, const ValueView& value) {
+        return Counted(ForwardingTransaction::EnumValues(key, [&](std::wstring_view name, const ValueView& value) {
             ++m_work;
             return visit(name, value);
         }));
     }
     Outcome CreateKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
-        return Counted(m_inner->CreateKey(hive, path, key));
+        return Counted(ForwardingTransaction::CreateKey(hive, path, key));
     }
     Outcome SetValue(KeyId key, std::wstring_view name, const ValueView& value) override
     {
-        return Counted(m_inner->SetValue(key, name, value));
+        return Counted(ForwardingTransaction::SetValue(key, name, value));
     }
-    Outcome DeleteValue(KeyId key, std::wstring_view name) override { return Counted(m_inner->DeleteValue(key, name)); }
-    Outcome DeleteKey(Hive hive, std::wstring_view path) override { return Counted(m_inner->DeleteKey(hive, path)); }
-    Outcome Commit(bool flush) override { return Counted(m_inner->Commit(flush)); }
+    Outcome DeleteValue(KeyId key, std::wstring_view name) override
+    {
+        return Counted(ForwardingTransaction::DeleteValue(key, name));
+    }
+    Outcome DeleteKey(Hive hive, std::wstring_view path) override
+    {
+        return Counted(ForwardingTransaction::DeleteKey(hive, path));
+    }
+    Outcome Commit(bool flush) override { return Counted(ForwardingTransaction::Commit(flush)); }
 
   private:
     Outcome Counted(Outcome outcome)
     {
         ++m_work;
-        return outcome == Outcome::Failed ? Fail(m_inner->LastError().kind, m_inner->LastError().message) : outcome;
+        return outcome;
     }
 
-    std::unique_ptr<Transaction> m_inner;
     std::size_t& m_work;
 };
 

@@ -1,4 +1,5 @@
 #include "support/RecordingStore.h"
+#include "wqspcfg/platform/store/ForwardingTransaction.h"
 
 #include <map>
 
@@ -6,64 +7,63 @@ namespace wqspcfg::test {
 
 namespace {
 
-class RecordingTransaction final : public Transaction
+class RecordingTransaction final : public ForwardingTransaction
 {
   public:
     RecordingTransaction(RecordingStore& store, std::unique_ptr<Transaction> inner)
-        : m_store(store), m_inner(std::move(inner))
+        : ForwardingTransaction(std::move(inner)), m_store(store)
     {}
 
     Outcome OpenKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
         m_store.Note({Recorded::What::Open, std::wstring(path), {}});
-        const auto outcome = Passed(m_inner->OpenKey(hive, path, key));
+        const auto outcome = ForwardingTransaction::OpenKey(hive, path, key);
         if (outcome == Outcome::Found) {
             m_paths[key] = path;
         }
         return outcome;
     }
+    // Every query is noted with the key that was opened for it.
+    bool HasPathQueries() const noexcept override { return false; }
+    Outcome QueryAt(Hive hive, std::wstring_view path, std::wstring_view name, ValueView& value) override
+    {
+        return Transaction::QueryAt(hive, path, name, value);
+    }
+    Outcome NameKey(Hive hive, std::wstring_view path, KeyId& key) override { return OpenKey(hive, path, key); }
     Outcome Query(KeyId key, std::wstring_view name, ValueView& value) override
     {
         m_store.Note({Recorded::What::Query, m_paths[key], std::wstring(name)});
-        return Passed(m_inner->Query(key, name, value));
+        return ForwardingTransaction::Query(key, name, value);
     }
     Outcome EnumKeys(KeyId key, const KeyVisitor& visit) override
     {
         m_store.Note({Recorded::What::Enum, m_paths[key], {}});
-        return Passed(m_inner->EnumKeys(key, visit));
+        return ForwardingTransaction::EnumKeys(key, visit);
     }
     Outcome EnumValues(KeyId key, const ValueVisitor& visit) override
     {
         m_store.Note({Recorded::What::Enum, m_paths[key], {}});
-        return Passed(m_inner->EnumValues(key, visit));
+        return ForwardingTransaction::EnumValues(key, visit);
     }
     Outcome CreateKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
-        const auto outcome = Passed(m_inner->CreateKey(hive, path, key));
+        const auto outcome = ForwardingTransaction::CreateKey(hive, path, key);
         m_paths[key] = path;
         return outcome;
     }
     Outcome SetValue(KeyId key, std::wstring_view name, const ValueView& value) override
     {
         m_store.Note({Recorded::What::Set, m_paths[key], std::wstring(name)});
-        return Passed(m_inner->SetValue(key, name, value));
+        return ForwardingTransaction::SetValue(key, name, value);
     }
-    Outcome DeleteValue(KeyId key, std::wstring_view name) override { return Passed(m_inner->DeleteValue(key, name)); }
-    Outcome DeleteKey(Hive hive, std::wstring_view path) override { return Passed(m_inner->DeleteKey(hive, path)); }
     Outcome Commit(bool flush) override
     {
         m_store.Note({Recorded::What::Commit, {}, {}});
-        return Passed(m_inner->Commit(flush));
+        return ForwardingTransaction::Commit(flush);
     }
 
   private:
-    Outcome Passed(Outcome outcome)
-    {
-        return outcome == Outcome::Failed ? Fail(m_inner->LastError().kind, m_inner->LastError().message) : outcome;
-    }
-
     RecordingStore& m_store;
-    std::unique_ptr<Transaction> m_inner;
     std::map<KeyId, std::wstring> m_paths;
 };
 

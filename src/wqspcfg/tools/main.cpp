@@ -1,3 +1,4 @@
+#include "wqspcfg/platform/store/LockWait.h"
 #include "wqspcfg/tools/CommandLine.h"
 
 #include <iostream>
@@ -10,6 +11,8 @@
 #include <fcntl.h>
 #include <io.h>
 #include <shellapi.h>
+#else
+#include "wqspcfg/platform/store/PosixFile.h"
 #endif
 
 int main(int argc, char** argv)
@@ -34,8 +37,17 @@ int main(int argc, char** argv)
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
 #else
+    // No file that is opened later takes the place of a standard file that is missing.
+    if (wqspcfg::FillStandardDescriptors() != 0) {
+        return 3;
+    }
     arguments.assign(argv + (argc > 0 ? 1 : 0), argv + argc);
     std::ios::sync_with_stdio(false);
 #endif
+    wqspcfg::SetLockWaitHandler([](const wqspcfg::LockWait& wait) {
+        std::cerr << "wqspcfg: waiting for "
+                  << (wait.process == 0 ? "another process" : "process " + std::to_string(wait.process))
+                  << ", which is writing to " << wait.address << std::endl;
+    });
     return wqspcfg::tools::Run(arguments, std::cin, std::cout, std::cerr);
 }

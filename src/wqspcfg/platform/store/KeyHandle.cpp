@@ -1,5 +1,6 @@
 #include "wqspcfg/platform/store/KeyHandle.h"
 
+#include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 
 #include <mutex>
@@ -12,7 +13,7 @@ namespace {
 // The handles that are open in this process. A HKEY is the address of its path.
 struct OpenHandles
 {
-    std::mutex mutex;
+    std::mutex& mutex = ForkSafeMutex(ForkSafe::KeyHandles);
     std::unordered_set<const std::wstring*> paths;
 };
 

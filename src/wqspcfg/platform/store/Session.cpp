@@ -1,5 +1,6 @@
 #include "wqspcfg/platform/store/Session.h"
 
+#include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 
 #include <algorithm>
@@ -15,8 +16,7 @@ namespace {
 
 std::mutex& StoreMutex()
 {
-    static std::mutex mutex;
-    return mutex;
+    return ForkSafeMutex(ForkSafe::CurrentStore);
 }
 
 std::shared_ptr<Store>& StoreSlot()
@@ -72,7 +72,7 @@ bool IsSameKey(std::wstring_view left, std::wstring_view right)
 void SetCurrentStore(std::shared_ptr<Store> store)
 {
     const std::lock_guard lock(StoreMutex());
-    StoreSlot() = std::move(store);
+    StoreSlot().swap(store); // the old one ends once the lock is free
 }
 
 std::shared_ptr<Store> CurrentStore(Error& error)

@@ -140,6 +140,8 @@ class Store
     virtual std::unique_ptr<Transaction> Begin(Access access, Error& error) = 0;
     // The address that OpenStore was given, for messages.
     virtual const std::string& Address() const noexcept = 0;
+    // The file that holds the content, whose rights tell who may see it; empty where there is none.
+    virtual std::string FilePath() const { return {}; }
     // Whether a write transaction that is not committed leaves no trace.
     virtual bool RollsBack() const noexcept { return true; }
 

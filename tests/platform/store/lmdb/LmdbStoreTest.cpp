@@ -697,6 +697,9 @@ TEST_F(LmdbStoreTest, WritesOnceTheRightsAreMended)
     }
     fs::permissions(temporary.Path(), fs::perms(0755));
     ASSERT_EQ(chown(Directory().c_str(), kNobody, kNobody), 0);
+    for (const auto& path : {DataFile(), Directory() + "/lock.mdb"}) {
+        fs::permissions(path, fs::perms(0644)); // a new store is its maker's alone
+    }
     int ready[2];
     int go[2];
     ASSERT_EQ(pipe(ready), 0);
@@ -718,6 +721,7 @@ TEST_F(LmdbStoreTest, WritesOnceTheRightsAreMended)
         const auto transaction = store->Begin(Access::Write, error);
         _exit(transaction ? 0 : 2);
     }
+    close(ready[1]);
     char byte = 0;
     ASSERT_EQ(read(ready[0], &byte, 1), 1);
     ASSERT_EQ(chown(DataFile().c_str(), kNobody, kNobody), 0);
@@ -740,7 +744,7 @@ TEST_F(LmdbStoreTest, WritesOnceTheRightsAreMended)
                   0)
             << name;
     }
-    for (const int file : {ready[0], ready[1], go[0], go[1]}) {
+    for (const int file : {ready[0], go[0], go[1]}) {
         close(file);
     }
 }

@@ -1,5 +1,6 @@
 #include "wqspcfg/platform/store/lmdb/LmdbBackup.h"
 
+#include "wqspcfg/platform/store/AtomicFile.h"
 #include "wqspcfg/platform/store/FlatKey.h"
 #include "wqspcfg/platform/store/lmdb/LmdbEnvironment.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
@@ -7,11 +8,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <memory>
-#include <system_error>
+#include <unistd.h>
 #include <utility>
 
 namespace wqspcfg {
@@ -67,39 +67,6 @@ class ReadState
     MDB_txn* m_txn = nullptr;
 };
 
-// A file that goes with the object unless it was renamed.
-class TemporaryFile
-{
-  public:
-    explicit TemporaryFile(const std::string& beside) : m_path(beside + ".XXXXXX"), m_file(mkstemp(m_path.data())) {}
-    ~TemporaryFile()
-    {
-        if (m_file.Get() >= 0 && !m_isRenamed) {
-            (void)unlink(m_path.c_str());
-        }
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-    int Get() const { return m_file.Get(); }
-    const std::string& Path() const { return m_path; }
-    // Durably. An errno value, or 0.
-    int RenameTo(const std::string& path)
-    {
-        if (fsync(m_file.Get()) != 0 || rename(m_path.c_str(), path.c_str()) != 0) {
-            return errno;
-        }
-        m_isRenamed = true;
-        const auto parent = std::filesystem::path(path).parent_path().string();
-        return SyncDirectory(parent.empty() ? "." : parent);
-    }
-
-  private:
-    std::string m_path;
-    FileDescriptor m_file;
-    bool m_isRenamed = false;
-};
-
 // A backup in memory, found sound.
 class Backup
 {
@@ -107,10 +74,15 @@ class Backup
     bool Read(const std::string& path, Error& error)
     {
         struct stat status = {};
-        if (!CheckFile({}, path, status, error)) {
+        const auto file = OpenFile(path, O_RDONLY | O_NONBLOCK);
+        if (!file) {
+            error = LmdbError({}, "open", path, errno);
             return false;
         }
-        if (const auto result = m_map.Read(path.c_str()); result != 0) {
+        if (!CheckFile({}, path, file, status, error)) {
+            return false;
+        }
+        if (const auto result = m_map.Read(file.Get()); result != 0) {
             error = LmdbError({}, "read", path, result);
             return false;
         }
@@ -155,12 +127,6 @@ class Backup
     LmdbMap m_map;
 };
 
-bool IsSameFile(const std::string& path, const struct stat& file)
-{
-    struct stat other = {};
-    return stat(path.c_str(), &other) == 0 && other.st_dev == file.st_dev && other.st_ino == file.st_ino;
-}
-
 // Within one transaction of the store as it is.
 bool RestoreWithin(LmdbEnvironment& environment, const std::string& address, Backup& backup, BackupCounts& counts,
                    Error& error)
@@ -195,39 +161,56 @@ bool RestoreWithin(LmdbEnvironment& environment, const std::string& address, Bac
     }
 }
 
+// Whoever can use the data file that is there can use the new one. An errno value, or 0.
+int KeepRights(const LmdbFolder& folder, const FileDescriptor& fresh)
+{
+    struct stat model = {};
+    if (fstatat(folder.Get(), kDataName, &model, AT_SYMLINK_NOFOLLOW) != 0) {
+        return errno == ENOENT ? 0 : errno;
+    }
+    struct stat own = {};
+    if (fstat(fresh.Get(), &own) != 0) {
+        return errno;
+    }
+    const bool isForeign = own.st_uid != model.st_uid && geteuid() == 0;
+    // Where it cannot get the group, that group's rights are nobody's.
+    const bool isGiven = fchown(fresh.Get(), isForeign ? model.st_uid : static_cast<uid_t>(-1), model.st_gid) == 0;
+    return fchmod(fresh.Get(), model.st_mode & (isGiven ? 0777 : 0700)) != 0 ? errno : 0;
+}
+
 // Another file in the place of one that is damaged or missing.
 bool RestoreAside(const std::string& address, const std::string& directory, Backup& backup, BackupCounts& counts,
                   std::string& kept, Error& error)
 {
-    std::error_code failure;
-    std::filesystem::create_directories(directory, failure);
-    if (failure) {
-        error = LmdbError(address, "create", directory, failure.value());
+    LmdbFolder folder;
+    if (!folder.Open(address, directory, true, error)) {
         return false;
     }
-    const auto target = directory + "/data.mdb";
-    TemporaryFile fresh(target);
-    // Whoever could use the old file can use the new one.
-    struct stat model = {};
-    const bool isThere = stat(target.c_str(), &model) == 0;
-    if (fresh.Get() < 0 || (!isThere && stat(directory.c_str(), &model) != 0) ||
-        fchmod(fresh.Get(), isThere ? model.st_mode & 0777 : model.st_mode & 0666) != 0 ||
-        (geteuid() == 0 && fchown(fresh.Get(), model.st_uid, model.st_gid) != 0)) {
-        error = LmdbError(address, "create a store in", directory, errno);
+    const ActAsOwner owner(folder);
+    if (!owner.Check(address, folder, error)) {
         return false;
     }
+    const auto target = folder.PathOf(kDataName);
+    std::string name;
     int status = 0;
-    auto result = WriteStore(fresh.Path(), 2 * backup.Size() + kSpareRoom, [&](MDB_txn* txn, MDB_dbi dbi) {
-        return CopyRecords(backup.tree, txn, dbi, counts, status) ? status : MDB_CORRUPTED;
-    });
-    if (result == 0 && fsync(fresh.Get()) != 0) {
-        result = errno;
+    bool done = false;
+    {
+        const auto fresh = folder.MakeFile(name);
+        auto result = fresh ? KeepRights(folder, fresh) : errno;
+        if (result == 0) {
+            result = WriteStore(fresh, 2 * backup.Size() + kSpareRoom, [&](MDB_txn* txn, MDB_dbi dbi) {
+                return CopyRecords(backup.tree, txn, dbi, counts, status) ? status : MDB_CORRUPTED;
+            });
+        }
+        if (result != 0) {
+            error = LmdbError(address, "write", target, LmdbWriteStatus(directory, result));
+        }
+        done = result == 0 && LmdbEnvironment::Replace(address, folder, fresh, name, kept, error);
     }
-    if (result != 0) {
-        error = LmdbError(address, "write", target, LmdbWriteStatus(fresh.Path(), result));
-        return false;
+    if (!name.empty()) {
+        (void)unlinkat(folder.Get(), name.c_str(), 0);
     }
-    return LmdbEnvironment::Replace(address, directory, fresh.Path(), kept, error);
+    return done;
 }
 
 } // namespace
@@ -239,28 +222,25 @@ bool BackUpLmdb(const std::string& address, const std::string& directory, const 
     if (!environment) {
         return false;
     }
-    // A link stays a link.
-    const std::unique_ptr<char, decltype(&std::free)> real(realpath(file.c_str(), nullptr), &std::free);
-    const auto path = real ? std::string(real.get()) : file;
     struct stat old = {};
-    if (stat(path.c_str(), &old) == 0) {
-        if (!S_ISREG(old.st_mode)) {
-            error = {ErrorKind::BadArgument, path + " is not a regular file"};
-            return false;
-        }
-        for (const auto* name : {"/data.mdb", "/lock.mdb"}) {
-            if (IsSameFile(directory + name, old)) {
-                error = {ErrorKind::BadArgument, path + " is a file of the store itself"};
+    if (stat(file.c_str(), &old) == 0) {
+        for (const auto* name : {kDataName, kLockName}) {
+            struct stat own = {};
+            if (fstatat(environment->Folder().Get(), name, &own, AT_SYMLINK_NOFOLLOW) == 0 &&
+                own.st_dev == old.st_dev && own.st_ino == old.st_ino) {
+                error = {ErrorKind::BadArgument, file + " is a file of the store itself"};
                 return false;
             }
         }
     }
     struct stat data = {};
-    TemporaryFile fresh(path);
+    AtomicFile fresh;
     // It may hold passwords: whoever cannot read the store cannot read its backup.
-    if (fresh.Get() < 0 || stat(environment->DataPath().c_str(), &data) != 0 ||
-        fchmod(fresh.Get(), data.st_mode & 0777) != 0) {
-        error = LmdbError({}, "write", path, errno);
+    if (!fresh.Open(file, environment->DataPath(), error)) {
+        return false;
+    }
+    if (stat(environment->DataPath().c_str(), &data) != 0) {
+        error = LmdbError({}, "write", file, errno);
         return false;
     }
     ReadState state(environment);
@@ -269,8 +249,10 @@ bool BackUpLmdb(const std::string& address, const std::string& directory, const 
     }
     bool isSound = true;
     int status = 0;
+    const auto parent = std::filesystem::path(file).parent_path().string();
     const auto room = 2 * static_cast<std::size_t>(data.st_size) + kSpareRoom;
-    auto result = WriteStore(fresh.Path(), room, [&](MDB_txn* txn, MDB_dbi dbi) {
+    const FileDescriptor written(fcntl(fresh.Descriptor(), F_DUPFD_CLOEXEC, kLeastDescriptor));
+    const auto result = WriteStore(written, room, [&](MDB_txn* txn, MDB_dbi dbi) {
         isSound = CopyRecords(state.tree, txn, dbi, counts, status);
         return isSound ? status : MDB_CORRUPTED;
     });
@@ -278,11 +260,11 @@ bool BackUpLmdb(const std::string& address, const std::string& directory, const 
         error = environment->DescribeDamage(address, state.tree.Cause());
         return false;
     }
-    result = result != 0 ? LmdbWriteStatus(fresh.Path(), result) : fresh.RenameTo(path);
     if (result != 0) {
-        error = LmdbError({}, "write", path, result);
+        error = LmdbError({}, "write", file, LmdbWriteStatus(parent.empty() ? "." : parent, result));
+        return false;
     }
-    return result == 0;
+    return fresh.Commit(error);
 }
 
 bool RestoreLmdb(const std::string& address, const std::string& directory, const std::string& path,

@@ -1,22 +1,19 @@
 #include "wqspcfg/platform/store/lmdb/LmdbEnvironment.h"
 
+#include "wqspcfg/platform/store/ForkSafe.h"
+#include "wqspcfg/platform/store/LockWait.h"
 #include "wqspcfg/platform/store/Record.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <condition_variable>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <fcntl.h>
-#include <filesystem>
 #include <map>
-#include <pthread.h>
-#include <sys/resource.h>
-#include <sys/statvfs.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -38,34 +35,89 @@ std::int64_t CoarseMilliseconds()
     return std::int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1000000;
 }
 
+// Locks of this library on the data file, far behind its end. Unlike those that LMDB has on the lock file they belong
+// to the open file: they stand between two copies of the library in one process, too, and nobody removes them with a
+// file. One byte for the writer; one for each process that writes, and one for each that has the store open, by its
+// number.
+constexpr off_t kWriterByte = off_t{1} << 50;
+constexpr off_t kMostProcesses = off_t{1} << 22;
+constexpr off_t kWriterProcess = kWriterByte + 1;
+constexpr off_t kUserProcess = kWriterProcess + kMostProcesses;
+
+constexpr std::size_t kMostIdle = 16; // readers at rest
+
+struct flock LockOf(short type, off_t start, off_t length)
+{
+    struct flock lock = {};
+    lock.l_type = type;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = start;
+    lock.l_len = length;
+    return lock;
+}
+
+// An errno value, or 0.
+int SetLock(const FileDescriptor& file, short type, off_t start, off_t length = 1)
+{
+    auto lock = LockOf(type, start, length);
+    return fcntl(file.Get(), F_OFD_SETLK, &lock) != 0 ? errno : 0;
+}
+
+// Where the first lock of somebody else in the range is, from its start; -1 for none.
+off_t FindLock(const FileDescriptor& file, off_t start, off_t length)
+{
+    auto lock = LockOf(F_WRLCK, start, length);
+    return fcntl(file.Get(), F_OFD_GETLK, &lock) == 0 && lock.l_type != F_UNLCK ? lock.l_start - start : -1;
+}
+
+// Whether a process other than this one has an environment on the lock file.
+bool IsLockFileUsed(const FileDescriptor& lockFile, pid_t& process)
+{
+    auto lock = LockOf(F_WRLCK, 0, 1);
+    const bool isUsed = fcntl(lockFile.Get(), F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+    process = isUsed ? lock.l_pid : 0;
+    return isUsed;
+}
+
+bool IsSameFile(const struct stat& left, const struct stat& right)
+{
+    return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
+}
+
 std::atomic<unsigned> g_forks{0};
+thread_local int t_reads = 0; // read transactions of this thread
+
+} // namespace
 
 // The open environments by the real path of their directories. An environment is closed with the mutex held: closing
 // the lock file while another environment has it open would drop that one's locks.
-struct Registry
+struct EnvironmentRegistry
 {
-    std::mutex mutex;
+    std::mutex& mutex = ForkSafeMutex(ForkSafe::Environments);
     std::condition_variable closed;
     std::map<std::string, std::weak_ptr<LmdbEnvironment>> open;
 
-    Registry()
-    {
-        pthread_atfork([] { Get().mutex.lock(); }, [] { Get().mutex.unlock(); },
-                       [] {
-                           ++g_forks;
-                           Get().open.clear();
-                           Get().mutex.unlock();
-                       });
-    }
+    EnvironmentRegistry() { SetForkHandler(&LmdbEnvironment::AfterFork); }
 
-    static Registry& Get()
+    static EnvironmentRegistry& Get()
     {
-        static auto* registry = new Registry; // used until the process ends, by static objects too
+        static auto* registry = new EnvironmentRegistry; // used until the process ends, by static objects too
         return *registry;
     }
 };
 
-} // namespace
+void LmdbEnvironment::AfterFork()
+{
+    ++g_forks;
+    auto& registry = EnvironmentRegistry::Get();
+    for (const auto& [path, known] : registry.open) {
+        // The parent's locks go with its last copy of this file.
+        if (const auto environment = known.lock()) {
+            environment->m_dataFile.Close();
+        }
+    }
+    registry.open.clear();
+}
 
 LmdbEnvironment::LmdbEnvironment(std::string directory, std::size_t mapSize)
     : m_directory(std::move(directory)), m_dataPath(m_directory + "/data.mdb"), m_forks(g_forks),
@@ -98,7 +150,7 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
     }
     const std::string path(real.get());
 
-    auto& registry = Registry::Get();
+    auto& registry = EnvironmentRegistry::Get();
     std::unique_lock lock(registry.mutex);
     for (auto found = registry.open.find(path); found != registry.open.end(); found = registry.open.find(path)) {
         if (auto environment = found->second.lock()) {
@@ -111,7 +163,7 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
             // Not even closing it is allowed here.
             return;
         }
-        auto& open = Registry::Get();
+        auto& open = EnvironmentRegistry::Get();
         const std::lock_guard closing(open.mutex);
         delete environment;
         open.open.erase(path);
@@ -126,41 +178,39 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
     return shared;
 }
 
-bool LmdbEnvironment::Replace(const std::string& address, const std::string& directory, const std::string& fresh,
-                              std::string& kept, Error& error)
+bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& folder, const FileDescriptor& fresh,
+                              std::string& name, std::string& kept, Error& error)
 {
-    const std::unique_ptr<char, decltype(&std::free)> real(realpath(directory.c_str(), nullptr), &std::free);
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(folder.Path().c_str(), nullptr), &std::free);
     if (!real) {
-        error = LmdbError(address, "open", directory, errno);
+        error = LmdbError(address, "open", folder.Path(), errno);
         return false;
     }
-    auto& registry = Registry::Get();
+    auto& registry = EnvironmentRegistry::Get();
     const std::lock_guard opening(registry.mutex);
     if (registry.open.contains(real.get())) {
         error = {ErrorKind::Io, address + ": this process has the store open, so that it cannot be exchanged"};
         return false;
     }
-    if (const auto result = ReserveLockFile(directory); result != 0) {
-        error = LmdbError(address, "open", directory + "/lock.mdb", result);
+    const auto lockPath = folder.PathOf(kLockName);
+    struct stat data = {};
+    int result = 0;
+    (void)fstat(fresh.Get(), &data);
+    const auto lockFile = OpenLockFile(address, folder, data, result, error);
+    if (!lockFile) {
+        if (!error) {
+            error = LmdbError(address, "open", lockPath, result);
+        }
         return false;
     }
     // Every process that has the store open holds a lock on the lock file's first byte, and none can open it while this
     // one holds that alone.
-    const auto lockPath = directory + "/lock.mdb";
-    const FileDescriptor lockFile(open(lockPath.c_str(), O_RDWR | O_CLOEXEC));
-    struct flock lock = {};
-    lock.l_type = F_WRLCK;
-    lock.l_whence = SEEK_SET;
-    lock.l_len = 1;
-    if (lockFile.Get() < 0) {
-        error = LmdbError(address, "open", lockPath, errno);
-        return false;
-    }
+    auto lock = LockOf(F_WRLCK, 0, 1);
     if (fcntl(lockFile.Get(), F_SETLK, &lock) != 0) {
         const auto failure = errno;
-        const bool isHeld = failure == EACCES || failure == EAGAIN;
-        if (isHeld && fcntl(lockFile.Get(), F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK) {
-            error = {ErrorKind::Io, address + ": process " + std::to_string(lock.l_pid) + " has " + directory +
+        pid_t process = 0;
+        if ((failure == EACCES || failure == EAGAIN) && IsLockFileUsed(lockFile, process)) {
+            error = {ErrorKind::Io, address + ": process " + std::to_string(process) + " has " + folder.Path() +
                                         " open; end it and all others that use the store, and try again"};
         } else {
             error = LmdbError(address, "lock", lockPath, failure);
@@ -168,81 +218,178 @@ bool LmdbEnvironment::Replace(const std::string& address, const std::string& dir
         return false;
     }
 
-    const auto target = directory + "/data.mdb";
-    const auto old = target + ".damaged";
+    const auto old = std::string(kDataName) + ".damaged";
     kept.clear();
-    auto result = 0;
-    if (access(target.c_str(), F_OK) == 0) {
-        (void)unlink(old.c_str());
+    if (faccessat(folder.Get(), kDataName, F_OK, AT_SYMLINK_NOFOLLOW) == 0) {
+        (void)unlinkat(folder.Get(), old.c_str(), 0);
         // Some file systems have no hard links.
-        result = link(target.c_str(), old.c_str()) != 0 && rename(target.c_str(), old.c_str()) != 0 ? errno : 0;
-        kept = old;
-    }
-    if (result == 0 && rename(fresh.c_str(), target.c_str()) != 0) {
-        result = errno;
+        result = linkat(folder.Get(), kDataName, folder.Get(), old.c_str(), 0) != 0 &&
+                         renameat(folder.Get(), kDataName, folder.Get(), old.c_str()) != 0
+                     ? errno
+                     : 0;
+        kept = folder.PathOf(old.c_str());
     }
     if (result == 0) {
-        result = SyncDirectory(directory);
+        result = folder.Place(fresh, name, kDataName, true);
+    }
+    if (result == 0) {
+        result = folder.Sync();
     }
     // The lock file holds the number of the last transaction, and a process that waits for the lock will believe it.
     MDB_env* env = nullptr;
+    if (result == 0) {
+        result = FillStandardDescriptors();
+    }
     if (result == 0) {
         result = mdb_env_create(&env);
     }
     if (result == 0) {
         (void)mdb_env_set_maxreaders(env, kMaxReaders);
-        result = mdb_env_open(env, directory.c_str(), MDB_NOTLS, 0664);
+        result = mdb_env_open(env, folder.OpenPath().c_str(), MDB_NOTLS, 0600);
         mdb_env_close(env);
     }
     if (result != 0) {
-        error = LmdbError(address, "replace", target, result);
+        error = LmdbError(address, "replace", folder.PathOf(kDataName), result);
     }
     return result == 0;
 }
 
+// Tells other processes that this one uses the store, and finds out whether others use it in a way that LMDB does not
+// know of. Its table of readers and its locks are in the lock file, which it takes for unused when nobody holds it.
+bool LmdbEnvironment::Announce(const std::string& address, Error& error)
+{
+    constexpr int kLooks = 200; // a process that is just opening or closing the store gets some time
+    const auto self = static_cast<off_t>(getpid());
+    if (const auto status = SetLock(m_dataFile, F_RDLCK, kUserProcess + self); status != 0) {
+        error = LmdbError(address, "lock", m_dataPath, status);
+        return false;
+    }
+    for (int looks = 1;; ++looks) {
+        pid_t holder = 0;
+        const bool isCopy = FindLock(m_dataFile, kUserProcess + self, 1) >= 0;
+        const auto user = FindLock(m_dataFile, kUserProcess, kMostProcesses);
+        if (!isCopy && (user < 0 || IsLockFileUsed(m_lockFile, holder))) {
+            return true;
+        }
+        if (looks == kLooks) {
+            error = {ErrorKind::Io,
+                     isCopy ? address + ": another copy of this library in this process (number " +
+                                  std::to_string(self) + ") has " + m_dataPath +
+                                  " open, and two of them would undo each other's writes; build the service providers "
+                                  "of one process with one shared library"
+                            : address + ": process " + std::to_string(user) + " uses " + m_dataPath +
+                                  ", but its lock file " + m_directory + '/' + kLockName +
+                                  " was removed or exchanged; end all processes that use the store, and try again"};
+            return false;
+        }
+        usleep(10000);
+    }
+}
+
+bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status,
+                               Error& error)
+{
+    m_mapSize = std::max(m_mapSize, needed);
+    for (;;) {
+        status = FillStandardDescriptors();
+        if (status == 0) {
+            status = mdb_env_create(&m_env);
+        }
+        if (status != 0) {
+            return false;
+        }
+        (void)mdb_env_set_maxreaders(m_env, kMaxReaders);
+        (void)mdb_env_set_mapsize(m_env, m_mapSize);
+        status = mdb_env_open(m_env, m_folder.OpenPath().c_str(), MDB_NOTLS | flags, 0600);
+        int file = -1;
+        struct stat opened = {};
+        if (status == 0) {
+            status = mdb_env_get_fd(m_env, &file);
+        }
+        if (status == 0) {
+            status = fstat(file, &opened) != 0 ? errno : m_map.Open(file, m_mapSize);
+        }
+        bool isMoved = false;
+        if (status == 0) {
+            isMoved = !IsSameFile(opened, m_data);
+            struct stat lock = {};
+            if (!m_isCopied) {
+                isMoved = isMoved || fstatat(m_folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0 ||
+                          !IsSameFile(lock, m_lock);
+            }
+            for (int standard = 0; standard < kLeastDescriptor; ++standard) {
+                // Another thread may have closed one just now.
+                struct stat other = {};
+                isMoved = isMoved || (fstat(standard, &other) == 0 &&
+                                      (IsSameFile(other, m_data) || (!m_isCopied && IsSameFile(other, m_lock))));
+            }
+            if (!isMoved) {
+                return true;
+            }
+            error = {ErrorKind::Io, address + ": the files in " + m_directory +
+                                        " are being exchanged while they are opened; try again"};
+        }
+        m_map.Close();
+        mdb_env_close(m_env);
+        m_env = nullptr;
+        if (isMoved || status != ENOMEM || m_mapSize == needed) {
+            return false;
+        }
+        // A process may be allowed less address space.
+        m_mapSize = std::max(m_mapSize / 2, needed);
+    }
+}
+
 bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
 {
-    struct stat status = {};
-    if (!CheckFile(address, m_dataPath, status, error)) {
+    if (!m_folder.Open(address, m_directory, false, error)) {
+        return false;
+    }
+    const ActAsOwner owner(m_folder);
+    if (!owner.Check(address, m_folder, error)) {
         return false;
     }
     m_whyReadOnly.clear();
-    int result = ReserveLockFile(m_directory);
-    if (result != 0) {
-        error = LmdbError(address, "open", m_directory + "/lock.mdb", result);
+    m_dataFile = m_folder.OpenFile(kDataName, O_RDWR);
+    if (!m_dataFile && (errno == EACCES || errno == EPERM || errno == EROFS)) {
+        m_whyReadOnly = LmdbWords(errno);
+        m_dataFile = m_folder.OpenFile(kDataName, O_RDONLY);
+    }
+    if (!m_dataFile) {
+        const auto status = errno;
+        error = status == ELOOP ? Error{ErrorKind::AccessDenied, ErrorPrefix(address) + m_dataPath +
+                                                                     " is a symbolic link and is not followed; name "
+                                                                     "the directory that it leads to"}
+                : status == EISDIR || status == ENXIO
+                    ? Error{ErrorKind::BadArgument, ErrorPrefix(address) + m_dataPath + " is not a regular file"}
+                    : LmdbError(address, "open", m_dataPath, status);
         return false;
     }
-    for (const unsigned flags : {0U, unsigned{MDB_RDONLY}, unsigned{MDB_RDONLY} | unsigned{MDB_NOLOCK}}) {
-        const auto needed = 2 * static_cast<std::size_t>(status.st_size) + kLeastMapSize;
-        m_mapSize = std::max(m_mapSize, needed);
-        do {
-            result = mdb_env_create(&m_env);
-            if (result != 0) {
-                break;
-            }
-            (void)mdb_env_set_maxreaders(m_env, kMaxReaders);
-            (void)mdb_env_set_mapsize(m_env, m_mapSize);
-            result = mdb_env_open(m_env, m_directory.c_str(), MDB_NOTLS | flags, 0664);
-            if (result != 0) {
-                mdb_env_close(m_env);
-                m_env = nullptr;
-            }
-            // A process may be allowed less address space.
-        } while (result == ENOMEM && (m_mapSize /= 2) >= needed);
-        if (result != EACCES && result != EPERM && result != EROFS) {
-            break;
-        }
-        if (m_whyReadOnly.empty()) {
-            m_whyReadOnly = LmdbWords(result);
-        }
-    }
-    if (result != 0) {
-        error = LmdbError(address, "open", m_dataPath, result);
+    if (!m_folder.CheckFile(address, kDataName, m_dataFile, error) ||
+        !wqspcfg::CheckFile(address, m_dataPath, m_dataFile, m_data, error)) {
+        m_dataFile.Close();
         return false;
     }
-    m_device = status.st_dev;
-    m_inode = status.st_ino;
-    m_fileSize = static_cast<std::size_t>(status.st_size);
+    int result = 0;
+    Error failure;
+    m_lockFile = OpenLockFile(address, m_folder, m_data, result, failure);
+    if (failure || (m_lockFile && fstat(m_lockFile.Get(), &m_lock) != 0)) {
+        error = failure ? std::move(failure) : LmdbError(address, "open", m_directory + '/' + kLockName, errno);
+        CloseFiles();
+        return false;
+    }
+    m_isCopied = !m_lockFile;
+    if (m_isCopied && m_whyReadOnly.empty()) {
+        m_whyReadOnly = "of " + std::string(kLockName) + ": " + LmdbWords(result);
+    }
+    const auto needed = static_cast<std::size_t>(m_data.st_size) + kLeastMapSize;
+    const unsigned flags = m_isCopied ? MDB_RDONLY | MDB_NOLOCK : m_whyReadOnly.empty() ? 0 : MDB_RDONLY;
+    if ((!m_isCopied && !Announce(address, failure)) || !OpenMaps(address, flags, needed, result, failure)) {
+        error = failure ? std::move(failure) : LmdbError(address, "open", m_dataPath, result);
+        CloseFiles();
+        return false;
+    }
+    m_fileSize = static_cast<std::size_t>(m_data.st_size);
     m_broken = false;
     m_full = false;
 
@@ -250,10 +397,7 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
     (void)mdb_reader_check(m_env, &dead);
 
     MDB_txn* txn = nullptr;
-    result = m_map.Open(m_dataPath.c_str(), m_mapSize);
-    if (result == 0) {
-        result = mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
-    }
+    result = mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
     if (result == 0) {
         result = mdb_dbi_open(txn, nullptr, 0, &m_dbi);
         mdb_txn_abort(txn);
@@ -271,17 +415,18 @@ void LmdbEnvironment::CloseFiles() noexcept
         mdb_txn_abort(txn);
     }
     m_idle.clear();
+    m_copy.reset();
+    m_map.Close();
     if (m_env != nullptr) {
         mdb_env_close(m_env);
         m_env = nullptr;
     }
-    m_map.Close();
-    m_verified = false;
+    m_lockFile.Close();
+    m_dataFile.Close();
 }
 
-int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi)
+int LmdbEnvironment::PutState(MDB_txn* txn, MDB_dbi dbi, std::uint64_t number)
 {
-    const std::uint64_t number = mdb_txn_id(txn);
     std::string record;
     BuildRecord(kStoreFormat, {}, std::as_bytes(std::span(&number, 1)), record);
     SealRecord(NameSum(kStateName), {}, record);
@@ -340,30 +485,64 @@ Error LmdbEnvironment::DescribeDamage(const std::string& address, std::string_vi
     return DamagedFile(address, m_dataPath, cause);
 }
 
-bool LmdbEnvironment::Prepare(const std::string& address, Access access, Error& error)
+// Whether data and lock file are still those that are open; false with `error` when there is no data file.
+bool LmdbEnvironment::IsWhereItWas(const std::string& address, bool& isLockGone, Error& error)
+{
+    struct stat status = {};
+    isLockGone = false;
+    if (lstat(m_dataPath.c_str(), &status) != 0) {
+        error = LmdbError(address, "use", m_dataPath, errno);
+        return false;
+    }
+    if (!IsSameFile(status, m_data)) {
+        return false;
+    }
+    m_fileSize = static_cast<std::size_t>(status.st_size);
+    if (!m_isCopied) {
+        const auto lockPath = m_directory + '/' + kLockName;
+        isLockGone = lstat(lockPath.c_str(), &status) != 0 || !IsSameFile(status, m_lock);
+    }
+    return !isLockGone;
+}
+
+bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::unique_lock<std::mutex>& lock,
+                              Error& error)
 {
     const auto now = CoarseMilliseconds();
     if (access == Access::Read && m_env != nullptr && !m_broken && now < m_nextLook) {
         return true;
     }
-    m_nextLook = 0;
-    struct stat status = {};
-    if (stat(m_dataPath.c_str(), &status) != 0) {
-        error = LmdbError(address, "use", m_dataPath, errno);
-        return false;
-    }
-    const bool replaced = status.st_dev != m_device || status.st_ino != m_inode;
-    const bool mayWriteNow = access == Access::Write && !m_whyReadOnly.empty() && m_active == 0 &&
-                             faccessat(AT_FDCWD, m_dataPath.c_str(), W_OK, AT_EACCESS) == 0;
-    if (m_env != nullptr && !replaced && !m_broken && !mayWriteNow) {
-        m_fileSize = static_cast<std::size_t>(status.st_size);
-        m_nextLook = now + kLookInterval;
-        return true;
-    }
-    if (m_active > 0) {
-        error = {ErrorKind::Io, address + ": " + m_dataPath + (replaced ? " has been replaced" : " has failed") +
-                                    " while it is in use; end this process's transactions on it and try again"};
-        return false;
+    for (bool hasWaited = false;; hasWaited = true) {
+        m_nextLook = 0;
+        bool isLockGone = false;
+        Error failure;
+        const bool isThere = IsWhereItWas(address, isLockGone, failure);
+        if (failure) {
+            error = std::move(failure);
+            return false;
+        }
+        const bool mayWriteNow = access == Access::Write && !m_whyReadOnly.empty() && m_active == 0 &&
+                                 faccessat(AT_FDCWD, m_dataPath.c_str(), W_OK, AT_EACCESS) == 0;
+        if (m_env != nullptr && isThere && !m_broken && !mayWriteNow) {
+            m_nextLook = now + kLookInterval;
+            return true;
+        }
+        if (m_active == 0) {
+            break;
+        }
+        // The other threads' transactions end soon; this thread's own one does not.
+        constexpr auto kPatience = std::chrono::seconds(10);
+        if (hasWaited || t_reads > 0 || isLockGone ||
+            !m_ended.wait_for(lock, kPatience, [this] { return m_active == 0; })) {
+            error = {ErrorKind::Io,
+                     address + ": " +
+                         (isLockGone ? m_directory + '/' + kLockName +
+                                           " was removed or exchanged while the store is in use; end all processes "
+                                           "that use the store, and try again"
+                                     : m_dataPath + (isThere ? " has failed" : " has been replaced") +
+                                           " while it is in use; end this process's transactions on it and try again")};
+            return false;
+        }
     }
     CloseFiles();
     return OpenFiles(address, error);
@@ -377,8 +556,10 @@ int LmdbEnvironment::Grow(std::size_t size)
         MDB_envinfo info{};
         (void)mdb_env_info(m_env, &info);
         m_mapSize = info.me_mapsize;
+        int file = -1;
+        (void)mdb_env_get_fd(m_env, &file);
         m_map.Close();
-        result = m_map.Open(m_dataPath.c_str(), m_mapSize);
+        result = m_map.Open(file, m_mapSize);
         m_broken = result != 0;
     }
     return result;
@@ -415,19 +596,65 @@ int LmdbEnvironment::BeginRenewed(MDB_txn*& txn)
     return result;
 }
 
+// The last state, in memory: the file's pages are read while others may write to it, and count when no writer can have
+// used those of this state again. That takes two commits after it.
+bool LmdbEnvironment::OpenCopy(LmdbTree& tree, std::string& cause)
+{
+    constexpr int kMostTries = 100;
+    for (int tries = 0; tries < kMostTries; ++tries) {
+        const auto number = LastTransaction(m_dataFile);
+        if (m_copy && m_copyNumber == number) {
+            return tree.Open(m_copy, number) || (cause = tree.Cause(), false);
+        }
+        auto copy = std::make_shared<LmdbMap>();
+        const auto status = copy->Read(m_dataFile.Get());
+        if (status != 0) {
+            cause = LmdbWords(status);
+            return false;
+        }
+        if (LastTransaction(m_dataFile) - number > 1) {
+            continue;
+        }
+        // A head that is being written is read again.
+        if (tree.Open(copy, number)) {
+            m_copy = std::move(copy);
+            m_copyNumber = number;
+            return true;
+        }
+        cause = tree.Cause();
+    }
+    if (cause.empty()) {
+        cause = "others write to it faster than it can be read, and without the right to " + std::string(kLockName) +
+                " this process cannot hold a state; get that right, or try again";
+    }
+    return false;
+}
+
+// Keeps a read transaction for the next one, or gives its place to others.
+void LmdbEnvironment::Rest(MDB_txn* txn) noexcept
+{
+    if (m_idle.size() < kMostIdle) {
+        mdb_txn_reset(txn);
+        m_idle.push_back(txn);
+    } else {
+        mdb_txn_abort(txn);
+    }
+}
+
 MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, Error& error)
 {
-    const std::lock_guard lock(m_mutex);
-    if (!Prepare(address, Access::Read, error)) {
+    std::unique_lock lock(m_mutex);
+    if (!Prepare(address, Access::Read, lock, error)) {
         return nullptr;
     }
     MDB_txn* txn = nullptr;
+    std::uint64_t number = 0;
     for (int tries = 0;; ++tries) {
         auto result = BeginRenewed(txn);
         if (result == MDB_PANIC) {
             // A write failed so badly that LMDB wants its environment opened anew.
             m_broken = true;
-            if (!Prepare(address, Access::Read, error)) {
+            if (!Prepare(address, Access::Read, lock, error)) {
                 return nullptr;
             }
             result = BeginRenewed(txn);
@@ -436,23 +663,37 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
             error = LmdbError(address, "read", m_dataPath, result);
             return nullptr;
         }
-        if (tree.Open(m_map, m_fileSize, mdb_txn_id(txn))) {
+        if (m_isCopied) {
+            std::string cause;
+            if (!OpenCopy(tree, cause)) {
+                Rest(txn);
+                error = {ErrorKind::Io, address + ": cannot read " + m_dataPath + ": " + cause};
+                return nullptr;
+            }
+            number = m_copyNumber;
             break;
         }
-        // Writers may have gone on by two transactions between the two steps.
-        mdb_txn_reset(txn);
-        m_idle.push_back(txn);
+        number = mdb_txn_id(txn);
+        if (tree.Open(m_map, m_fileSize, number)) {
+            break;
+        }
+        // Writers may have gone on by two transactions between the two steps, or to another file.
+        Rest(txn);
         if (tries == 3) {
             error = DescribeDamage(address, tree.Cause());
             return nullptr;
         }
+        m_nextLook = 0;
+        if (!Prepare(address, Access::Read, lock, error)) {
+            return nullptr;
+        }
     }
-    if (!CheckState(address, m_dataPath, tree, mdb_txn_id(txn), error)) {
-        mdb_txn_reset(txn);
-        m_idle.push_back(txn);
+    if (!CheckState(address, m_dataPath, tree, number, error)) {
+        Rest(txn);
         return nullptr;
     }
     ++m_active;
+    ++t_reads;
     return txn;
 }
 
@@ -460,8 +701,120 @@ void LmdbEnvironment::EndRead(MDB_txn* txn) noexcept
 {
     mdb_txn_reset(txn);
     const std::lock_guard lock(m_mutex);
-    m_idle.push_back(txn);
-    --m_active;
+    Rest(txn);
+    --t_reads;
+    if (--m_active == 0) {
+        m_ended.notify_all();
+    }
+}
+
+long LmdbEnvironment::FindWriter() const
+{
+    const auto found = FindLock(m_dataFile, kWriterProcess, kMostProcesses);
+    return found < 0 ? 0 : static_cast<long>(found);
+}
+
+// Becomes the one writer of all processes.
+bool LmdbEnvironment::TakeTurn(const std::string& address, std::chrono::steady_clock::time_point deadline, Error& error)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto notice = Clock::now() + std::chrono::seconds(1);
+    const auto self = static_cast<long>(getpid());
+    bool isTold = false;
+    const auto tell = [&](long process) {
+        if (!isTold && Clock::now() >= notice) {
+            isTold = true;
+            NotifyLockWait({address, process});
+        }
+    };
+    const auto refuse = [&](long process) {
+        error = {
+            ErrorKind::Io,
+            address + ": cannot write " + m_dataPath + ": " +
+                (process == 0 ? "another process" : "process " + std::to_string(process)) +
+                (process == self ? " (this one, in another thread)" : "") +
+                " is still writing to it; end it, try again later, or wait longer (WQSPCFG_LOCK_TIMEOUT, seconds)"};
+        return false;
+    };
+    {
+        std::unique_lock lock(m_turnMutex);
+        const auto isFree = [this] { return !m_isTurnTaken; };
+        while (!m_turnEnded.wait_until(lock, isTold ? deadline : std::min(notice, deadline), isFree)) {
+            if (Clock::now() >= deadline) {
+                return refuse(self);
+            }
+            lock.unlock();
+            tell(self);
+            lock.lock();
+        }
+        m_isTurnTaken = true;
+    }
+    auto pause = std::chrono::microseconds(100);
+    int status = 0;
+    for (;;) {
+        status = SetLock(m_dataFile, F_WRLCK, kWriterByte);
+        if (status != EAGAIN && status != EACCES) {
+            break;
+        }
+        if (Clock::now() >= deadline) {
+            const auto process = FindWriter();
+            EndTurn();
+            return refuse(process);
+        }
+        if (!isTold && Clock::now() >= notice) {
+            tell(FindWriter());
+        }
+        std::this_thread::sleep_for(pause);
+        pause = std::min(pause * 3 / 2, std::chrono::microseconds(2000));
+    }
+    if (status == 0) {
+        status = SetLock(m_dataFile, F_WRLCK, kWriterProcess + self);
+    }
+    if (status != 0) {
+        EndTurn();
+        error = LmdbError(address, "lock", m_dataPath, status);
+    }
+    return status == 0;
+}
+
+void LmdbEnvironment::EndTurn() noexcept
+{
+    (void)SetLock(m_dataFile, F_UNLCK, kWriterByte, 1 + kMostProcesses);
+    {
+        const std::lock_guard lock(m_turnMutex);
+        m_isTurnTaken = false;
+    }
+    m_turnEnded.notify_one();
+}
+
+// Counts this thread as active where it may write; `before` is how the last try ended.
+bool LmdbEnvironment::PrepareWrite(const std::string& address, int before, Error& error)
+{
+    std::unique_lock lock(m_mutex);
+    if (!Prepare(address, Access::Write, lock, error)) {
+        return false;
+    }
+    if (!m_whyReadOnly.empty()) {
+        error = {ErrorKind::AccessDenied, address + ": cannot write " + m_dataPath + ": " + m_whyReadOnly};
+        return false;
+    }
+    int dead = 0;
+    (void)mdb_reader_check(m_env, &dead);
+    if (m_active == 0) {
+        MDB_envinfo info{};
+        MDB_stat layout{};
+        (void)mdb_env_info(m_env, &info);
+        (void)mdb_env_stat(m_env, &layout);
+        const auto used = (info.me_last_pgno + 1) * layout.ms_psize;
+        if (before == MDB_MAP_RESIZED) {
+            (void)Grow(0);
+        } else if (m_full || used > m_mapSize / 4 * 3) {
+            m_full = false;
+            (void)Grow(2 * std::max(m_mapSize, used));
+        }
+    }
+    ++m_active;
+    return true;
 }
 
 MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
@@ -470,62 +823,59 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
         error = {ErrorKind::BadArgument, address + ": this thread is already writing to the store"};
         return nullptr;
     }
+    constexpr int kMostTries = 5;
+    const auto deadline = std::chrono::steady_clock::now() + LockTimeout();
     int result = 0;
     MDB_txn* txn = nullptr;
-    for (int tries = 0; tries < 3; ++tries) {
-        {
-            const std::lock_guard lock(m_mutex);
-            if (!Prepare(address, Access::Write, error)) {
-                return nullptr;
-            }
-            if (!m_whyReadOnly.empty()) {
-                error = {ErrorKind::AccessDenied, address + ": cannot write " + m_dataPath + ": " + m_whyReadOnly};
-                return nullptr;
-            }
-            int dead = 0;
-            (void)mdb_reader_check(m_env, &dead);
-            if (m_active == 0) {
-                MDB_envinfo info{};
-                MDB_stat layout{};
-                (void)mdb_env_info(m_env, &info);
-                (void)mdb_env_stat(m_env, &layout);
-                const auto used = (info.me_last_pgno + 1) * layout.ms_psize;
-                if (result == MDB_MAP_RESIZED) {
-                    (void)Grow(0);
-                } else if (m_full || used > m_mapSize / 4 * 3) {
-                    m_full = false;
-                    (void)Grow(2 * std::max(m_mapSize, used));
-                }
-            }
-            ++m_active;
+    for (int tries = 0; tries < kMostTries; ++tries) {
+        if (!PrepareWrite(address, result, error)) {
+            return nullptr;
         }
-        // Waits for the writer of this or another process.
-        result = mdb_txn_begin(m_env, nullptr, 0, &txn);
-        if (result == 0) {
+        if (!TakeTurn(address, deadline, error)) {
+            Release(0);
+            return nullptr;
+        }
+        // The writer before may have exchanged the file.
+        bool isThere = false;
+        {
+            bool isLockGone = false;
+            const std::lock_guard lock(m_mutex);
+            isThere = IsWhereItWas(address, isLockGone, error);
+        }
+        result = isThere ? mdb_txn_begin(m_env, nullptr, 0, &txn) : 0;
+        if (txn != nullptr) {
             break;
         }
+        EndTurn();
         Release(result);
-        if (result != MDB_MAP_RESIZED && result != MDB_PANIC) {
+        if (isThere && result != MDB_MAP_RESIZED && result != MDB_PANIC) {
             break;
         }
     }
-    if (result != 0) {
-        error = LmdbError(address, "write", m_dataPath, result);
+    if (txn == nullptr) {
+        error = LmdbError(address, "write", m_dataPath, result != 0 ? result : ESTALE);
         return nullptr;
     }
+    error = {};
     LmdbTree tree;
-    const auto last = mdb_txn_id(txn) - 1;
-    bool sound = tree.Open(m_map, m_map.Size(), last) && (m_verified || tree.VerifyStructure());
+    const auto last = StateBefore(txn);
+    LmdbMark mark;
+    struct stat data = {};
+    bool sound = tree.Open(m_map, m_map.Size(), last);
+    if (sound &&
+        !(ReadMark(m_lockFile, mark) && fstat(m_dataFile.Get(), &data) == 0 && mark.IsOf(MarkOf(data, last)))) {
+        sound = tree.VerifyStructure();
+    }
     if (!sound) {
         error = DescribeDamage(address, tree.Cause());
     }
     sound = sound && CheckState(address, m_dataPath, tree, last, error);
     if (!sound) {
         mdb_txn_abort(txn);
+        EndTurn();
         Release(0);
         return nullptr;
     }
-    m_verified = true;
     m_writer = std::this_thread::get_id();
     return txn;
 }
@@ -533,15 +883,84 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
 void LmdbEnvironment::EndWrite(int status) noexcept
 {
     m_writer = std::thread::id();
+    struct stat data = {};
+    if (status == 0 && fstat(m_dataFile.Get(), &data) == 0 && data.st_nlink > 0) {
+        WriteMark(m_lockFile, MarkOf(data, LastTransaction(m_dataFile)));
+    }
+    EndTurn();
     Release(status);
 }
 
 void LmdbEnvironment::Release(int status) noexcept
 {
     const std::lock_guard lock(m_mutex);
-    --m_active;
     m_full = m_full || status == MDB_MAP_FULL;
     m_broken = m_broken || status == MDB_PANIC;
+    if (--m_active == 0) {
+        m_ended.notify_all();
+    }
+}
+
+bool LmdbEnvironment::Exchange(const std::string& address, MDB_txn* txn, const FileDescriptor& fresh, std::string& name,
+                               Error& error)
+{
+    auto result = m_folder.Place(fresh, name, kDataName, true);
+    if (result == 0) {
+        result = m_folder.Sync();
+    }
+    struct stat data = {};
+    if (result == 0 && fstat(fresh.Get(), &data) == 0) {
+        WriteMark(m_lockFile, MarkOf(data, StateBefore(txn)));
+    }
+    if (result != 0) {
+        error = LmdbError(address, "replace", m_dataPath, result);
+    }
+    return result == 0;
+}
+
+bool LmdbEnvironment::Describe(const std::string& address, Condition& condition, Error& error)
+{
+    LmdbTree tree;
+    auto* txn = BeginRead(address, tree, error);
+    if (txn == nullptr) {
+        return false;
+    }
+    condition = {};
+    condition.hasLock = !m_isCopied;
+    const auto number = m_isCopied ? m_copyNumber : static_cast<std::uint64_t>(mdb_txn_id(txn));
+    const bool isCounted = tree.CountPages(condition.usedPages, condition.freePages);
+    struct stat data = {};
+    (void)fstat(m_dataFile.Get(), &data);
+    condition.fileSize = static_cast<std::uint64_t>(data.st_size);
+    condition.pageSize = tree.PageSize();
+    condition.transaction = number;
+    condition.modified = data.st_mtim.tv_sec;
+    EndRead(txn);
+    if (!isCounted) {
+        error = DescribeDamage(address, tree.Cause());
+        return false;
+    }
+    if (m_isCopied) {
+        return true;
+    }
+    LmdbMark mark;
+    if (ReadMark(m_lockFile, mark) && mark.inode == data.st_ino && mark.transaction == number) {
+        condition.lastWriter = static_cast<long>(mark.process);
+    }
+    condition.writer = FindWriter();
+    // A line for each: process, thread, transaction or "-".
+    const auto take = [](const char* line, void* to) {
+        long process = 0;
+        char thread[64];
+        unsigned long long transaction = 0;
+        if (sscanf(line, "%ld %63s %llu", &process, thread, &transaction) == 3) {
+            static_cast<std::vector<Reader>*>(to)->push_back({process, transaction});
+        }
+        return 0;
+    };
+    const std::lock_guard lock(m_mutex);
+    (void)mdb_reader_list(m_env, take, &condition.readers);
+    return true;
 }
 
 } // namespace wqspcfg

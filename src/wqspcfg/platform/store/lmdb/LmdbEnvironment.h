@@ -2,11 +2,14 @@
 #pragma once
 
 #include "wqspcfg/platform/base/Error.h"
+#include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
 #include "wqspcfg/platform/store/lmdb/LmdbTree.h"
 
 #include <lmdb.h>
 
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -43,17 +46,50 @@ class LmdbEnvironment
     // After the transaction was committed or aborted with `status`.
     void EndWrite(int status) noexcept;
     // Puts the record that ties the transaction's content to its number. Part of every commit that changes anything.
-    static int PutState(MDB_txn* txn, MDB_dbi dbi);
+    static int PutState(MDB_txn* txn, MDB_dbi dbi, std::uint64_t number);
+    static int PutState(MDB_txn* txn, MDB_dbi dbi) { return PutState(txn, dbi, mdb_txn_id(txn)); }
     // That `tree` shows a whole store of a known format, as transaction number `last` left it. `path` names the file.
     static bool CheckState(const std::string& address, const std::string& path, LmdbTree& tree, std::uint64_t last,
                            Error& error);
 
-    // Puts the data file `fresh`, on the same file system, in the place of the directory's, which may be damaged or
-    // missing. Refused while any process has the store open. `kept` is where a file that was there is now, or empty.
-    static bool Replace(const std::string& address, const std::string& directory, const std::string& fresh,
-                        std::string& kept, Error& error);
+    // Puts the data file `fresh`, which LmdbFolder::MakeFile made with the name `name`, in the place of the folder's,
+    // which may be damaged or missing. Refused while any process has the store open. `kept` is where a file that was
+    // there is now, or empty.
+    static bool Replace(const std::string& address, const LmdbFolder& folder, const FileDescriptor& fresh,
+                        std::string& name, std::string& kept, Error& error);
+
+    // Puts a data file with the state that `txn`, from BeginWrite and with nothing written, has found in the place of
+    // this one. Whoever reads goes on with the old file; the next one to look takes the new one.
+    bool Exchange(const std::string& address, MDB_txn* txn, const FileDescriptor& fresh, std::string& name,
+                  Error& error);
+    const LmdbFolder& Folder() const noexcept { return m_folder; }
+    const LmdbMap& Map() const noexcept { return m_map; }
+    // Between BeginWrite and EndWrite: the number of the state before.
+    static std::uint64_t StateBefore(MDB_txn* txn) noexcept { return mdb_txn_id(txn) - 1; }
+
+    struct Reader
+    {
+        long process = 0;
+        std::uint64_t transaction = 0; // whose state it holds
+    };
+    struct Condition
+    {
+        std::uint64_t fileSize = 0;
+        std::uint64_t usedPages = 0;
+        std::uint64_t freePages = 0;
+        std::uint64_t pageSize = 0;
+        std::uint64_t transaction = 0; // the last one
+        std::int64_t modified = 0;     // when it was, in seconds since 1970
+        long lastWriter = 0;           // process numbers; 0: not known, or none
+        long writer = 0;
+        std::vector<Reader> readers;
+        bool hasLock = true; // else nothing is known of readers and writers
+    };
+    bool Describe(const std::string& address, Condition& condition, Error& error);
 
     MDB_dbi Dbi() const noexcept { return m_dbi; }
+    // Absolute, whatever this process's working directory becomes.
+    const std::string& Directory() const noexcept { return m_directory; }
     const std::string& DataPath() const noexcept { return m_dataPath; }
     // An LMDB or system error in words.
     Error Describe(const std::string& address, std::string_view action, int status) const;
@@ -63,34 +99,59 @@ class LmdbEnvironment
     LmdbEnvironment(std::string directory, std::size_t mapSize);
 
     bool OpenFiles(const std::string& address, Error& error);
+    bool OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status, Error& error);
+    bool Announce(const std::string& address, Error& error);
+    bool IsWhereItWas(const std::string& address, bool& isLockGone, Error& error);
     void CloseFiles() noexcept;
-    // These four with m_mutex held.
-    bool Prepare(const std::string& address, Access access, Error& error);
+    // These with m_mutex held.
+    bool Prepare(const std::string& address, Access access, std::unique_lock<std::mutex>& lock, Error& error);
     int Renew(MDB_txn*& txn);
     int Grow(std::size_t size);
     int BeginRenewed(MDB_txn*& txn);
+    bool OpenCopy(LmdbTree& tree, std::string& cause);
+    void Rest(MDB_txn* txn) noexcept;
+
+    bool PrepareWrite(const std::string& address, int before, Error& error);
+    bool TakeTurn(const std::string& address, std::chrono::steady_clock::time_point deadline, Error& error);
+    void EndTurn() noexcept;
     void Release(int status) noexcept;
+    // The process that writes; 0 when it is not known.
+    long FindWriter() const;
+    static void AfterFork();
+
+    friend struct EnvironmentRegistry;
 
     const std::string m_directory;
     const std::string m_dataPath;
     const unsigned m_forks;
     std::size_t m_mapSize;
+    LmdbFolder m_folder;
+    FileDescriptor m_dataFile; // carries this library's own locks
+    FileDescriptor m_lockFile; // closed after the environment: closing it drops the environment's locks
     MDB_env* m_env = nullptr;
     MDB_dbi m_dbi = 0;
     LmdbMap m_map;
-    dev_t m_device = 0;
-    ino_t m_inode = 0;
+    struct stat m_data = {}; // when opened
+    struct stat m_lock = {};
     std::size_t m_fileSize = 0; // when last looked at
     std::int64_t m_nextLook = 0;
     std::string m_whyReadOnly; // empty when it can be written
+    // Without the right to the lock file no state can be held: each is copied, and shared while it is the last one.
+    bool m_isCopied = false;
+    std::shared_ptr<const LmdbMap> m_copy;
+    std::uint64_t m_copyNumber = 0;
 
     std::mutex m_mutex;
-    std::vector<MDB_txn*> m_idle; // read transactions at rest, which keep their reader slots
+    std::condition_variable m_ended; // a transaction
+    std::vector<MDB_txn*> m_idle;    // read transactions at rest, which keep their reader slots
     std::size_t m_active = 0;
-    bool m_full = false;                 // a write found the map full
-    bool m_broken = false;               // LMDB gave the environment up
-    std::atomic<bool> m_verified{false}; // the structure was found sound before the first write
+    bool m_full = false;   // a write found the map full
+    bool m_broken = false; // LMDB gave the environment up
     std::atomic<std::thread::id> m_writer{};
+
+    std::mutex m_turnMutex;
+    std::condition_variable m_turnEnded;
+    bool m_isTurnTaken = false; // by a thread of this process that writes or is about to
 };
 
 } // namespace wqspcfg

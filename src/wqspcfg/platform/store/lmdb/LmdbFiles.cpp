@@ -1,17 +1,19 @@
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
 
+#include "wqspcfg/platform/store/Record.h"
 #include "wqspcfg/platform/store/lmdb/LmdbEnvironment.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cerrno>
 #include <cstdint>
-#include <cstdlib>
 #include <fcntl.h>
-#include <filesystem>
 #include <sys/resource.h>
 #include <sys/statvfs.h>
 #include <system_error>
+#include <unistd.h>
 
 namespace wqspcfg {
 
@@ -20,20 +22,9 @@ namespace {
 ErrorKind KindOf(int status)
 {
     switch (status) {
-    case ENOENT:
-    case ENOTDIR:
-        return ErrorKind::NotFound;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return ErrorKind::AccessDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
     case MDB_MAP_FULL:
     case MDB_TXN_FULL:
         return ErrorKind::NoSpace;
-    case ENAMETOOLONG:
     case MDB_BAD_VALSIZE:
         return ErrorKind::TooLong;
     case MDB_CORRUPTED:
@@ -43,7 +34,7 @@ ErrorKind KindOf(int status)
     case MDB_CURSOR_FULL:
         return ErrorKind::Damaged;
     default:
-        return ErrorKind::Io;
+        return KindOfSystemError(status);
     }
 }
 
@@ -106,10 +97,10 @@ Error DamagedFile(const std::string& address, const std::string& path, std::stri
     return {ErrorKind::Damaged, ErrorPrefix(address) + path + " is damaged: " + std::string(cause)};
 }
 
-bool CheckFile(const std::string& address, const std::string& path, struct stat& status, Error& error)
+bool CheckFile(const std::string& address, const std::string& path, const FileDescriptor& file, struct stat& status,
+               Error& error)
 {
-    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.Get() < 0 || fstat(file.Get(), &status) != 0) {
+    if (fstat(file.Get(), &status) != 0) {
         error = LmdbError(address, "open", path, errno);
         return false;
     }
@@ -162,36 +153,124 @@ bool CheckFile(const std::string& address, const std::string& path, struct stat&
     return true;
 }
 
-int SyncDirectory(const std::string& directory)
+std::uint64_t LastTransaction(const FileDescriptor& file)
 {
-    const FileDescriptor file(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return file.Get() < 0 || fsync(file.Get()) != 0 ? errno : 0;
+    std::array<lmdb::Meta, 2> metas{};
+    return ReadMeta(file.Get(), 0, metas[0]) && ReadMeta(file.Get(), metas[0].freeList.pad, metas[1])
+               ? std::max(metas[0].transaction, metas[1].transaction)
+               : 0;
 }
 
-int ReserveLockFile(const std::string& directory)
+LmdbMark MarkOf(const struct stat& data, std::uint64_t transaction)
 {
-    constexpr off_t kSize = 33 << 10; // for kMaxReaders
-    const auto path = directory + "/lock.mdb";
-    const bool isNew = access(path.c_str(), F_OK) != 0;
-    const FileDescriptor file(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0664));
-    struct stat status = {};
-    struct stat data = {};
-    if (file.Get() < 0 || fstat(file.Get(), &status) != 0) {
-        return 0;
-    }
-    if (isNew && geteuid() == 0 && stat((directory + "/data.mdb").c_str(), &data) == 0 &&
-        (fchown(file.Get(), data.st_uid, data.st_gid) != 0 || fchmod(file.Get(), data.st_mode & 0777) != 0)) {
-        return errno;
-    }
-    if (status.st_blocks * 512 >= kSize) {
-        return 0;
-    }
-    const auto result = fallocate(file.Get(), 0, 0, kSize) != 0 ? errno : 0;
-    return result == ENOSPC || result == EDQUOT || result == EFBIG ? result : 0;
+    constexpr std::int64_t kSecond = 1'000'000'000;
+    LmdbMark mark;
+    mark.transaction = transaction;
+    mark.inode = data.st_ino;
+    mark.size = static_cast<std::uint64_t>(data.st_size);
+    mark.changed = data.st_ctim.tv_sec * kSecond + data.st_ctim.tv_nsec;
+    mark.modified = data.st_mtim.tv_sec * kSecond + data.st_mtim.tv_nsec;
+    return mark;
 }
 
-int WriteStore(const std::string& path, std::size_t mapSize, const FillStore& fill)
+namespace {
+
+constexpr off_t kLmdbLocks = 33 << 10; // what LMDB uses of the lock file
+// LMDB takes whatever is there for its table of readers: what follows is less than one more of its entries.
+constexpr off_t kLockSize = kLmdbLocks + static_cast<off_t>(sizeof(LmdbMark));
+
+std::uint64_t SumOf(const LmdbMark& mark)
 {
+    constexpr auto kBehind = sizeof mark.sum;
+    return NameSum({reinterpret_cast<const char*>(&mark) + kBehind, sizeof mark - kBehind});
+}
+
+} // namespace
+
+bool ReadMark(const FileDescriptor& lockFile, LmdbMark& mark)
+{
+    return pread(lockFile.Get(), &mark, sizeof mark, kLmdbLocks) == static_cast<ssize_t>(sizeof mark) &&
+           mark.sum == SumOf(mark) && mark.process != 0;
+}
+
+void WriteMark(const FileDescriptor& lockFile, LmdbMark mark)
+{
+    mark.process = getpid();
+    mark.sum = SumOf(mark);
+    // Without it the next writer has to verify the store.
+    (void)!pwrite(lockFile.Get(), &mark, sizeof mark, kLmdbLocks);
+}
+
+FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder, const struct stat& data, int& status,
+                            Error& error)
+{
+    status = 0;
+    const auto path = folder.PathOf(kLockName);
+    auto file = folder.OpenFile(kLockName, O_RDWR);
+    for (int tries = 0; !file && errno == ENOENT && tries < 100; ++tries) {
+        constexpr mode_t kOwnOnly = 0600;
+        file = OpenAt(folder.Get(), kLockName, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, kOwnOnly);
+        if (file) {
+            // Who may use the data file may use this one. Where it cannot get the same group, it is its maker's.
+            const bool isGiven =
+                fchown(file.Get(), geteuid() == 0 ? data.st_uid : static_cast<uid_t>(-1), data.st_gid) == 0;
+            (void)!fchmod(file.Get(), isGiven ? data.st_mode & 0666 : kOwnOnly);
+        } else if (errno == EEXIST) {
+            file = folder.OpenFile(kLockName, O_RDWR); // another process was faster
+        }
+    }
+    if (!file) {
+        status = errno;
+        if (status == ELOOP) {
+            error = {ErrorKind::AccessDenied,
+                     ErrorPrefix(address) + path + " is a symbolic link and is not followed; remove it"};
+        } else if (status != EACCES && status != EPERM && status != EROFS) {
+            error = status == ENXIO || status == EISDIR
+                        ? Error{ErrorKind::BadArgument, ErrorPrefix(address) + path + " is not a regular file"}
+                        : LmdbError(address, "open", path, status);
+        }
+        return file;
+    }
+    if (!folder.CheckFile(address, kLockName, file, error)) {
+        return FileDescriptor();
+    }
+    struct stat own = {};
+    if (fstat(file.Get(), &own) == 0 && (own.st_blocks * 512 < kLmdbLocks || own.st_size < kLockSize) &&
+        fallocate(file.Get(), 0, 0, kLockSize) != 0 && (errno == ENOSPC || errno == EDQUOT || errno == EFBIG)) {
+        error = LmdbError(address, "open", path, errno);
+        return FileDescriptor();
+    }
+    return file;
+}
+
+namespace {
+
+// Makes the content of the last transaction that of the given one. An errno value, or 0.
+int Renumber(const FileDescriptor& file, std::uint64_t transaction)
+{
+    std::array<lmdb::Meta, 2> metas{};
+    if (!ReadMeta(file.Get(), 0, metas[0]) || !ReadMeta(file.Get(), metas[0].freeList.pad, metas[1])) {
+        return EIO;
+    }
+    const std::size_t pageSize = metas[0].freeList.pad;
+    auto meta = metas[metas[1].transaction > metas[0].transaction ? 1 : 0];
+    for (const auto number : {transaction - 1, transaction}) {
+        meta.transaction = number;
+        const auto at = (number & 1) * pageSize + sizeof(lmdb::PageHeader);
+        if (pwrite(file.Get(), &meta, sizeof meta, static_cast<off_t>(at)) != static_cast<ssize_t>(sizeof meta)) {
+            return errno;
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+int WriteStore(const FileDescriptor& file, std::size_t mapSize, const FillStore& fill, std::uint64_t transaction)
+{
+    if (const auto filled = FillStandardDescriptors(); filled != 0) {
+        return filled;
+    }
     MDB_env* env = nullptr;
     auto status = mdb_env_create(&env);
     if (status != 0) {
@@ -200,14 +279,14 @@ int WriteStore(const std::string& path, std::size_t mapSize, const FillStore& fi
     MDB_txn* txn = nullptr;
     MDB_dbi dbi = 0;
     (void)mdb_env_set_mapsize(env, mapSize);
-    status = mdb_env_open(env, path.c_str(), MDB_NOSUBDIR | MDB_NOLOCK, 0664);
+    status = mdb_env_open(env, file.Path().c_str(), MDB_NOSUBDIR | MDB_NOLOCK, 0600);
     if (status == 0) {
         status = mdb_txn_begin(env, nullptr, 0, &txn);
     }
     if (status == 0) {
         status = mdb_dbi_open(txn, nullptr, 0, &dbi);
         if (status == 0) {
-            status = LmdbEnvironment::PutState(txn, dbi);
+            status = LmdbEnvironment::PutState(txn, dbi, transaction == 0 ? mdb_txn_id(txn) : transaction);
         }
         if (status == 0 && fill) {
             status = fill(txn, dbi);
@@ -219,37 +298,34 @@ int WriteStore(const std::string& path, std::size_t mapSize, const FillStore& fi
         }
     }
     mdb_env_close(env);
-    return status;
+    if (status == 0 && transaction > 1) {
+        status = Renumber(file, transaction);
+    }
+    return status == 0 && fsync(file.Get()) != 0 ? errno : status;
 }
 
 bool CreateStore(const std::string& address, const std::string& directory, Error& error)
 {
-    std::error_code failure;
-    std::filesystem::create_directories(directory, failure);
-    if (failure) {
-        error = LmdbError(address, "create", directory, failure.value());
+    LmdbFolder folder;
+    if (!folder.Open(address, directory, true, error)) {
         return false;
     }
-    std::string fresh = directory + "/.new-XXXXXX";
-    if (mkdtemp(fresh.data()) == nullptr) {
-        error = LmdbError(address, "create a store in", directory, errno);
+    const ActAsOwner owner(folder);
+    if (!owner.Check(address, folder, error)) {
         return false;
     }
-    const auto target = directory + "/data.mdb";
-    const auto source = fresh + "/data.mdb";
-    auto status = WriteStore(source, kLeastMapSize, {});
-    struct stat owner = {};
-    if (status == 0 && geteuid() == 0 && stat(directory.c_str(), &owner) == 0 &&
-        chown(source.c_str(), owner.st_uid, owner.st_gid) != 0) {
-        status = errno;
-    }
-    if (status == 0 && link(source.c_str(), target.c_str()) != 0 && errno != EEXIST) {
-        // Some file systems have no hard links.
-        status = rename(source.c_str(), target.c_str()) != 0 ? errno : 0;
-    }
-    std::filesystem::remove_all(fresh, failure);
+    std::string name;
+    const auto file = folder.MakeFile(name);
+    auto status = file ? WriteStore(file, kLeastMapSize, {}) : errno;
     if (status == 0) {
-        status = SyncDirectory(directory);
+        status = folder.Place(file, name, kDataName, false);
+        status = status == EEXIST ? 0 : status; // another process was faster
+    }
+    if (status == 0) {
+        status = folder.Sync();
+    }
+    if (!name.empty()) {
+        (void)unlinkat(folder.Get(), name.c_str(), 0);
     }
     if (status != 0) {
         error = LmdbError(address, "create a store in", directory, LmdbWriteStatus(directory, status));

@@ -222,17 +222,19 @@ std::shared_ptr<LmdbStore> LmdbStore::Open(std::string address, const std::strin
                                            const LmdbOptions& options, Error& error)
 {
     auto environment = LmdbEnvironment::Open(address, directory, options.create, options.mapSize, error);
-    return environment ? std::make_shared<LmdbStore>(std::move(address), directory, options, std::move(environment))
-                       : nullptr;
+    return environment ? std::make_shared<LmdbStore>(std::move(address), options, std::move(environment)) : nullptr;
 }
 
-LmdbStore::LmdbStore(std::string address, std::string directory, const LmdbOptions& options,
-                     std::shared_ptr<LmdbEnvironment> environment)
-    : m_address(std::move(address)), m_directory(std::move(directory)), m_options(options),
-      m_environment(std::move(environment))
+LmdbStore::LmdbStore(std::string address, const LmdbOptions& options, std::shared_ptr<LmdbEnvironment> environment)
+    : m_address(std::move(address)), m_options(options), m_environment(std::move(environment))
 {}
 
 LmdbStore::~LmdbStore() = default;
+
+std::string LmdbStore::FilePath() const
+{
+    return m_environment->DataPath();
+}
 
 std::unique_ptr<Transaction> LmdbStore::Begin(Access access, Error& error)
 {
@@ -241,7 +243,7 @@ std::unique_ptr<Transaction> LmdbStore::Begin(Access access, Error& error)
         // This process was forked since: it needs an environment of its own. Before the fork nobody held this mutex.
         const std::lock_guard lock(m_forkedMutex);
         if (!m_forked || !m_forked->IsOurs()) {
-            m_forked = LmdbEnvironment::Open(m_address, m_directory, false, m_options.mapSize, error);
+            m_forked = LmdbEnvironment::Open(m_address, m_environment->Directory(), false, m_options.mapSize, error);
         }
         environment = m_forked;
         if (!environment) {

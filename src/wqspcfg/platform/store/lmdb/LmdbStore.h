@@ -31,16 +31,15 @@ class LmdbStore final : public Store
     static std::shared_ptr<LmdbStore> Open(std::string address, const std::string& directory,
                                            const LmdbOptions& options, Error& error);
 
-    LmdbStore(std::string address, std::string directory, const LmdbOptions& options,
-              std::shared_ptr<LmdbEnvironment> environment);
+    LmdbStore(std::string address, const LmdbOptions& options, std::shared_ptr<LmdbEnvironment> environment);
     ~LmdbStore() override;
 
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_address; }
+    std::string FilePath() const override;
 
   private:
     std::string m_address;
-    std::string m_directory;
     LmdbOptions m_options;
     const std::shared_ptr<LmdbEnvironment> m_environment;
     std::mutex m_forkedMutex;

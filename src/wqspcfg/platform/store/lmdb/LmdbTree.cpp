@@ -82,17 +82,13 @@ class SumChecker
 
 } // namespace
 
-int LmdbMap::Open(const char* path, std::size_t room)
+int LmdbMap::Open(int file, std::size_t room)
 {
-    m_file = open(path, O_RDONLY | O_CLOEXEC);
-    if (m_file < 0) {
-        return errno;
-    }
-    auto* data = mmap(nullptr, room, PROT_READ, MAP_SHARED, m_file, 0);
+    m_file = FileDescriptor(fcntl(file, F_DUPFD_CLOEXEC, kLeastDescriptor));
+    auto* data = m_file ? mmap(nullptr, room, PROT_READ, MAP_SHARED, file, 0) : MAP_FAILED;
     if (data == MAP_FAILED) {
         const auto status = errno;
-        close(m_file);
-        m_file = -1;
+        m_file.Close();
         return status;
     }
     m_data = static_cast<const char*>(data);
@@ -100,11 +96,10 @@ int LmdbMap::Open(const char* path, std::size_t room)
     return 0;
 }
 
-int LmdbMap::Read(const char* path)
+int LmdbMap::Read(int file)
 {
-    m_file = open(path, O_RDONLY | O_CLOEXEC);
     struct stat status = {};
-    if (m_file < 0 || fstat(m_file, &status) != 0) {
+    if (fstat(file, &status) != 0) {
         return errno;
     }
     const auto size = static_cast<std::size_t>(status.st_size);
@@ -116,7 +111,7 @@ int LmdbMap::Read(const char* path)
     m_data = static_cast<const char*>(data);
     m_room = std::max(size, std::size_t{1});
     for (std::size_t at = 0; at < size;) {
-        const auto got = pread(m_file, static_cast<char*>(data) + at, size - at, static_cast<off_t>(at));
+        const auto got = pread(file, static_cast<char*>(data) + at, size - at, static_cast<off_t>(at));
         if (got == 0 || (got < 0 && errno != EINTR)) {
             return got == 0 ? EIO : errno;
         }
@@ -131,16 +126,16 @@ void LmdbMap::Close() noexcept
         munmap(const_cast<char*>(m_data), m_room);
         m_data = nullptr;
     }
-    if (m_file >= 0) {
-        close(m_file);
-        m_file = -1;
-    }
+    m_file.Close();
 }
 
 std::size_t LmdbMap::Size() const noexcept
 {
     struct stat status = {};
-    return fstat(m_file, &status) == 0 ? std::min(static_cast<std::size_t>(status.st_size), m_room) : 0;
+    if (!m_file) {
+        return m_room; // in memory
+    }
+    return fstat(m_file.Get(), &status) == 0 ? std::min(static_cast<std::size_t>(status.st_size), m_room) : 0;
 }
 
 std::uint64_t LmdbTree::Node::Child() const noexcept
@@ -199,6 +194,12 @@ bool LmdbTree::Open(const LmdbMap& map, std::size_t size, std::uint64_t transact
         return Damaged("its head gives an impossible depth");
     }
     return true;
+}
+
+bool LmdbTree::Open(std::shared_ptr<const LmdbMap> copy, std::uint64_t transaction)
+{
+    m_copy = std::move(copy);
+    return Open(*m_copy, m_copy->Room(), transaction);
 }
 
 // The start of `count` pages, or null when they do not all lie within the file.
@@ -688,6 +689,24 @@ bool LmdbTree::VerifyStructure()
             return DamagedPage(page, "counts as free but is not");
         }
     }
+    return true;
+}
+
+bool LmdbTree::CountPages(std::uint64_t& used, std::uint64_t& free)
+{
+    Usage usage;
+    usage.inUse.resize(m_meta.lastPage + 1);
+    usage.isFreeList = true;
+    const auto& list = m_meta.freeList;
+    if (list.root != lmdb::kNoPage &&
+        (list.depth == 0 || list.depth >= kMaxDepth || !VerifyBranch(list, list.root, 1, {}, usage))) {
+        return m_cause.empty() ? Damaged("its head gives an impossible depth") : false;
+    }
+    free = usage.free.size();
+    if (free > m_meta.lastPage + 1) {
+        return Damaged("it has more free pages than pages");
+    }
+    used = m_meta.lastPage + 1 - free;
     return true;
 }
 

@@ -8,11 +8,13 @@
 #pragma once
 
 #include "wqspcfg/platform/store/FlatTransaction.h"
+#include "wqspcfg/platform/store/PosixFile.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,10 +30,10 @@ class LmdbMap
     LmdbMap(const LmdbMap&) = delete;
     LmdbMap& operator=(const LmdbMap&) = delete;
 
-    // Maps the file with room to grow. An errno value, or 0.
-    int Open(const char* path, std::size_t room);
+    // Maps the open file with room to grow. An errno value, or 0.
+    int Open(int file, std::size_t room);
     // Reads the file into memory instead: what becomes of it later does not matter. An errno value, or 0.
-    int Read(const char* path);
+    int Read(int file);
     void Close() noexcept;
     const char* Data() const noexcept { return m_data; }
     // How much of the map is backed by the file now; touching more of it would end the process.
@@ -39,7 +41,7 @@ class LmdbMap
     std::size_t Room() const noexcept { return m_room; }
 
   private:
-    int m_file = -1;
+    FileDescriptor m_file; // of a mapped one
     const char* m_data = nullptr;
     std::size_t m_room = 0;
 };
@@ -50,6 +52,8 @@ class LmdbTree
     // The state that transaction number `transaction` left. False when the file does not hold that state (any more).
     // `size` is the file's, as it was before that transaction began or later.
     bool Open(const LmdbMap& map, std::size_t size, std::uint64_t transaction);
+    // The same of a copy in memory, which it keeps.
+    bool Open(std::shared_ptr<const LmdbMap> copy, std::uint64_t transaction);
 
     Lookup Get(std::string_view name, Locality locality, std::string_view& record);
 
@@ -73,6 +77,10 @@ class LmdbTree
     // Whether every page of the store is sound and in its place, and no page that is in use counts as free. What LMDB
     // needs to write without harm.
     bool VerifyStructure();
+
+    // How many pages hold the content and the structure, and how many are free. False when the list is damaged.
+    bool CountPages(std::uint64_t& used, std::uint64_t& free);
+    std::size_t PageSize() const noexcept { return m_pageSize; }
 
     // What is damaged, after a call that failed.
     const std::string& Cause() const noexcept { return m_cause; }
@@ -161,6 +169,7 @@ class LmdbTree
                       Usage& usage);
 
     const LmdbMap* m_map = nullptr;
+    std::shared_ptr<const LmdbMap> m_copy;
     std::size_t m_size = 0; // of the file, when last looked at
     std::size_t m_pageSize = 0;
     lmdb::Meta m_meta{};

@@ -1,5 +1,6 @@
 #include "wqspcfg/platform/store/regfile/RegFileStore.h"
 
+#include "wqspcfg/platform/store/ForwardingTransaction.h"
 #include "wqspcfg/platform/store/regfile/RegFile.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 
@@ -22,56 +23,26 @@ std::wstring_view TakeComponent(std::wstring_view& path)
     return component;
 }
 
-// Opens the keys of 32-bit programs in place of those of 64-bit ones.
-class RedirectingTransaction final : public Transaction
+// Opens the keys of 32-bit programs in place of those of 64-bit ones. The content's transaction is one for reading.
+class RedirectingTransaction final : public ForwardingTransaction
 {
   public:
-    explicit RedirectingTransaction(std::unique_ptr<Transaction> content) : m_content(std::move(content)) {}
+    using ForwardingTransaction::ForwardingTransaction;
 
     Outcome OpenKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
-        return Passed(m_content->OpenKey(hive, Redirected(hive, path), key));
-    }
-    void CloseKey(KeyId key) noexcept override { m_content->CloseKey(key); }
-    Outcome Query(KeyId key, std::wstring_view name, ValueView& value) override
-    {
-        return Passed(m_content->Query(key, name, value));
+        return ForwardingTransaction::OpenKey(hive, Redirected(hive, path), key);
     }
     Outcome QueryAt(Hive hive, std::wstring_view path, std::wstring_view name, ValueView& value) override
     {
-        return Passed(m_content->QueryAt(hive, Redirected(hive, path), name, value));
+        return ForwardingTransaction::QueryAt(hive, Redirected(hive, path), name, value);
     }
-    Outcome EnumKeys(KeyId key, const KeyVisitor& visit) override { return Passed(m_content->EnumKeys(key, visit)); }
-    Outcome EnumValues(KeyId key, const ValueVisitor& visit) override
+    Outcome NameKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
-        return Passed(m_content->EnumValues(key, visit));
+        return ForwardingTransaction::NameKey(hive, Redirected(hive, path), key);
     }
-    // The content's transaction is one for reading and refuses these.
-    Outcome CreateKey(Hive hive, std::wstring_view path, KeyId& key) override
-    {
-        return Passed(m_content->CreateKey(hive, path, key));
-    }
-    Outcome SetValue(KeyId key, std::wstring_view name, const ValueView& value) override
-    {
-        return Passed(m_content->SetValue(key, name, value));
-    }
-    Outcome DeleteValue(KeyId key, std::wstring_view name) override
-    {
-        return Passed(m_content->DeleteValue(key, name));
-    }
-    Outcome DeleteKey(Hive hive, std::wstring_view path) override { return Passed(m_content->DeleteKey(hive, path)); }
-    Outcome Commit(bool flush) override { return Passed(m_content->Commit(flush)); }
 
   private:
-    Outcome Passed(Outcome outcome)
-    {
-        if (outcome == Outcome::Failed) {
-            const auto& error = m_content->LastError();
-            return Fail(error.kind, error.message);
-        }
-        return outcome;
-    }
-
     std::wstring_view Redirected(Hive hive, std::wstring_view path)
     {
         auto rest = path;
@@ -84,7 +55,6 @@ class RedirectingTransaction final : public Transaction
         return m_path;
     }
 
-    std::unique_ptr<Transaction> m_content;
     std::wstring m_path;
 };
 
@@ -93,7 +63,7 @@ class RedirectingTransaction final : public Transaction
 std::shared_ptr<RegFileStore> RegFileStore::Open(std::string address, const std::string& path, bool view32,
                                                  Error& error)
 {
-    auto store = std::make_shared<RegFileStore>(std::move(address));
+    auto store = std::make_shared<RegFileStore>(std::move(address), path);
     ImportCounts counts;
     if (!ImportRegFile(store->m_content, path, counts, error)) {
         return nullptr;

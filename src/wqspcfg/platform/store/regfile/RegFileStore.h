@@ -15,13 +15,15 @@ class RegFileStore final : public Store
     // 64-bit Windows keeps the keys of 32-bit programs; a file without that key is read as it stands.
     static std::shared_ptr<RegFileStore> Open(std::string address, const std::string& path, bool view32, Error& error);
 
-    explicit RegFileStore(std::string address) : m_content(std::move(address)) {}
+    RegFileStore(std::string address, std::string path) : m_content(std::move(address)), m_path(std::move(path)) {}
 
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_content.Address(); }
+    std::string FilePath() const override { return m_path; }
 
   private:
     MemoryStore m_content;
+    std::string m_path;
     bool m_redirects = false;
 };
 

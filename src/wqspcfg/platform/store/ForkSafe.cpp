@@ -1,0 +1,64 @@
+#include "wqspcfg/platform/store/ForkSafe.h"
+
+#include <array>
+#include <atomic>
+
+#if !defined(_WIN32)
+#include <pthread.h>
+#endif
+
+namespace wqspcfg {
+
+namespace {
+
+struct Locks
+{
+    std::array<std::mutex, static_cast<std::size_t>(ForkSafe::Count)> mutexes;
+    std::atomic<void (*)()> inChild{nullptr};
+
+    Locks()
+    {
+#if !defined(_WIN32)
+        pthread_atfork([] { Get().Lock(); }, [] { Get().Unlock(); },
+                       [] {
+                           if (auto* handler = Get().inChild.load()) {
+                               handler();
+                           }
+                           Get().Unlock();
+                       });
+#endif
+    }
+
+    void Lock()
+    {
+        for (auto& mutex : mutexes) {
+            mutex.lock();
+        }
+    }
+    void Unlock()
+    {
+        for (auto mutex = mutexes.rbegin(); mutex != mutexes.rend(); ++mutex) {
+            mutex->unlock();
+        }
+    }
+
+    static Locks& Get()
+    {
+        static auto* locks = new Locks; // used until the process ends, by static objects too
+        return *locks;
+    }
+};
+
+} // namespace
+
+std::mutex& ForkSafeMutex(ForkSafe which)
+{
+    return Locks::Get().mutexes[static_cast<std::size_t>(which)];
+}
+
+void SetForkHandler(void (*inChild)())
+{
+    Locks::Get().inChild = inChild;
+}
+
+} // namespace wqspcfg

@@ -1,0 +1,258 @@
+#include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
+
+#include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <grp.h>
+#include <random>
+#include <sys/fsuid.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace wqspcfg {
+
+namespace {
+
+bool TrustsAll()
+{
+    const auto* text = secure_getenv("WQSPCFG_TRUST_DIRECTORY");
+    return text != nullptr && std::strcmp(text, "1") == 0;
+}
+
+// Makes the directory and its parents, each durable in the one above. An errno value, or 0.
+int MakeDirectories(const std::string& path)
+{
+    constexpr mode_t kOwn = 0700;
+    constexpr mode_t kParent = 0755;
+    for (std::size_t end = 0; end != std::string::npos;) {
+        end = path.find('/', end + 1);
+        const auto part = path.substr(0, end);
+        if (part.find_first_not_of('/') == std::string::npos) {
+            continue;
+        }
+        const auto isLast = path.find_first_not_of('/', part.size()) == std::string::npos;
+        if (mkdir(part.c_str(), isLast ? kOwn : kParent) == 0) {
+            const auto slash = part.find_last_of('/');
+            const auto parent =
+                OpenFile(slash == std::string::npos ? "." : part.substr(0, slash + 1), O_RDONLY | O_DIRECTORY);
+            if (!parent || fsync(parent.Get()) != 0) {
+                return errno;
+            }
+        } else if (errno != EEXIST) {
+            return errno;
+        }
+        if (isLast) {
+            break;
+        }
+    }
+    return 0;
+}
+
+// The group to act with in a directory: never the superuser's, which the directory may have kept.
+gid_t GroupOf(const struct stat& directory)
+{
+    constexpr gid_t kNoGroup = 65534;
+    return directory.st_gid == 0 ? kNoGroup : directory.st_gid;
+}
+
+// glibc gives new groups to all threads of the process.
+int SetGroupsOfThread(const std::vector<gid_t>& groups)
+{
+#if defined(SYS_setgroups32)
+    return static_cast<int>(syscall(SYS_setgroups32, groups.size(), groups.data()));
+#else
+    return static_cast<int>(syscall(SYS_setgroups, groups.size(), groups.data()));
+#endif
+}
+
+} // namespace
+
+bool LmdbFolder::Open(const std::string& address, const std::string& path, bool create, Error& error)
+{
+    m_path = path;
+    m_directory = wqspcfg::OpenFile(path, O_PATH | O_DIRECTORY);
+    if (!m_directory && errno == ENOENT && create) {
+        if (const auto status = MakeDirectories(path); status != 0) {
+            error = LmdbError(address, "create", path, status);
+            return false;
+        }
+        m_directory = wqspcfg::OpenFile(path, O_PATH | O_DIRECTORY);
+    }
+    if (!m_directory || fstat(m_directory.Get(), &m_status) != 0) {
+        error = LmdbError(address, "open", path, errno);
+        return false;
+    }
+    m_isTrusted = TrustsAll();
+    if (m_isTrusted) {
+        return true;
+    }
+    const auto refuse = [&](const std::string& why) {
+        error = {ErrorKind::AccessDenied,
+                 ErrorPrefix(address) + path + ' ' + why + ", or set WQSPCFG_TRUST_DIRECTORY=1 if you trust them"};
+        return false;
+    };
+    const auto self = geteuid();
+    if (self != 0 && m_status.st_uid != self && m_status.st_uid != 0) {
+        return refuse(
+            "belongs to another user (number " + std::to_string(m_status.st_uid) +
+            "), who could have any file of yours written to; use a directory of your own or of the superuser");
+    }
+    if ((m_status.st_mode & (S_IWGRP | S_IWOTH)) != 0) {
+        return refuse("can be written by other users, who could have any file of yours written to; take that right "
+                      "away (chmod go-w " +
+                      path + ')');
+    }
+    return true;
+}
+
+std::string LmdbFolder::OpenPath() const
+{
+    const auto path = m_directory.Path();
+    return access(path.c_str(), F_OK) == 0 ? path : m_path;
+}
+
+FileDescriptor LmdbFolder::OpenFile(const char* name, int flags) const
+{
+    return OpenAt(Get(), name, flags | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+}
+
+bool LmdbFolder::CheckFile(const std::string& address, const char* name, const FileDescriptor& file, Error& error) const
+{
+    const auto path = PathOf(name);
+    struct stat status = {};
+    if (fstat(file.Get(), &status) != 0) {
+        error = LmdbError(address, "open", path, errno);
+        return false;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        error = {ErrorKind::BadArgument, ErrorPrefix(address) + path + " is not a regular file"};
+        return false;
+    }
+    if (m_isTrusted) {
+        return true;
+    }
+    // Whoever makes the file may still be about to take its first name away.
+    constexpr int kLooks = 50;
+    for (int looks = 0; status.st_nlink > 1 && looks < kLooks; ++looks) {
+        usleep(2000);
+        (void)fstat(file.Get(), &status);
+    }
+    if (status.st_nlink > 1) {
+        error = {ErrorKind::AccessDenied, ErrorPrefix(address) + path +
+                                              " has a second name (a hard link) and may be another file of yours; copy "
+                                              "it, and put the copy in its place while no process uses the store"};
+        return false;
+    }
+    if (status.st_uid != 0 && status.st_uid != geteuid() && status.st_uid != m_status.st_uid) {
+        error = {ErrorKind::AccessDenied,
+                 ErrorPrefix(address) + path + " belongs to a user (number " + std::to_string(status.st_uid) +
+                     ") who owns neither the directory nor this process; give it to the directory's owner (chown)"};
+        return false;
+    }
+    return true;
+}
+
+FileDescriptor LmdbFolder::MakeFile(std::string& name) const
+{
+    name.clear();
+#if defined(O_TMPFILE)
+    auto file = OpenAt(Get(), ".", O_TMPFILE | O_RDWR, NewFileMode());
+    if (file && access(file.Path().c_str(), F_OK) == 0) {
+        return fchmod(file.Get(), NewFileMode()) == 0 ? std::move(file) : FileDescriptor();
+    }
+#endif
+    std::random_device random;
+    do {
+        name = ".new-" + std::to_string(random()) + std::to_string(random());
+        file = OpenAt(Get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, NewFileMode());
+    } while (!file && errno == EEXIST);
+    if (!file) {
+        name.clear();
+    } else if (fchmod(file.Get(), NewFileMode()) != 0) {
+        return FileDescriptor();
+    }
+    return file;
+}
+
+int LmdbFolder::Place(const FileDescriptor& file, std::string& name, const char* target, bool replace) const
+{
+    const auto link = [&](const char* as) {
+        const auto status = name.empty() ? linkat(AT_FDCWD, file.Path().c_str(), Get(), as, AT_SYMLINK_FOLLOW)
+                                         : linkat(Get(), name.c_str(), Get(), as, 0);
+        return status == 0 ? 0 : errno;
+    };
+    if (replace && name.empty()) {
+        std::random_device random;
+        const auto fresh = ".new-" + std::to_string(random()) + std::to_string(random());
+        if (const auto status = link(fresh.c_str()); status != 0) {
+            return status;
+        }
+        name = fresh;
+    }
+    if (!replace) {
+        const auto status = link(target);
+        // Some file systems have no hard links.
+        if (status == 0 || status == EEXIST || name.empty()) {
+            if (!name.empty() && unlinkat(Get(), name.c_str(), 0) == 0) {
+                name.clear();
+            }
+            return status;
+        }
+    }
+    if (renameat(Get(), name.c_str(), Get(), target) != 0) {
+        return errno;
+    }
+    name.clear();
+    return 0;
+}
+
+int LmdbFolder::Sync() const
+{
+    const auto directory = OpenAt(Get(), ".", O_RDONLY | O_DIRECTORY);
+    return !directory || fsync(directory.Get()) != 0 ? errno : 0;
+}
+
+ActAsOwner::ActAsOwner(const LmdbFolder& folder)
+{
+    const auto& owner = folder.m_status;
+    m_isNeeded = geteuid() == 0 && owner.st_uid != 0 && !folder.m_isTrusted;
+    if (!m_isNeeded) {
+        return;
+    }
+    m_groups.resize(static_cast<std::size_t>(std::max(getgroups(0, nullptr), 0)));
+    if (getgroups(static_cast<int>(m_groups.size()), m_groups.data()) < 0 || SetGroupsOfThread({}) != 0) {
+        return;
+    }
+    m_isDone = true;
+    (void)setfsgid(GroupOf(owner));
+    (void)setfsuid(owner.st_uid);
+}
+
+ActAsOwner::~ActAsOwner()
+{
+    if (m_isDone) {
+        const auto kept = errno;
+        (void)setfsuid(geteuid());
+        (void)setfsgid(getegid());
+        (void)SetGroupsOfThread(m_groups);
+        errno = kept;
+    }
+}
+
+bool ActAsOwner::Check(const std::string& address, const LmdbFolder& folder, Error& error) const
+{
+    constexpr uid_t kNone = static_cast<uid_t>(-1);
+    if (!m_isNeeded || (m_isDone && static_cast<uid_t>(setfsuid(kNone)) == folder.m_status.st_uid &&
+                        static_cast<gid_t>(setfsgid(kNone)) == GroupOf(folder.m_status))) {
+        return true;
+    }
+    error = {ErrorKind::AccessDenied, ErrorPrefix(address) + folder.Path() + " belongs to user number " +
+                                          std::to_string(folder.m_status.st_uid) +
+                                          ", whose rights this process cannot take on; run as that user"};
+    return false;
+}
+
+} // namespace wqspcfg

@@ -1,0 +1,78 @@
+// The directory of an embedded store, held open: its files are reached below it and never by their path, so that nobody
+// can put another file in their place on the way.
+//
+// The directory must belong to this user or to the superuser, and nobody else may be able to write to it; else another
+// user could plant links there and have this process write to whatever they lead to. The superuser also uses the store
+// of another user: all its files are opened and made with that user's rights then, and belong to him. Where the
+// environment variable WQSPCFG_TRUST_DIRECTORY is 1, every directory is taken as it is.
+#pragma once
+
+#include "wqspcfg/platform/base/Error.h"
+#include "wqspcfg/platform/store/PosixFile.h"
+
+#include <string>
+#include <sys/stat.h>
+#include <sys/types.h>
+#include <vector>
+
+namespace wqspcfg {
+
+constexpr char kDataName[] = "data.mdb";
+constexpr char kLockName[] = "lock.mdb";
+
+class LmdbFolder
+{
+  public:
+    // Makes the directory, with its parents, where it is missing and `create` is set: for this user alone.
+    bool Open(const std::string& address, const std::string& path, bool create, Error& error);
+
+    int Get() const noexcept { return m_directory.Get(); }
+    const std::string& Path() const noexcept { return m_path; }
+    std::string PathOf(const char* name) const { return m_path + '/' + name; }
+    // The directory for code that opens by path.
+    std::string OpenPath() const;
+    // With what rights a new file is made: those of the group too where the administrator shares the directory by its
+    // set-group-ID bit.
+    mode_t NewFileMode() const noexcept { return (m_status.st_mode & S_ISGID) != 0 ? 0660 : 0600; }
+
+    // Opens a file of the store that is there. -1 with errno.
+    FileDescriptor OpenFile(const char* name, int flags) const;
+    // That an open file is an ordinary one, has no second name and belongs to someone who is trusted.
+    bool CheckFile(const std::string& address, const char* name, const FileDescriptor& file, Error& error) const;
+
+    // An empty file without a name, or, where there is none such, with one that is put into `name`. -1 with errno.
+    FileDescriptor MakeFile(std::string& name) const;
+    // Gives the file that MakeFile made the name `target`. Without `replace`, EEXIST when there is one. An errno value,
+    // or 0.
+    int Place(const FileDescriptor& file, std::string& name, const char* target, bool replace) const;
+    // An errno value, or 0.
+    int Sync() const;
+
+  private:
+    friend class ActAsOwner;
+
+    std::string m_path;
+    FileDescriptor m_directory;
+    struct stat m_status = {};
+    bool m_isTrusted = false;
+};
+
+// Gives this thread, while the object lives, the rights of the directory's owner when it has those of the superuser.
+class ActAsOwner
+{
+  public:
+    explicit ActAsOwner(const LmdbFolder& folder);
+    ~ActAsOwner();
+    ActAsOwner(const ActAsOwner&) = delete;
+    ActAsOwner& operator=(const ActAsOwner&) = delete;
+
+    // False when the system does not allow it.
+    bool Check(const std::string& address, const LmdbFolder& folder, Error& error) const;
+
+  private:
+    bool m_isNeeded = false;
+    bool m_isDone = false;
+    std::vector<gid_t> m_groups;
+};
+
+} // namespace wqspcfg

@@ -1,0 +1,193 @@
+#include "support/StoreTesting.h"
+#include "wqspcfg/platform/store/AtomicFile.h"
+#include "wqspcfg/platform/store/PosixFile.h"
+
+#include <csignal>
+#include <functional>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace wqspcfg::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class AtomicFileTest : public testing::Test
+{
+  protected:
+    bool Write(const std::string& path, std::string_view content, const std::string& source = {})
+    {
+        AtomicFile file;
+        return file.Open(path, source, error) && file.Write(content, error) && file.Commit(error);
+    }
+
+    void Make(const std::string& path, unsigned mode, uid_t owner = geteuid(), gid_t group = getegid())
+    {
+        WriteFile(path, "old");
+        ASSERT_EQ(chown(path.c_str(), owner, group), 0);
+        ASSERT_EQ(chmod(path.c_str(), mode), 0);
+    }
+
+    static std::string Rights(const std::string& path)
+    {
+        struct stat status = {};
+        EXPECT_EQ(lstat(path.c_str(), &status), 0) << path;
+        char text[64];
+        (void)snprintf(text, sizeof text, "%u:%u %o", status.st_uid, status.st_gid, status.st_mode & 0777U);
+        return text;
+    }
+
+    std::vector<std::string> Names() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(temporary.Path())) {
+            names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    std::string Path() const { return temporary.File("file"); }
+
+    TemporaryDirectory temporary;
+    Error error;
+};
+
+int InChild(const std::function<int()>& work)
+{
+    const auto child = fork();
+    if (child == 0) {
+        _exit(work());
+    }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+} // namespace
+
+TEST_F(AtomicFileTest, TheTargetIsOldOrNewAndNothingIsLeft)
+{
+    Make(Path(), 0644);
+    const std::string large(300000, 'x');
+    {
+        AtomicFile file;
+        ASSERT_TRUE(file.Open(Path(), {}, error)) << error.message;
+        ASSERT_TRUE(file.Write(large, error));
+        EXPECT_EQ(ReadFile(Path()), "old");
+    }
+    EXPECT_EQ(ReadFile(Path()), "old");
+    EXPECT_EQ(InChild([&] {
+                  AtomicFile file;
+                  return file.Open(Path(), {}, error) && file.Write(large, error) ? raise(SIGKILL) : 1;
+              }),
+              -SIGKILL);
+    EXPECT_EQ(ReadFile(Path()), "old");
+    EXPECT_EQ(Names(), std::vector<std::string>{"file"});
+
+    // Two at once: each is whole, the last one stays.
+    AtomicFile first;
+    AtomicFile second;
+    ASSERT_TRUE(first.Open(Path(), {}, error) && second.Open(Path(), {}, error));
+    ASSERT_TRUE(first.Write("first", error) && second.Write(large, error));
+    ASSERT_TRUE(second.Commit(error)) << error.message;
+    EXPECT_EQ(ReadFile(Path()), large);
+    ASSERT_TRUE(first.Commit(error)) << error.message;
+    EXPECT_EQ(ReadFile(Path()), "first");
+    EXPECT_FALSE(first.Commit(error));
+    EXPECT_EQ(Names(), std::vector<std::string>{"file"});
+}
+
+TEST_F(AtomicFileTest, FollowsNoLinkThatSomebodyElseCanPlant)
+{
+    const auto link = temporary.File("link");
+    Make(Path(), 0600);
+    fs::create_symlink("file", link);
+    ASSERT_TRUE(Write(link, "new")) << error.message;
+    EXPECT_TRUE(fs::is_symlink(link)); // one's own link stays a link
+    EXPECT_EQ(ReadFile(Path()), "new");
+
+    for (const auto* path : {"/dev/null", "/tmp", "", "/tmp/", "/missing/file"}) {
+        EXPECT_FALSE(Write(path, "new")) << path;
+    }
+    if (geteuid() == 0) {
+        ASSERT_EQ(lchown(link.c_str(), 65534, 65534), 0);
+        ASSERT_EQ(chmod(temporary.Path().c_str(), 01777), 0);
+        EXPECT_FALSE(Write(link, "planted"));
+        EXPECT_EQ(error.kind, ErrorKind::AccessDenied) << error.message;
+        EXPECT_EQ(ReadFile(Path()), "new");
+    }
+}
+
+TEST_F(AtomicFileTest, ItsRightsAreNoWiderThanThoseOfTheSourceAndOfTheOldFile)
+{
+    const auto source = temporary.File("source");
+    const auto me = std::to_string(geteuid()) + ':' + std::to_string(getegid()) + ' ';
+    struct Case
+    {
+        unsigned source; // 0: none
+        unsigned old;
+        const char* rights;
+    };
+    for (const auto& [sourceMode, oldMode, rights] :
+         {Case{0, 0, "644"}, Case{0600, 0, "600"}, Case{0640, 0, "640"}, Case{0600, 0644, "600"},
+          Case{0644, 0600, "600"}, Case{0664, 0640, "640"}, Case{0, 0755, "755"}, Case{0, 0600, "600"}}) {
+        const auto mask = umask(022);
+        fs::remove(Path());
+        if (oldMode != 0) {
+            Make(Path(), oldMode);
+        }
+        if (sourceMode != 0) {
+            Make(source, sourceMode);
+        }
+        EXPECT_TRUE(Write(Path(), "new", sourceMode != 0 ? source : "")) << error.message;
+        EXPECT_EQ(Rights(Path()), me + rights) << std::oct << sourceMode << ' ' << oldMode;
+        umask(mask);
+    }
+    EXPECT_FALSE(Write(Path(), "new", temporary.File("missing")));
+
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "files of other users need the superuser";
+    }
+    // The superuser gives an old file back to its owner, unless he may not read the source.
+    Make(Path(), 0600, 65534, 65534);
+    ASSERT_TRUE(Write(Path(), "new"));
+    EXPECT_EQ(Rights(Path()), "65534:65534 600");
+    Make(source, 0600);
+    ASSERT_TRUE(Write(Path(), "new", source));
+    EXPECT_EQ(Rights(Path()), "0:65534 600");
+
+    // A group that may read the source is not widened to the writer's own.
+    ASSERT_EQ(chmod(temporary.Path().c_str(), 0777), 0);
+    fs::remove(Path());
+    Make(source, 0640, 1001, 2001);
+    EXPECT_EQ(InChild([&] {
+                  const bool dropped = setgid(3001) == 0 && setuid(1001) == 0;
+                  return dropped && Write(Path(), "new", source) ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(Rights(Path()), "1001:3001 600");
+}
+
+TEST_F(AtomicFileTest, NoFileIsOpenAsAStandardFile)
+{
+    EXPECT_EQ(InChild([&] {
+                  for (const int fd : {0, 1, 2}) {
+                      close(fd);
+                  }
+                  AtomicFile file;
+                  if (!file.Open(Path(), {}, error) || file.Descriptor() < 3 || !file.Write("right", error)) {
+                      return 1;
+                  }
+                  if (write(1, "message", 7) == 7 || write(2, "message", 7) == 7) {
+                      return 2;
+                  }
+                  return file.Commit(error) && FillStandardDescriptors() == 0 && write(1, "x", 1) == 1 ? 0 : 3;
+              }),
+              0);
+    EXPECT_EQ(ReadFile(Path()), "right");
+}
+
+} // namespace wqspcfg::test

@@ -1,0 +1,544 @@
+// The embedded store among hostile and careless neighbours: closed standard files, planted links, rights, removed lock
+// files, forks, writers that do not end.
+#include "support/Sanitizers.h"
+#include "support/StoreTesting.h"
+#include "wqspcfg/platform/store/LockWait.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <functional>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace wqspcfg::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::wstring_view kKey = L"SOFTWARE\\XFS\\Device";
+constexpr uid_t kNobody = 65534;
+
+int Ended(pid_t child)
+{
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+int InChild(const std::function<int()>& work)
+{
+    const auto child = fork();
+    if (child == 0) {
+        alarm(60); // a child that hangs fails
+        _exit(work());
+    }
+    return Ended(child);
+}
+
+// A process that takes a step of its work each time the test asks for one.
+class Steps
+{
+  public:
+    // `work` calls its argument where a step ends: that returns when the next one is asked for.
+    explicit Steps(const std::function<int(const std::function<void()>&)>& work)
+    {
+        EXPECT_EQ(pipe(m_done), 0);
+        EXPECT_EQ(pipe(m_go), 0);
+        m_child = fork();
+        if (m_child == 0) {
+            close(m_done[0]);
+            close(m_go[1]);
+            alarm(60);
+            _exit(work([this] {
+                char byte = 0;
+                if (write(m_done[1], &byte, 1) != 1 || read(m_go[0], &byte, 1) != 1) {
+                    _exit(99);
+                }
+            }));
+        }
+        close(m_done[1]);
+        close(m_go[0]);
+        Await();
+    }
+    ~Steps()
+    {
+        close(m_done[0]);
+        if (m_child > 0) {
+            Finish();
+        }
+    }
+    Steps(const Steps&) = delete;
+    Steps& operator=(const Steps&) = delete;
+
+    void Next()
+    {
+        EXPECT_EQ(write(m_go[1], "", 1), 1);
+        Await();
+    }
+    // Lets it go on to its end.
+    int Finish()
+    {
+        EXPECT_EQ(write(m_go[1], "", 1), 1);
+        close(m_go[1]);
+        return Ended(std::exchange(m_child, -1));
+    }
+    pid_t Id() const { return m_child; }
+
+  private:
+    void Await()
+    {
+        char byte = 0;
+        EXPECT_EQ(read(m_done[0], &byte, 1), 1);
+    }
+
+    int m_done[2] = {-1, -1};
+    int m_go[2] = {-1, -1};
+    pid_t m_child = -1;
+};
+
+class LmdbHardeningTest : public testing::Test
+{
+  protected:
+    LmdbHardeningTest() { EXPECT_EQ(chmod(temporary.Path().c_str(), 0755), 0); }
+    ~LmdbHardeningTest() override
+    {
+        SetCurrentStore(nullptr);
+        SetLockTimeout(std::chrono::seconds(60));
+        SetLockWaitHandler(nullptr);
+    }
+
+    std::string Directory() const { return temporary.File("store"); }
+    std::string Address() const { return "lmdb:" + Directory(); }
+    std::string DataFile() const { return Directory() + "/data.mdb"; }
+    std::string LockFile() const { return Directory() + "/lock.mdb"; }
+    void Create() { Put(*Open(Address(), {.create = true}), kKey, L"n", DwordBytes(1)); }
+    // The store and its directory are another user's.
+    void GiveAway()
+    {
+        for (const auto& path : {Directory(), DataFile(), LockFile()}) {
+            ASSERT_TRUE(lchown(path.c_str(), kNobody, kNobody) == 0 || errno == ENOENT) << path;
+        }
+    }
+    std::string Refusal(const OpenOptions& options = {})
+    {
+        Error error;
+        return OpenStore(Address(), options, error) ? "" : error.message;
+    }
+
+    TemporaryDirectory temporary;
+};
+
+bool BecomeNobody(gid_t group = kNobody)
+{
+    return setgid(group) == 0 && setuid(kNobody) == 0;
+}
+
+bool Has(const std::string& text, std::string_view part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+TEST_F(LmdbHardeningTest, WhatAProcessWithoutStandardFilesPrintsStaysOutOfTheStore)
+{
+    for (int closed = 1; closed < 8; ++closed) {
+        EXPECT_EQ(InChild([&] {
+                      for (int fd = 0; fd < 3; ++fd) {
+                          if ((closed >> fd & 1) != 0) {
+                              close(fd);
+                          }
+                      }
+                      Error error;
+                      const auto store = OpenStore(Address(), {.create = true}, error);
+                      if (!store || !store->Begin(Access::Write, error)) {
+                          return 1;
+                      }
+                      for (int fd = 0; fd < 3; ++fd) {
+                          if ((closed >> fd & 1) != 0) {
+                              (void)!write(fd, std::string(9000, 'x').data(), 9000);
+                          }
+                      }
+                      Put(*store, kKey, L"n", DwordBytes(1));
+                      return 0;
+                  }),
+                  0);
+        EXPECT_EQ(Get(*Open(Address()), kKey, L"n"), "4:01000000") << closed;
+        EXPECT_FALSE(Has(ReadFile(LockFile()), "xxxx")) << closed;
+    }
+}
+
+TEST_F(LmdbHardeningTest, PlantedFilesAreRefusedAndWhatTheyLeadToIsLeftAlone)
+{
+    const auto victim = temporary.File("victim");
+    const auto plant = [&](const std::string& at, const std::function<void()>& make) {
+        Create();
+        WriteFile(victim, "untouched");
+        ASSERT_EQ(chmod(victim.c_str(), 0600), 0);
+        fs::remove(at);
+        make();
+        for (const bool isForeign : {false, true}) {
+            if (isForeign) {
+                if (geteuid() != 0) {
+                    break;
+                }
+                GiveAway();
+            }
+            EXPECT_NE(Refusal({.create = true}), "") << at << isForeign;
+            EXPECT_EQ(ReadFile(victim), "untouched");
+        }
+        fs::remove_all(Directory());
+    };
+    for (const auto& name : {DataFile(), LockFile()}) {
+        plant(name, [&] { fs::create_symlink(victim, name); });
+        plant(name, [&] { fs::create_symlink(temporary.File("fresh"), name); });
+        EXPECT_FALSE(fs::exists(temporary.File("fresh")));
+        plant(name, [&] { fs::create_hard_link(victim, name); });
+        plant(name, [&] { EXPECT_EQ(mkfifo(name.c_str(), 0600), 0); });
+        plant(name, [&] { fs::create_directory(name); });
+    }
+    if (geteuid() == 0) {
+        Create();
+        ASSERT_EQ(chown(LockFile().c_str(), 1234, 1234), 0);
+        EXPECT_TRUE(Has(Refusal(), "1234"));
+    }
+}
+
+TEST_F(LmdbHardeningTest, TheSuperuserActsAsTheOwnerOfTheDirectory)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs the superuser";
+    }
+    fs::create_directory(Directory());
+    GiveAway();
+    Create();
+    for (const auto& path : {DataFile(), LockFile()}) {
+        struct stat status = {};
+        ASSERT_EQ(stat(path.c_str(), &status), 0);
+        EXPECT_EQ(status.st_uid, kNobody);
+        EXPECT_EQ(status.st_gid, kNobody);
+    }
+    // Its owner puts a link to a file of the superuser in its place again and again while that opens the store.
+    const auto victim = temporary.File("victim");
+    WriteFile(victim, "untouched");
+    ASSERT_EQ(chmod(victim.c_str(), 0600), 0);
+    const auto attacker = fork();
+    if (attacker == 0) {
+        if (!BecomeNobody()) {
+            _exit(1);
+        }
+        for (;;) {
+            (void)unlink(LockFile().c_str());
+            (void)!symlink(victim.c_str(), LockFile().c_str());
+            (void)unlink(LockFile().c_str());
+        }
+    }
+    for (int i = 0; i < 300; ++i) {
+        Error error;
+        (void)OpenStore(Address(), {}, error);
+    }
+    kill(attacker, SIGKILL);
+    EXPECT_EQ(Ended(attacker), -SIGKILL);
+    EXPECT_EQ(ReadFile(victim), "untouched");
+    struct stat status = {};
+    ASSERT_EQ(stat(victim.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 0U);
+    EXPECT_EQ(geteuid(), 0U);
+    WriteFile(temporary.File("own"), "x"); // and is itself again
+    ASSERT_EQ(stat(temporary.File("own").c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 0U);
+}
+
+TEST_F(LmdbHardeningTest, ADirectoryOfOthersIsRefusedUnlessItIsTrusted)
+{
+    Create();
+    for (const auto mode : {0720, 0702, 01777}) {
+        ASSERT_EQ(chmod(Directory().c_str(), static_cast<mode_t>(mode)), 0);
+        EXPECT_TRUE(Has(Refusal(), "WQSPCFG_TRUST_DIRECTORY")) << mode;
+        ASSERT_EQ(setenv("WQSPCFG_TRUST_DIRECTORY", "1", 1), 0);
+        EXPECT_EQ(Refusal(), "") << mode;
+        unsetenv("WQSPCFG_TRUST_DIRECTORY");
+    }
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "the rest needs the superuser";
+    }
+    ASSERT_EQ(chmod(Directory().c_str(), 0755), 0);
+    ASSERT_EQ(chown(Directory().c_str(), 1234, 1234), 0);
+    EXPECT_EQ(InChild([&] { return BecomeNobody() && Has(Refusal(), "1234") ? 0 : 1; }), 0);
+}
+
+TEST_F(LmdbHardeningTest, ANewStoreIsItsMakersAloneOrSharedByItsDirectory)
+{
+    const auto mode = [](const std::string& path) { return static_cast<unsigned>(fs::status(path).permissions()); };
+    Create();
+    EXPECT_EQ(mode(Directory()), 0700U);
+    EXPECT_EQ(mode(DataFile()), 0600U);
+    EXPECT_EQ(mode(LockFile()), 0600U);
+    fs::remove_all(Directory());
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "the rest needs the superuser";
+    }
+    constexpr gid_t kGroup = 4321;
+    fs::create_directory(Directory());
+    ASSERT_EQ(chown(Directory().c_str(), 0, kGroup), 0);
+    ASSERT_EQ(chmod(Directory().c_str(), 02750), 0);
+    Create();
+    EXPECT_EQ(mode(DataFile()), 0660U);
+    EXPECT_EQ(mode(LockFile()), 0660U);
+    EXPECT_EQ(InChild([&] {
+                  if (!BecomeNobody(kGroup)) {
+                      return 10;
+                  }
+                  Error error;
+                  const auto store = OpenStore(Address(), {}, error);
+                  return store && store->Begin(Access::Write, error) ? 0 : 1;
+              }),
+              0);
+}
+
+TEST_F(LmdbHardeningTest, AReaderWithoutTheLockFileSeesOneState)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs the superuser";
+    }
+    constexpr int kValues = 400;
+    const auto save = [](Store& store, std::uint32_t generation) {
+        const auto transaction = Begin(store, Access::Write);
+        KeyId key = 0;
+        ASSERT_EQ(transaction->CreateKey(Hive::LocalMachine, kKey, key), Outcome::Found);
+        for (int i = 0; i < kValues; ++i) {
+            ASSERT_EQ(transaction->SetValue(key, std::to_wstring(i), {ValueType::Dword, DwordBytes(generation)}),
+                      Outcome::Found);
+        }
+        ASSERT_EQ(transaction->Commit(true), Outcome::Found);
+    };
+    const auto store = Open(Address(), {.create = true});
+    save(*store, 0);
+    ASSERT_EQ(chmod(Directory().c_str(), 0755), 0);
+    ASSERT_EQ(chmod(DataFile().c_str(), 0644), 0);
+    Steps reader([&](const std::function<void()>& pause) {
+        Error error;
+        if (!BecomeNobody()) {
+            return 10;
+        }
+        const auto own = OpenStore(Address(), {}, error);
+        for (int i = 0; i < 5; ++i) {
+            const auto transaction = own ? own->Begin(Access::Read, error) : nullptr;
+            if (!transaction) {
+                return 1;
+            }
+            ValueView value;
+            std::uint32_t first = 0;
+            std::uint32_t number = 0;
+            for (int v = 0; v < kValues; ++v) {
+                if (transaction->QueryAt(Hive::LocalMachine, kKey, std::to_wstring(v), value) != Outcome::Found) {
+                    return 2;
+                }
+                std::memcpy(&number, value.data.data(), sizeof number);
+                if (v == 0) {
+                    first = number;
+                    pause(); // while others save
+                } else if (number != first) {
+                    return 3;
+                }
+            }
+            if (first != static_cast<std::uint32_t>(i * 6)) {
+                return 4; // and it is the last one
+            }
+        }
+        return 0;
+    });
+    for (std::uint32_t round = 0; round < 5; ++round) {
+        for (std::uint32_t i = 1; i <= 6; ++i) {
+            save(*store, round * 6 + i);
+        }
+        if (round < 4) {
+            reader.Next();
+        }
+    }
+    EXPECT_EQ(reader.Finish(), 0);
+}
+
+TEST_F(LmdbHardeningTest, ARemovedLockFileIsNoticed)
+{
+    Create();
+    {
+        Steps other([this](const std::function<void()>& pause) {
+            const auto store = Open(Address());
+            const auto reader = Begin(*store, Access::Read);
+            pause();
+            return 0;
+        });
+        const auto store = Open(Address());
+        fs::remove(LockFile());
+        Error error;
+        EXPECT_FALSE(store->Begin(Access::Write, error));
+        EXPECT_TRUE(Has(error.message, std::to_string(other.Id())) && Has(error.message, "lock.mdb")) << error.message;
+        EXPECT_EQ(InChild([&] { return Has(Refusal(), std::to_string(other.Id())) ? 0 : 1; }), 0);
+    }
+    // Once nobody is left who holds the old one, work goes on.
+    const auto store = Open(Address());
+    fs::remove(LockFile());
+    Put(*store, kKey, L"n", DwordBytes(2));
+    EXPECT_EQ(Get(*store, kKey, L"n"), "4:02000000");
+    const auto reader = Begin(*store, Access::Read);
+    fs::remove(LockFile());
+    Error error;
+    EXPECT_FALSE(store->Begin(Access::Write, error));
+    EXPECT_TRUE(Has(error.message, "lock.mdb")) << error.message;
+}
+
+TEST_F(LmdbHardeningTest, AnotherCopyOfTheLibraryInTheProcessIsNoticed)
+{
+    Create();
+    // What another copy does first: it tells by a lock of its own that this process uses the store.
+    const FileDescriptor other(open(DataFile().c_str(), O_RDONLY | O_CLOEXEC));
+    struct flock lock = {};
+    lock.l_type = F_RDLCK;
+    lock.l_start = (off_t{1} << 50) + 1 + (off_t{1} << 22) + getpid();
+    lock.l_len = 1;
+    ASSERT_EQ(fcntl(other.Get(), F_OFD_SETLK, &lock), 0);
+    EXPECT_TRUE(Has(Refusal(), "another copy of this library"));
+    EXPECT_EQ(InChild([this] { return Has(Refusal(), "its lock file") ? 0 : 1; }), 0);
+}
+
+TEST_F(LmdbHardeningTest, AWriterTellsWhomItWaitsForAndGivesUp)
+{
+    Create();
+    const auto store = Open(Address());
+    Steps other([this](const std::function<void()>& pause) {
+        const auto own = Open(Address());
+        const auto writer = Begin(*own, Access::Write);
+        pause();
+        return 0;
+    });
+    std::vector<LockWait> told;
+    SetLockWaitHandler([&told](const LockWait& wait) { told.push_back(wait); });
+    Error error;
+    SetLockTimeout(std::chrono::milliseconds(0));
+    EXPECT_FALSE(store->Begin(Access::Write, error));
+    EXPECT_TRUE(Has(error.message, "process " + std::to_string(other.Id()))) << error.message;
+    EXPECT_TRUE(told.empty());
+    SetLockTimeout(std::chrono::milliseconds(1500));
+    EXPECT_FALSE(store->Begin(Access::Write, error));
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0].process, other.Id());
+    EXPECT_EQ(told[0].address, Address());
+    EXPECT_EQ(Get(*store, kKey, L"n"), "4:01000000"); // readers do not wait
+    EXPECT_EQ(other.Finish(), 0);
+    Put(*store, kKey, L"n", DwordBytes(2));
+
+    // A thread of the process itself.
+    const auto writer = Begin(*store, Access::Write);
+    SetLockTimeout(std::chrono::milliseconds(0));
+    std::thread([&] {
+        EXPECT_FALSE(store->Begin(Access::Write, error));
+        EXPECT_TRUE(Has(error.message, "another thread")) << error.message;
+    }).join();
+}
+
+TEST_F(LmdbHardeningTest, AChildOfAForkAmongReadingThreadsGoesOn)
+{
+    Create();
+    SetCurrentStore(Open(Address()));
+    std::atomic<bool> isDone{false};
+    std::vector<std::thread> readers;
+    const auto read = [] {
+        const ReadScope scope;
+        ValueView value;
+        return scope->QueryAt(kKey, L"n", value);
+    };
+    for (int i = 0; i < 2; ++i) {
+        readers.emplace_back([&] {
+            while (!isDone) {
+                (void)read();
+            }
+        });
+    }
+    for (int i = 0; i < 300; ++i) {
+        EXPECT_EQ(InChild([&] { return read() == Outcome::Found ? 0 : 1; }), 0);
+    }
+    isDone = true;
+    for (auto& reader : readers) {
+        reader.join();
+    }
+}
+
+TEST_F(LmdbHardeningTest, AChildInAnotherDirectoryFindsTheSameStore)
+{
+    Create();
+    const auto here = fs::current_path();
+    fs::current_path(temporary.Path());
+    const auto store = Open("lmdb:store");
+    EXPECT_EQ(InChild([&] { return chdir("/") == 0 && Get(*store, kKey, L"n") == "4:01000000" ? 0 : 1; }), 0);
+    fs::current_path(here);
+}
+
+TEST_F(LmdbHardeningTest, OpensWithLittleAddressSpace)
+{
+    if (kSanitized) {
+        GTEST_SKIP() << "sanitizers take the address space themselves";
+    }
+    Create();
+    for (const auto gigabytes : {1U, 4U, 40U, 100U}) {
+        EXPECT_EQ(InChild([&] {
+                      const rlimit limit{rlim_t{gigabytes} << 30, RLIM_INFINITY};
+                      if (setrlimit(RLIMIT_AS, &limit) != 0) {
+                          return 10;
+                      }
+                      const auto store = Open(Address());
+                      Put(*store, kKey, L"n", DwordBytes(7));
+                      return Get(*store, kKey, L"n") == "4:07000000" ? 0 : 1;
+                  }),
+                  0);
+    }
+}
+
+TEST_F(LmdbHardeningTest, ReadersAtRestGiveTheirPlacesToOthers)
+{
+    Create();
+    const auto store = Open(Address());
+    std::vector<std::unique_ptr<Transaction>> readers;
+    Error error;
+    while (auto reader = store->Begin(Access::Read, error)) {
+        readers.push_back(std::move(reader));
+    }
+    EXPECT_GT(readers.size(), 500U);
+    readers.clear();
+    EXPECT_EQ(InChild([this] { return Get(*Open(Address()), kKey, L"n") == "4:01000000" ? 0 : 1; }), 0);
+}
+
+TEST_F(LmdbHardeningTest, OnlyAFileThatIsAsItsLastWriterLeftItIsNotVerified)
+{
+    const auto isMarked = [this] {
+        LmdbMark mark;
+        const FileDescriptor lock(open(LockFile().c_str(), O_RDONLY | O_CLOEXEC));
+        const FileDescriptor data(open(DataFile().c_str(), O_RDONLY | O_CLOEXEC));
+        struct stat status = {};
+        return ReadMark(lock, mark) && fstat(data.Get(), &status) == 0 &&
+               mark.IsOf(MarkOf(status, LastTransaction(data))) && mark.process == getpid();
+    };
+    Create();
+    EXPECT_TRUE(isMarked());
+    {
+        const auto store = Open(Address());
+        (void)Begin(*store, Access::Write); // given up
+    }
+    EXPECT_TRUE(isMarked());
+    auto content = ReadFile(DataFile());
+    content += std::string(4096, '\0');
+    std::fill(content.begin() + 8192, content.end() - 4096, 'x');
+    WriteFile(DataFile(), content);
+    EXPECT_FALSE(isMarked());
+    Error error;
+    EXPECT_FALSE(Open(Address())->Begin(Access::Write, error));
+    EXPECT_EQ(error.kind, ErrorKind::Damaged);
+}
+
+} // namespace wqspcfg::test
