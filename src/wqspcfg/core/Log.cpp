@@ -1,6 +1,6 @@
 #include "wqspcfg/core/Log.h"
 
-#include "wqspcfg/platform/text/Utf.h"
+#include "wqspcfg/platform/text/DisplayText.h"
 
 #include <chrono>
 #include <ctime>
@@ -10,6 +10,8 @@
 namespace wqspcfg {
 
 namespace {
+
+constexpr char kContinuation[] = "  | ";
 
 const char* NameOf(Severity severity)
 {
@@ -24,11 +26,32 @@ const char* NameOf(Severity severity)
     return "INFO ";
 }
 
+// An entry for a log of lines. What follows its first line is marked, so that no text from the registry can pass for an
+// entry of its own.
+std::string Lines(std::wstring_view entry)
+{
+    std::string lines;
+    for (;;) {
+        const auto end = entry.find(L'\n');
+        auto line = entry.substr(0, end);
+        if (end != std::wstring_view::npos && line.ends_with(L'\r')) {
+            line.remove_suffix(1);
+        }
+        lines += DisplayText(line);
+        lines += '\n';
+        if (end == std::wstring_view::npos) {
+            return lines;
+        }
+        lines += kContinuation;
+        entry.remove_prefix(end + 1);
+    }
+}
+
 } // namespace
 
 int StreamLog::Write(Severity, DWORD, std::wstring_view text)
 {
-    m_stream << Utf8ForMessage(text) << '\n';
+    m_stream << Lines(text);
     return m_stream.good() ? 1 : 0;
 }
 
@@ -45,7 +68,7 @@ int FileLog::Write(Severity severity, DWORD, std::wstring_view text)
 #endif
     char time[32];
     std::strftime(time, sizeof time, "%Y-%m-%d %H:%M:%S", &local);
-    file << time << ' ' << NameOf(severity) << ' ' << Utf8ForMessage(text) << '\n';
+    file << time << ' ' << NameOf(severity) << ' ' << Lines(text);
     file.flush();
     return file.good() ? 1 : 0;
 }

@@ -74,7 +74,11 @@ void LogInfo(CLog* pLog, LPCWSTR lpszFormat, const Args&... args)
     }
 }
 
-// Writes each entry to a stream as UTF-8, a line end after it. The stream outlives the log. Not for several threads.
+// The logs below write UTF-8, a line end after each entry. The further lines of an entry (a table, a stored text with
+// line breaks) begin with "  | ", and other control characters are written as in platform/text/DisplayText.h: nothing
+// that stands in the registry looks like an entry of its own or reaches a terminal.
+
+// Writes to a stream, which outlives the log. Not for several threads.
 class WQSPCFG_API StreamLog final : public CLog
 {
   public:

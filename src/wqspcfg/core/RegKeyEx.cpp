@@ -1,6 +1,7 @@
 #include "wqspcfg/core/RegKeyEx.h"
 
 #include "wqspcfg/platform/store/RegistryValue.h"
+#include "wqspcfg/platform/utility/StringUtility.h"
 
 using wqspcfg::DwordBytes;
 using wqspcfg::Outcome;
@@ -36,22 +37,6 @@ int QueryAll(std::wstring_view path, F take)
     return outcome == Outcome::Found ? 1 : 0;
 }
 
-bool ToCode(std::wstring_view name, DWORD& code)
-{
-    std::uint64_t number = 0;
-    for (const wchar_t digit : name) {
-        if (digit < L'0' || digit > L'9') {
-            return false;
-        }
-        number = number * 10 + static_cast<std::uint64_t>(digit - L'0');
-        if (number > 0xFFFFFFFFU) {
-            return false;
-        }
-    }
-    code = static_cast<DWORD>(number);
-    return !name.empty();
-}
-
 } // namespace
 
 std::wstring& CRegKeyEx::PathBuffer() noexcept
@@ -73,9 +58,8 @@ int CRegKeyEx::QueryAt(CString& strValue, std::wstring_view name, std::wstring_v
 int CRegKeyEx::QueryAllAt(CMap<DWORD, DWORD, DWORD, DWORD>& mapValues, std::wstring_view path)
 {
     return QueryAll<DWORD>(path, [&](const std::wstring& name, DWORD value) {
-        DWORD code = 0;
-        if (ToCode(name, code)) {
-            mapValues.SetAt(code, value);
+        if (const auto code = wqspcfg::ParseDword(name)) {
+            mapValues.SetAt(*code, value);
         }
     });
 }

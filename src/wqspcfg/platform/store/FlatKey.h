@@ -22,6 +22,7 @@ constexpr std::string_view kValueMark{"\0v", 2};
 
 // The registry's own limits, in UTF-16 code units.
 constexpr std::size_t kMaxKeyName = 255;
+constexpr std::size_t kMaxKeyDepth = 512; // levels below the hive
 constexpr std::size_t kMaxValueName = 16383;
 
 char HiveLetter(Hive hive) noexcept;

@@ -65,7 +65,7 @@ std::shared_ptr<Store> OpenStore(std::string_view address, const OpenOptions& op
     }
     rest = address;
     if (TakePrefix(rest, "reg:") && !rest.empty()) {
-        return RegFileStore::Open(whole, std::string(rest), options.view32, error);
+        return RegFileStore::Open(whole, std::string(rest), options, error);
     }
 #if defined(_WIN32)
     if (address == "windows:") {

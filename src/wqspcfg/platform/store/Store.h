@@ -156,6 +156,8 @@ struct OpenOptions
     bool create = false;
     // `reg:` stores: read SOFTWARE\WOW6432Node\XFS as SOFTWARE\XFS. `windows:` stores: the 32-bit view.
     bool view32 = false;
+    // `reg:` stores: the code page of a REGEDIT4 file's text (936, 1252); 0: it is ASCII or UTF-8.
+    unsigned codePage = 0;
 };
 
 // Opens a store by its address: `windows:`, `windows:32`, `windows:64`, `lmdb:DIRECTORY`, `memory:` or `reg:FILE`

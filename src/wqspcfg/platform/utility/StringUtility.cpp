@@ -120,4 +120,13 @@ LONG ParseDecimal(std::wstring_view text) noexcept
         negative ? -magnitude : magnitude, std::numeric_limits<LONG>::min(), std::numeric_limits<LONG>::max()));
 }
 
+std::optional<DWORD> ParseDword(std::wstring_view digits, unsigned radix) noexcept
+{
+    auto rest = digits;
+    const std::int64_t number = TakeDigits(rest, radix);
+    return digits.empty() || !rest.empty() || number > std::numeric_limits<DWORD>::max()
+               ? std::nullopt
+               : std::optional(static_cast<DWORD>(number));
+}
+
 } // namespace wqspcfg

@@ -5,6 +5,7 @@
 #include "wqspcfg/platform/framework/Array.h"
 #include "wqspcfg/platform/framework/String.h"
 
+#include <optional>
 #include <string_view>
 
 class CStringUtility
@@ -25,5 +26,9 @@ namespace wqspcfg {
 // The decimal number at the beginning of the text, after blanks and a sign; 0 where there is none. A number too large
 // becomes the nearest that fits.
 WQSPCFG_API LONG ParseDecimal(std::wstring_view text) noexcept;
+
+// The number that the whole text is: digits of that radix (2 to 36) alone. None where it has anything else, or where a
+// DWORD cannot hold it.
+WQSPCFG_API std::optional<DWORD> ParseDword(std::wstring_view digits, unsigned radix = 10) noexcept;
 
 } // namespace wqspcfg

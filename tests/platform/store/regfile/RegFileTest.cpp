@@ -19,12 +19,12 @@ std::string Utf16File(std::string_view ascii)
     return Utf16File(std::u16string(ascii.begin(), ascii.end()));
 }
 
-std::string Import(const std::string& content, Store& store)
+std::string Import(const std::string& content, Store& store, const RegFileOptions& options = {})
 {
     std::istringstream file(content);
     ImportCounts counts;
     Error error;
-    return ImportRegFile(store, file, "f.reg", counts, error) ? std::string() : error.message;
+    return ImportRegFile(store, file, "f.reg", counts, error, options) ? std::string() : error.message;
 }
 
 // The error's message, or all below HKEY_LOCAL_MACHINE\a.
@@ -39,6 +39,39 @@ std::string Imported(const std::string& content)
     const auto store = Open("memory:");
     return Imported(content, *store);
 }
+
+// The same of a REGEDIT4 file, below the key HKLM\a.
+std::string ImportedAnsi(const std::string& lines, unsigned codePage = 0)
+{
+    const auto store = Open("memory:");
+    const auto message = Import("REGEDIT4\r\n\r\n[HKEY_LOCAL_MACHINE\\a]\r\n" + lines, *store, {codePage, false});
+    return message.empty() ? Dump(*store, L"a") : message;
+}
+
+// A stream that gives as much as it is asked for, and counts it.
+class EndlessInput final : public std::streambuf
+{
+  public:
+    explicit EndlessInput(std::string piece) : m_piece(std::move(piece)) {}
+    std::size_t Given() const { return m_given; }
+
+  protected:
+    int_type underflow() override
+    {
+        // The end of endurance: a reader that is still there reads all it can get.
+        constexpr std::size_t kMuch = std::size_t{64} << 20;
+        if (m_given >= kMuch) {
+            return traits_type::eof();
+        }
+        m_given += m_piece.size();
+        setg(m_piece.data(), m_piece.data(), m_piece.data() + m_piece.size());
+        return traits_type::to_int_type(m_piece[0]);
+    }
+
+  private:
+    std::string m_piece;
+    std::size_t m_given = 0;
+};
 
 // In version 5.00 below the key HKLM\a, whose line is the second.
 std::string ImportedLines(const std::string& lines)
@@ -151,18 +184,135 @@ TEST(RegFileTest, KnowsTheHives)
     }
 }
 
-TEST(RegFileTest, ReadsVersion4InItsEncoding)
+TEST(RegFileTest, ReadsVersion4InTheCodePageThatIsGiven)
 {
-#if defined(_WIN32)
-    EXPECT_NE(Imported("REGEDIT4\r\n\r\n[HKEY_LOCAL_MACHINE\\a]\r\n\"x\"=\"\xE9\"\r\n").find("x=1:"),
-              std::string::npos);
-#else
-    EXPECT_EQ(Imported("REGEDIT4\r\n\r\n[HKEY_LOCAL_MACHINE\\a]\r\n\"latin\"=\"\xE9\"\r\n\"utf8\"=\"\xC3\xA9\"\r\n"),
-              "[a]\nlatin=1:e9000000\nutf8=1:e9000000\n");
-#endif
+    // Code page 936; the last byte of the third character is a backslash in ASCII.
+    EXPECT_EQ(ImportedAnsi("\"\xd6\xd0\"=\"\xce\xc4\xd5\x5c\"\r\n", 936), "[a]\n\u4e2d=1:8765a08a0000\n");
+    EXPECT_EQ(ImportedAnsi("\"x\"=\"100 \x80 \xc2\xa9\"\r\n", 1252), "[a]\nx=1:3100300030002000ac202000c200a9000000\n");
+    EXPECT_EQ(ImportedAnsi("\"x\"=\"\xc3\xa9\"\r\n", 65001), "[a]\nx=1:e9000000\n");
     // Texts written as bytes are in the same encoding.
-    EXPECT_EQ(Imported("REGEDIT4\n[HKLM\\a]\n\"e\"=hex(2):25,41,00\n\"m\"=hex(7):61,00,62,00,00\n\"b\"=hex:41\n"),
+    EXPECT_EQ(ImportedAnsi("\"x\"=hex(1):d6,d0,00\r\n\"y\"=hex(7):e9,00,00\r\n", 936),
+              "f.reg:5: the text is not in the code page that was given");
+    EXPECT_EQ(ImportedAnsi("\"x\"=hex(1):d6,d0,00\r\n\"b\"=hex:d6\r\n", 936), "[a]\nb=3:d6\nx=1:2d4e0000\n");
+    EXPECT_EQ(ImportedAnsi("\"x\"=\"\xce\xc4\"\r\n\"y\"=\"\xce\"\r\n", 936),
+              "f.reg:5: the text is not in the code page that was given");
+    const auto store = Open("memory:");
+    EXPECT_EQ(Import("REGEDIT4\n", *store, {1200, false}), "code page 1200 is not known on this system");
+
+    TemporaryDirectory directory;
+    WriteFile(directory.File("t.reg"), "REGEDIT4\r\n[HKEY_LOCAL_MACHINE\\a]\r\n\"x\"=\"\xd6\xd0\"\r\n");
+    EXPECT_EQ(Get(*Open("reg:" + directory.File("t.reg"), {.codePage = 936}), L"a", L"x"), "1:2d4e0000");
+    Error error;
+    EXPECT_FALSE(OpenStore("reg:" + directory.File("t.reg"), {}, error));
+    EXPECT_NE(error.message.find("t.reg:3: "), std::string::npos) << error.message;
+}
+
+TEST(RegFileTest, GuessesNoCodePage)
+{
+    EXPECT_EQ(ImportedAnsi("\"e\"=hex(2):25,41,00\r\n\"m\"=hex(7):61,00,62,00,00\r\n\"b\"=hex:41\r\n"),
               "[a]\nb=3:41\ne=2:250041000000\nm=7:61000000620000000000\n");
+    EXPECT_EQ(ImportedAnsi("\"x\"=\"\xc3\xa9\"\r\n\"y\"=hex(1):c3,a9,00\r\n"), "[a]\nx=1:e9000000\ny=1:e9000000\n");
+    // One line that is no UTF-8 makes the file one of a code page, whatever its other lines look like.
+    for (const std::string lines : {"\"x\"=\"\xc3\xa9\"\r\n\"y\"=\"\xe9\"\r\n", "\"x\"=\"\"\r\n\"y\"=hex(1):e9,00\r\n",
+                                    "\"x\"=\"\xc3\xa9\"\r\n\"y\"=\"\xe9\""}) {
+        const auto message = ImportedAnsi(lines);
+        EXPECT_EQ(message.find("f.reg:5: the text is neither ASCII nor UTF-8"), 0U) << message;
+        EXPECT_NE(message.find("--codepage"), std::string::npos) << message;
+    }
+    // What is wrong before that is told first.
+    EXPECT_EQ(ImportedAnsi("\"x\"=dword:g\r\n\"y\"=\"\xe9\"\r\n").find("f.reg:4: a dword"), 0U);
+}
+
+TEST(RegFileTest, ReadsNoMoreOfAFileThatIsNoExport)
+{
+    std::string utf16(8192, 'x');
+    for (std::size_t i = 1; i < utf16.size(); i += 2) {
+        utf16[i] = '\0';
+    }
+    for (const auto& piece : {std::string(4096, '\0'), std::string(4096, ' '), std::string(4096, 'x'),
+                              std::string(4096, '"'), std::string(4096, '\n'), "\"a\n" + std::string(4096, 'b'), utf16,
+                              std::string("\xff\xd8\xff\xe0 no text\n")}) {
+        EndlessInput buffer(piece);
+        std::istream input(&buffer);
+        RegFileContent content;
+        Error error;
+        EXPECT_FALSE(content.Read(input, "f.reg", {}, error));
+        EXPECT_NE(error.message.find("this is no registry export"), std::string::npos) << error.message;
+        EXPECT_LE(buffer.Given(), std::size_t{1} << 20) << error.message;
+    }
+}
+
+TEST(RegFileTest, RefusesKeysThatNoRegistryHas)
+{
+    std::string deep;
+    for (int level = 0; level < 512; ++level) {
+        deep += "\\k";
+    }
+    EXPECT_EQ(ImportedLines("[HKLM" + deep + "]\n\n").find("f.reg"), std::string::npos);
+    EXPECT_EQ(ImportedLines("[HKLM" + deep + "\\k]\n"), "f.reg:3: the key lies 513 levels deep; the registry has 512");
+    EXPECT_EQ(ImportedLines("\n[HKLM\\a\\" + std::string(256, 'k') + "]\n"),
+              "f.reg:4: the key name \"" + std::string(60, 'k') + "...\" is longer than 255 characters");
+    EXPECT_EQ(ImportedLines("[HKLM\\a\\b\x1b]\n"), "f.reg:3: the key name \"b<U+001B>\" has a control character");
+    EXPECT_EQ(ImportedLines("[HKLM\\a\\b\rc]\n"), "f.reg:3: the key name \"b<U+000D>c\" has a control character");
+    // One that a store has nevertheless can be deleted.
+    EXPECT_EQ(ImportedLines("[-HKLM\\a\\b\x1b]\n"), "[a]\n");
+}
+
+// A writer gets the lock while the input stalls, and a read-only store is not even asked for one.
+TEST(RegFileTest, LocksTheStoreOnlyOnceAllIsRead)
+{
+    const auto store = Open("memory:");
+    class Stalling final : public std::streambuf
+    {
+      public:
+        explicit Stalling(Store& store) : m_store(store) {}
+
+      protected:
+        int_type underflow() override
+        {
+            if (m_step == 2) {
+                return traits_type::eof();
+            }
+            Put(m_store, L"other", L"n", DwordBytes(m_step));
+            m_text = m_step++ == 0 ? "REGEDIT4\n[HKLM\\a]\n\"x\"=dword:1\n" : "\"y\"=dword:2\n";
+            setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
+            return traits_type::to_int_type(m_text[0]);
+        }
+
+      private:
+        Store& m_store;
+        std::string m_text;
+        unsigned m_step = 0;
+    };
+    Stalling buffer(*store);
+    std::istream input(&buffer);
+    ImportCounts counts;
+    Error error;
+    ASSERT_TRUE(ImportRegFile(*store, input, "f.reg", counts, error)) << error.message;
+    EXPECT_EQ(Get(*store, L"other", L"n"), "4:01000000");
+    EXPECT_EQ(Dump(*store, L"a"), "[a]\nx=4:01000000\ny=4:02000000\n");
+}
+
+TEST(RegFileTest, AnImportTakesTheKeysOf32BitPrograms)
+{
+    const std::string file = "Windows Registry Editor Version 5.00\n"
+                             "[HKEY_LOCAL_MACHINE\\Software\\WOW6432Node\\xfs\\Dev]\n\"n\"=dword:32\n"
+                             "[-HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\XFS\\Old]\n"
+                             "[-HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\Old2]\n"
+                             "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\Dev]\n\"m\"=dword:64\n\"k\"=-\n"
+                             "[HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\Other]\n\"n\"=dword:1\n";
+    const auto store = Open("memory:");
+    Put(*store, L"SOFTWARE\\XFS\\Old", L"n", DwordBytes(1));
+    Put(*store, L"SOFTWARE\\XFS\\Old2", L"n", DwordBytes(1));
+    Put(*store, L"SOFTWARE\\XFS\\Dev", L"k", DwordBytes(1));
+    EXPECT_EQ(Import(file, *store, {0, true}), "");
+    EXPECT_EQ(Dump(*store, L"SOFTWARE"), "[SOFTWARE]\n[SOFTWARE\\WOW6432Node]\n[SOFTWARE\\WOW6432Node\\Other]\n"
+                                         "n=4:01000000\n[SOFTWARE\\XFS]\n[SOFTWARE\\XFS\\Dev]\nk=4:01000000\n"
+                                         "n=4:32000000\n[SOFTWARE\\XFS\\Old2]\nn=4:01000000\n");
+    // The file of a program that has one kind of keys only.
+    const auto other = Open("memory:");
+    EXPECT_EQ(Import("REGEDIT4\n[HKLM\\SOFTWARE\\XFS]\n\"n\"=dword:1\n", *other, {0, true}), "");
+    EXPECT_EQ(Get(*other, L"SOFTWARE\\XFS", L"n"), "4:01000000");
 }
 
 TEST(RegFileTest, SaysWhatIsWrongAndWhere)
@@ -197,13 +347,14 @@ TEST(RegFileTest, SaysWhatIsWrongAndWhere)
         {std::string("\"a\"=\"\0\"", 7), "3: the value's text holds a NUL"},
         {"\"\xFF\"=dword:1", "3: the text is not well-formed UTF-8"},
         {"\"x\"=dword\n\"\xFF\"=dword:1", "3: unknown kind of data"}, // the first one counts
-        {"[HKLM\\" + std::string(300, 'k') + "]", "3: memory:: the key name \"kkk"},
+        {"[HKLM\\" + std::string(300, 'k') + "]", "3: the key name \"kkk"},
     };
     for (const auto& [line, message] : lines) {
         EXPECT_EQ(ImportedLines(line + "\n").find("f.reg:" + message), 0U) << line << " gave " << ImportedLines(line);
     }
     const std::pair<std::string, std::string> files[] = {
         {"", "f.reg:1: this is no registry export"},
+        {"\"quoted\nfile\"\n", "f.reg:1: this is no registry export: it begins with \"\"quoted\""},
         {"\n\n", "f.reg:3: this is no registry export"},
         {"\n[HKLM\\a]\n", "f.reg:2: this is no registry export: it begins with \"[HKLM\\a]\""},
         {"Windows Registry Editor Version 6.00\n", "f.reg:1: this is no registry export"},
@@ -247,6 +398,15 @@ TEST(RegFileTest, WritesAsRegeditDoes)
                         "[HKEY_LOCAL_MACHINE\\a\\c]\r\n\"e\"=hex(2):\r\n\r\n"));
     EXPECT_FALSE(ExportRegFile(*store, Hive::LocalMachine, L"absent", out, error));
     EXPECT_EQ(error.kind, ErrorKind::NotFound);
+    std::ostringstream utf8;
+    Put(*store, L"u", L"\u4e2d", SzBytes(L"\U0001F4B6"), ValueType::Sz);
+    ASSERT_TRUE(ExportRegFile(*store, Hive::LocalMachine, L"u", utf8, error, ExportEncoding::Utf8)) << error.message;
+    EXPECT_EQ(utf8.str(), "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_LOCAL_MACHINE\\u]\r\n"
+                          "\"\xe4\xb8\xad\"=\"\xf0\x9f\x92\xb6\"\r\n\r\n");
+    EXPECT_EQ(Import(utf8.str(), *Open("memory:")), "");
+    Put(*store, L"u", std::wstring{static_cast<wchar_t>(0xD83D)}, DwordBytes(1));
+    EXPECT_FALSE(ExportRegFile(*store, Hive::LocalMachine, L"u", utf8, error, ExportEncoding::Utf8));
+    EXPECT_EQ(error.kind, ErrorKind::BadText) << error.message;
     out.setstate(std::ios::badbit);
     EXPECT_FALSE(ExportRegFile(*store, Hive::LocalMachine, L"a", out, error));
     EXPECT_EQ(error.kind, ErrorKind::Io);
@@ -268,7 +428,13 @@ TEST(RegFileTest, ShowsThe32BitViewOnRequest)
     EXPECT_EQ(Get(*narrow, L"SOFTWARE\\XFS", L"n", Hive::Users), "4:01000000");
     EXPECT_EQ(Get(*narrow, L"SOFTWARE\\XFSX", L"n"), "missing");
 
+    // Without the option, its service providers would all seem to have no settings.
+    WriteFile(path, "REGEDIT4\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\XFS\\Dev]\n\"n\"=dword:32\n");
     Error error;
+    EXPECT_FALSE(OpenStore("reg:" + path, {}, error));
+    EXPECT_NE(error.message.find("--view32"), std::string::npos) << error.message;
+    EXPECT_EQ(Get(*Open("reg:" + path, {.view32 = true}), L"SOFTWARE\\XFS\\Dev", L"n"), "4:32000000");
+
     EXPECT_FALSE(OpenStore("reg:" + directory.File("absent"), {}, error));
     EXPECT_EQ(error.kind, ErrorKind::NotFound);
     WriteFile(path, "no export");

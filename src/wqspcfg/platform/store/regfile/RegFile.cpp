@@ -1,23 +1,13 @@
 #include "wqspcfg/platform/store/regfile/RegFile.h"
 
-#include "wqspcfg/platform/store/FlatKey.h"
 #include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/platform/text/CodePage.h"
 #include "wqspcfg/platform/text/Utf.h"
-
-#if defined(_WIN32)
-#include "wqspcfg/platform/base/WinTypes.h"
-#endif
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <istream>
 #include <memory>
-#include <ostream>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -61,30 +51,16 @@ int HexDigit(char16_t ch)
     return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
 }
 
-// Text of a REGEDIT4 file.
-void AppendAnsi(std::string_view bytes, std::u16string& units)
-{
-#if defined(_WIN32)
-    const auto length = static_cast<int>(bytes.size());
-    const auto count = MultiByteToWideChar(CP_THREAD_ACP, 0, bytes.data(), length, nullptr, 0);
-    std::wstring wide(static_cast<std::size_t>(count), L'\0');
-    MultiByteToWideChar(CP_THREAD_ACP, 0, bytes.data(), length, wide.data(), count);
-    units.append(wide.begin(), wide.end());
-#else
-    if (!AppendUtf16FromUtf8(bytes, units)) {
-        for (const auto byte : bytes) {
-            units.push_back(static_cast<unsigned char>(byte));
-        }
-    }
-#endif
-}
-
 void AppendAscii(std::string_view bytes, std::u16string& units)
 {
     const auto start = units.size();
     units.resize(start + bytes.size());
     std::copy(bytes.begin(), bytes.end(), units.begin() + static_cast<std::ptrdiff_t>(start));
 }
+
+// The first line is read as far as this to see that it is that of an export.
+constexpr std::size_t kLongestFirstLine = 4096;
+constexpr std::size_t kMostLinesBefore = 4096;
 
 bool IsAscii(std::string_view bytes)
 {
@@ -120,7 +96,9 @@ bool SplitHive(std::wstring_view fullPath, Hive& hive, std::wstring_view& path)
 class RegFileParser::Impl
 {
   public:
-    Impl(std::string source, RegFileVisitor& visitor) : m_source(std::move(source)), m_visitor(visitor) {}
+    Impl(std::string source, RegFileVisitor& visitor, std::unique_ptr<CodePage> codePage)
+        : m_source(std::move(source)), m_visitor(visitor), m_codePage(std::move(codePage))
+    {}
 
     bool Feed(std::string_view bytes)
     {
@@ -149,13 +127,17 @@ class RegFileParser::Impl
         if (!m_bytes.empty() && !DecodeLine(m_bytes)) {
             return false;
         }
+        if (!m_undecided.empty() && !Decide()) {
+            return false;
+        }
         if (!ParseLines(true)) {
             return false;
         }
-        return m_version != 0 || Fail(ErrorKind::Damaged, "this is no registry export: its first line is missing");
+        return m_version != 0 || Fail(ErrorKind::Damaged, kNoFirstLine);
     }
 
     Error TakeError() { return std::move(m_error); }
+    std::size_t Line() const { return m_line; }
 
   private:
     enum class Encoding
@@ -190,6 +172,17 @@ class RegFileParser::Impl
     }
 
     bool FailedVisit(const Error& error) { return Fail(error.kind, error.message); }
+
+    // At a line that has been read and not decoded. What is wrong in a line before it is told first, however the file
+    // arrives.
+    bool FailUndecoded(ErrorKind kind, std::string_view cause)
+    {
+        if (!ParseLines(false)) {
+            return false;
+        }
+        m_line = m_decodedLines;
+        return Fail(kind, cause);
+    }
 
     bool Detect(std::string_view head)
     {
@@ -238,9 +231,17 @@ class RegFileParser::Impl
     bool DecodeEightBit(std::string_view bytes)
     {
         while (!bytes.empty()) {
+            if (!m_undecided.empty()) {
+                m_undecided.append(bytes);
+                break;
+            }
             const auto end = bytes.find('\n');
             if (end == std::string_view::npos) {
                 m_bytes.append(bytes);
+                if (!m_hasFirstLine && m_bytes.size() > kLongestFirstLine) {
+                    ++m_decodedLines;
+                    return FailUndecoded(ErrorKind::Damaged, kFirstLineIsLong);
+                }
                 break;
             }
             const auto line = bytes.substr(0, end + 1);
@@ -264,26 +265,47 @@ class RegFileParser::Impl
     bool DecodeLine(std::string_view line)
     {
         ++m_decodedLines;
-        if (IsAscii(line)) {
-            if (!m_isAnsi && !m_marked && line.starts_with("REGEDIT4")) {
-                m_isAnsi = true;
+        const bool isFirst = !m_hasFirstLine;
+        if (isFirst) {
+            if (line.size() > kLongestFirstLine) {
+                return FailUndecoded(ErrorKind::Damaged, kFirstLineIsLong);
             }
+            const auto ink = line.find_first_not_of(" \t\r\n");
+            m_hasFirstLine = ink != std::string_view::npos;
+            m_isAnsi = m_hasFirstLine && !m_marked && line.substr(ink).starts_with("REGEDIT4");
+        }
+        if (IsAscii(line)) {
             AppendAscii(line, m_text);
             return true;
         }
-        if (m_isAnsi) {
-            AppendAnsi(line, m_text);
+        if (!m_isAnsi) {
+            return AppendUtf16FromUtf8(line, m_text) ||
+                   FailUndecoded(ErrorKind::BadText, isFirst ? "this is no registry export: its first line is no text"
+                                                             : "the text is not well-formed UTF-8");
+        }
+        if (m_codePage == nullptr) {
+            m_undecided = line;
             return true;
         }
-        if (!AppendUtf16FromUtf8(line, m_text)) {
-            // What is wrong in a line before this one is told first, however the file arrives.
-            if (!ParseLines(false)) {
-                return false;
-            }
-            m_line = m_decodedLines;
-            return Fail(ErrorKind::BadText, "the text is not well-formed UTF-8");
+        return m_codePage->Append(line, m_text) ||
+               FailUndecoded(ErrorKind::BadText, "the text is not in the code page that was given");
+    }
+
+    // The text of a REGEDIT4 file from its first line with more than ASCII on: UTF-8, where all of it is.
+    bool Decide()
+    {
+        if (AppendUtf16FromUtf8(m_undecided, m_text)) {
+            return true;
         }
-        return true;
+        auto rest = std::string_view(m_undecided);
+        std::u16string units;
+        for (;; ++m_decodedLines) {
+            const auto end = std::min(rest.find('\n'), rest.size() - 1);
+            if (!AppendUtf16FromUtf8(rest.substr(0, end + 1), units)) {
+                return FailUndecoded(ErrorKind::BadText, kUnknownCodePage);
+            }
+            rest.remove_prefix(end + 1);
+        }
     }
 
     // Moves m_scan on to behind the line that begins at m_start. False when its end has not been read yet.
@@ -303,12 +325,17 @@ class RegFileParser::Impl
                 if (ch == u'\n') {
                     return done(true);
                 }
-                if (ch == u'"') {
+                if (IsBlank(ch)) {
+                    break;
+                }
+                if (m_version == 0) {
+                    m_state = Scan::Plain;
+                } else if (ch == u'"') {
                     m_state = Scan::Quoted;
                 } else if (ch == u'@') {
                     m_state = Scan::Value;
                     m_lastInk = ch;
-                } else if (!IsBlank(ch)) {
+                } else {
                     m_state = Scan::Plain;
                 }
                 break;
@@ -365,11 +392,14 @@ class RegFileParser::Impl
         m_text.erase(0, m_start);
         m_scan -= m_start;
         m_start = 0;
-        return true;
+        return m_version != 0 || m_text.size() <= kLongestFirstLine || Fail(ErrorKind::Damaged, kFirstLineIsLong);
     }
 
     bool ParseLine(std::u16string_view line)
     {
+        if (m_version == 0 && line.size() > kLongestFirstLine) {
+            return Fail(ErrorKind::Damaged, kFirstLineIsLong);
+        }
         auto end = line.size();
         while (end > 0 && (IsBlank(line[end - 1]) || line[end - 1] == u'\n')) {
             --end;
@@ -378,7 +408,7 @@ class RegFileParser::Impl
         std::size_t at = 0;
         SkipBlanks(line, at);
         if (at == line.size()) {
-            return true;
+            return m_version != 0 || m_line <= kMostLinesBefore || Fail(ErrorKind::Damaged, kNoFirstLine);
         }
         if (m_version == 0) {
             return ParseVersion(line.substr(at));
@@ -639,7 +669,11 @@ class RegFileParser::Impl
         const auto kind = static_cast<ValueType>(type);
         if (m_version == 4 && (kind == ValueType::Sz || kind == ValueType::ExpandSz || kind == ValueType::MultiSz)) {
             m_units.clear();
-            AppendAnsi({reinterpret_cast<const char*>(m_data.data()), m_data.size()}, m_units);
+            const std::string_view bytes(reinterpret_cast<const char*>(m_data.data()), m_data.size());
+            if (m_codePage != nullptr ? !m_codePage->Append(bytes, m_units) : !AppendUtf16FromUtf8(bytes, m_units)) {
+                return FailAt(0, m_codePage != nullptr ? "the text is not in the code page that was given"
+                                                       : kUnknownCodePage);
+            }
             m_data.clear();
             AppendUnits(false);
         }
@@ -653,18 +687,27 @@ class RegFileParser::Impl
         m_data.assign(first, first + count);
     }
 
+    static constexpr std::string_view kNoFirstLine = "this is no registry export: its first line is missing";
+    static constexpr std::string_view kFirstLineIsLong =
+        "this is no registry export: its first line is longer than that of any export";
+    static constexpr std::string_view kUnknownCodePage =
+        "the text is neither ASCII nor UTF-8; give its code page with --codepage, such as 936 or 1252";
+
     std::string m_source;
     RegFileVisitor& m_visitor;
+    std::unique_ptr<CodePage> m_codePage; // of a REGEDIT4 file, where it is known
     Error m_error;
 
     Encoding m_encoding = Encoding::Unknown;
-    std::string m_head;  // until the encoding is known
-    std::string m_bytes; // an unfinished line
+    std::string m_head;      // until the encoding is known
+    std::string m_bytes;     // an unfinished line
+    std::string m_undecided; // all from the first line whose encoding only the rest of the file tells
     std::size_t m_decodedLines = 0;
     std::size_t m_skip = 0;
     unsigned m_oddByte = 0;
     bool m_hasOddByte = false;
     bool m_marked = false;
+    bool m_hasFirstLine = false;
     bool m_isAnsi = false;
 
     std::u16string m_text; // decoded, not yet parsed
@@ -681,8 +724,8 @@ class RegFileParser::Impl
     std::vector<std::byte> m_data;
 };
 
-RegFileParser::RegFileParser(std::string source, RegFileVisitor& visitor)
-    : m_impl(std::make_unique<Impl>(std::move(source), visitor))
+RegFileParser::RegFileParser(std::string source, RegFileVisitor& visitor, std::unique_ptr<CodePage> codePage)
+    : m_impl(std::make_unique<Impl>(std::move(source), visitor, std::move(codePage)))
 {}
 
 RegFileParser::~RegFileParser() = default;
@@ -696,6 +739,11 @@ bool RegFileParser::Feed(std::string_view bytes, Error& error)
     return good;
 }
 
+std::size_t RegFileParser::Line() const noexcept
+{
+    return m_impl->Line();
+}
+
 bool RegFileParser::Finish(Error& error)
 {
     const bool good = m_impl->Finish();
@@ -703,408 +751,6 @@ bool RegFileParser::Finish(Error& error)
         error = m_impl->TakeError();
     }
     return good;
-}
-
-// --- Import ----------------------------------------------------------------------------------------------------------
-
-namespace {
-
-constexpr std::size_t kPiece = std::size_t{1} << 18;
-
-class ImportVisitor final : public RegFileVisitor
-{
-  public:
-    ImportVisitor(Transaction& transaction, ImportCounts& counts) : m_transaction(transaction), m_counts(counts) {}
-
-    bool Key(Hive hive, std::wstring_view path, Error& error) override
-    {
-        Close();
-        ++m_counts.keys;
-        m_isOpen = Done(m_transaction.CreateKey(hive, path, m_key), error);
-        return m_isOpen;
-    }
-
-    bool DeleteKey(Hive hive, std::wstring_view path, Error& error) override
-    {
-        Close();
-        ++m_counts.deletions;
-        return Done(m_transaction.DeleteKey(hive, path), error);
-    }
-
-    bool Value(std::wstring_view name, const ValueView& value, Error& error) override
-    {
-        ++m_counts.values;
-        return Done(m_transaction.SetValue(m_key, name, value), error);
-    }
-
-    bool DeleteValue(std::wstring_view name, Error& error) override
-    {
-        ++m_counts.deletions;
-        return Done(m_transaction.DeleteValue(m_key, name), error);
-    }
-
-  private:
-    // Deleting what is not there is no failure.
-    bool Done(Outcome outcome, Error& error)
-    {
-        if (outcome == Outcome::Failed) {
-            error = m_transaction.LastError();
-        }
-        return outcome != Outcome::Failed;
-    }
-
-    void Close()
-    {
-        if (m_isOpen) {
-            m_transaction.CloseKey(m_key);
-            m_isOpen = false;
-        }
-    }
-
-    Transaction& m_transaction;
-    ImportCounts& m_counts;
-    KeyId m_key = 0;
-    bool m_isOpen = false;
-};
-
-// Refuses what the registry would refuse half-way through.
-class CheckingVisitor final : public RegFileVisitor
-{
-  public:
-    bool Key(Hive hive, std::wstring_view path, Error& error) override
-    {
-        for (std::size_t pos = 0; pos < path.size();) {
-            const auto end = std::min(path.find(L'\\', pos), path.size());
-            if (Utf16Length(path.substr(pos, end - pos)) > kMaxKeyName) {
-                error = {ErrorKind::TooLong, "the name of the key " + DescribeKey(hive, path) + " is too long"};
-                return false;
-            }
-            pos = end + 1;
-        }
-        return true;
-    }
-    bool DeleteKey(Hive, std::wstring_view, Error&) override { return true; }
-    bool Value(std::wstring_view name, const ValueView&, Error& error) override
-    {
-        if (Utf16Length(name) > kMaxValueName) {
-            error = {ErrorKind::TooLong, "the value's name is too long"};
-            return false;
-        }
-        return true;
-    }
-    bool DeleteValue(std::wstring_view, Error&) override { return true; }
-};
-
-// Feeds all of `input` to the parser, and keeps it in `copy` where that is given.
-bool Parse(std::istream& input, const std::string& source, RegFileVisitor& visitor, std::string* copy, Error& error)
-{
-    RegFileParser parser(source, visitor);
-    std::string piece(kPiece, '\0');
-    while (input) {
-        input.read(piece.data(), static_cast<std::streamsize>(piece.size()));
-        const auto bytes = std::string_view(piece).substr(0, static_cast<std::size_t>(input.gcount()));
-        if (copy != nullptr) {
-            copy->append(bytes);
-        }
-        if (!parser.Feed(bytes, error)) {
-            return false;
-        }
-    }
-    if (input.bad()) {
-        error = {ErrorKind::Io, "cannot read " + source};
-        return false;
-    }
-    return parser.Finish(error);
-}
-
-} // namespace
-
-bool ImportRegFile(Store& store, std::istream& input, const std::string& source, ImportCounts& counts, Error& error)
-{
-    std::string copy;
-    if (!store.RollsBack()) {
-        CheckingVisitor checking;
-        if (!Parse(input, source, checking, &copy, error)) {
-            return false;
-        }
-    }
-    const auto transaction = store.Begin(Access::Write, error);
-    if (!transaction) {
-        return false;
-    }
-    ImportCounts imported;
-    ImportVisitor visitor(*transaction, imported);
-    if (store.RollsBack()) {
-        if (!Parse(input, source, visitor, nullptr, error)) {
-            return false;
-        }
-    } else {
-        RegFileParser parser(source, visitor);
-        if (!parser.Feed(copy, error) || !parser.Finish(error)) {
-            return false;
-        }
-    }
-    if (transaction->Commit(true) != Outcome::Found) {
-        error = transaction->LastError();
-        return false;
-    }
-    counts.keys += imported.keys;
-    counts.values += imported.values;
-    counts.deletions += imported.deletions;
-    return true;
-}
-
-bool ImportRegFile(Store& store, const std::string& path, ImportCounts& counts, Error& error)
-{
-    std::error_code failure;
-    const std::filesystem::path file(std::u8string(path.begin(), path.end()));
-    std::ifstream input;
-    if (std::filesystem::is_directory(file, failure)) {
-        error = {ErrorKind::BadArgument, path + " is a directory"};
-        return false;
-    }
-    errno = 0;
-    input.open(file, std::ios::binary);
-    if (!input) {
-        const auto cause = errno;
-        const auto kind =
-            cause == ENOENT ? ErrorKind::NotFound : (cause == EACCES ? ErrorKind::AccessDenied : ErrorKind::Io);
-        error = {kind, "cannot open " + path + ": " + std::generic_category().message(cause)};
-        return false;
-    }
-    return ImportRegFile(store, input, path, counts, error);
-}
-
-// --- Export ----------------------------------------------------------------------------------------------------------
-
-namespace {
-
-class Exporter
-{
-  public:
-    Exporter(Transaction& transaction, std::ostream& output) : m_transaction(transaction), m_output(output)
-    {
-        m_text = u'\xFEFF';
-        m_text.append(kVersion5);
-        m_text.append(u"\r\n\r\n");
-    }
-
-    bool Key(Hive hive, const std::wstring& path, Error& error)
-    {
-        KeyId key = 0;
-        const auto opened = m_transaction.OpenKey(hive, path, key);
-        if (opened != Outcome::Found) {
-            error = opened == Outcome::Failed
-                        ? m_transaction.LastError()
-                        : Error{ErrorKind::NotFound, "there is no key " + DescribeKey(hive, path)};
-            return false;
-        }
-        if (path.find_first_of(L"\r\n") != std::wstring::npos) {
-            error = {ErrorKind::BadText, "a registry export cannot hold the key " + DescribeKey(hive, path) +
-                                             ": its name has a line break"};
-            return false;
-        }
-        m_text.push_back(u'[');
-        AppendUtf16(HiveName(hive), m_text);
-        if (!path.empty()) {
-            m_text.push_back(u'\\');
-            AppendUtf16(path, m_text);
-        }
-        m_text.append(u"]\r\n");
-        bool written = true;
-        const auto listed = m_transaction.EnumValues(key, [&](std::wstring_view name, const ValueView& value) {
-            Value(name, value);
-            written = m_text.size() < kPiece || Write();
-            return written;
-        });
-        m_text.append(u"\r\n");
-        std::vector<std::wstring> subkeys;
-        if (listed == Outcome::Failed || m_transaction.EnumKeys(key, [&subkeys](std::wstring_view name) {
-                subkeys.emplace_back(name);
-                return true;
-            }) == Outcome::Failed) {
-            error = m_transaction.LastError();
-            return false;
-        }
-        m_transaction.CloseKey(key);
-        if (!written) {
-            return Failed(error);
-        }
-        for (const auto& subkey : subkeys) {
-            if (!Key(hive, path.empty() ? subkey : path + L'\\' + subkey, error)) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    bool Finish(Error& error) { return (Write() && m_output.flush()) || Failed(error); }
-
-  private:
-    bool Write()
-    {
-        m_output.write(reinterpret_cast<const char*>(m_text.data()), static_cast<std::streamsize>(m_text.size() * 2));
-        m_text.clear();
-        return m_output.good();
-    }
-
-    static bool Failed(Error& error)
-    {
-        error = {ErrorKind::Io, "cannot write the registry export"};
-        return false;
-    }
-
-    void Value(std::wstring_view name, const ValueView& value)
-    {
-        m_lineStart = m_text.size();
-        if (name.empty()) {
-            m_text.push_back(u'@');
-        } else {
-            m_units.clear();
-            AppendUtf16(name, m_units);
-            Quoted(m_units);
-        }
-        m_text.push_back(u'=');
-        if (value.type == ValueType::Dword && value.data.size() == 4) {
-            std::uint32_t number;
-            std::memcpy(&number, value.data.data(), 4);
-            m_text.append(u"dword:");
-            Hex(number, 8);
-        } else if (value.type == ValueType::Sz && IsPlainText(value.data)) {
-            Quoted(m_units);
-        } else {
-            Bytes(value);
-        }
-        m_text.append(u"\r\n");
-    }
-
-    // Whether the bytes are a text as a quoted one reads back: one terminator, well-formed, no line break. The text is
-    // left in m_units.
-    bool IsPlainText(std::span<const std::byte> data)
-    {
-        if (data.size() % 2 != 0 || data.empty()) {
-            return false;
-        }
-        m_units.resize(data.size() / 2);
-        std::memcpy(m_units.data(), data.data(), data.size());
-        if (m_units.back() != u'\0') {
-            return false;
-        }
-        m_units.pop_back();
-        for (std::size_t at = 0; at < m_units.size(); ++at) {
-            const auto ch = m_units[at];
-            if (ch == u'\0' || ch == u'\r' || ch == u'\n' || (ch & 0xFC00) == 0xDC00) {
-                return false;
-            }
-            if ((ch & 0xFC00) == 0xD800 && (++at == m_units.size() || (m_units[at] & 0xFC00) != 0xDC00)) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    void Quoted(std::u16string_view text)
-    {
-        m_text.push_back(u'"');
-        for (const auto ch : text) {
-            if (ch == u'"' || ch == u'\\') {
-                m_text.push_back(u'\\');
-            }
-            m_text.push_back(ch);
-        }
-        m_text.push_back(u'"');
-    }
-
-    void Hex(std::uint32_t number, int digits)
-    {
-        for (auto shift = (digits - 1) * 4; shift >= 0; shift -= 4) {
-            m_text.push_back(u"0123456789abcdef"[(number >> shift) & 0xF]);
-        }
-    }
-
-    void Bytes(const ValueView& value)
-    {
-        constexpr std::size_t kWidth = 77; // a line is broken behind the byte that reaches it
-        if (value.type == ValueType::Binary) {
-            m_text.append(u"hex:");
-        } else {
-            const auto type = static_cast<std::uint32_t>(value.type);
-            int digits = 1;
-            while (digits < 8 && (type >> (digits * 4)) != 0) {
-                ++digits;
-            }
-            m_text.append(u"hex(");
-            Hex(type, digits);
-            m_text.append(u"):");
-        }
-        for (std::size_t at = 0; at < value.data.size(); ++at) {
-            Hex(static_cast<std::uint32_t>(value.data[at]), 2);
-            if (at + 1 == value.data.size()) {
-                break;
-            }
-            m_text.push_back(u',');
-            if (m_text.size() - m_lineStart >= kWidth) {
-                m_text.append(u"\\\r\n  ");
-                m_lineStart = m_text.size() - 2;
-            }
-        }
-    }
-
-    Transaction& m_transaction;
-    std::ostream& m_output;
-    std::u16string m_text;
-    std::u16string m_units;
-    std::size_t m_lineStart = 0;
-};
-
-} // namespace
-
-bool ExportRegFile(Store& store, Hive hive, std::wstring_view path, std::ostream& output, Error& error)
-{
-    const auto transaction = store.Begin(Access::Read, error);
-    if (!transaction) {
-        return false;
-    }
-    std::wstring normal;
-    for (std::size_t pos = 0; pos < path.size();) {
-        const auto end = std::min(path.find(L'\\', pos), path.size());
-        if (end > pos) {
-            normal += (normal.empty() ? L"" : L"\\");
-            normal += path.substr(pos, end - pos);
-        }
-        pos = end + 1;
-    }
-    Exporter exporter(*transaction, output);
-    return exporter.Key(hive, normal, error) && exporter.Finish(error);
-}
-
-bool ExportRegFile(Store& store, std::ostream& output, Error& error)
-{
-    const auto transaction = store.Begin(Access::Read, error);
-    if (!transaction) {
-        return false;
-    }
-    const bool windows = store.Address().starts_with("windows:");
-    Exporter exporter(*transaction, output);
-    for (const auto hive :
-         {Hive::LocalMachine, Hive::Users, Hive::CurrentUser, Hive::ClassesRoot, Hive::CurrentConfig}) {
-        if (windows && hive != Hive::LocalMachine && hive != Hive::Users) {
-            continue;
-        }
-        KeyId key = 0;
-        bool empty = true;
-        const auto note = [&empty](auto&&...) { return empty = false; };
-        if (transaction->OpenKey(hive, {}, key) == Outcome::Failed ||
-            transaction->EnumKeys(key, note) == Outcome::Failed ||
-            transaction->EnumValues(key, note) == Outcome::Failed) {
-            error = transaction->LastError();
-            return false;
-        }
-        if (!empty && !exporter.Key(hive, {}, error)) {
-            return false;
-        }
-    }
-    return exporter.Finish(error);
 }
 
 } // namespace wqspcfg

@@ -2,26 +2,13 @@
 
 #include "wqspcfg/platform/store/ForwardingTransaction.h"
 #include "wqspcfg/platform/store/regfile/RegFile.h"
-#include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/platform/store/regfile/View32.h"
 
 #include <utility>
 
 namespace wqspcfg {
 
 namespace {
-
-constexpr std::wstring_view kSoftware = L"SOFTWARE";
-constexpr std::wstring_view kXfs = L"XFS";
-constexpr std::wstring_view kRedirected = L"SOFTWARE\\WOW6432Node\\XFS";
-
-std::wstring_view TakeComponent(std::wstring_view& path)
-{
-    const auto start = std::min(path.find_first_not_of(L'\\'), path.size());
-    const auto end = std::min(path.find(L'\\', start), path.size());
-    const auto component = path.substr(start, end - start);
-    path.remove_prefix(end);
-    return component;
-}
 
 // Opens the keys of 32-bit programs in place of those of 64-bit ones. The content's transaction is one for reading.
 class RedirectingTransaction final : public ForwardingTransaction
@@ -45,13 +32,12 @@ class RedirectingTransaction final : public ForwardingTransaction
   private:
     std::wstring_view Redirected(Hive hive, std::wstring_view path)
     {
-        auto rest = path;
-        if (hive != Hive::LocalMachine || !EqualNoCase(TakeComponent(rest), kSoftware) ||
-            !EqualNoCase(TakeComponent(rest), kXfs)) {
+        const auto rest = RestBelow(kXfsKey, hive, path);
+        if (!rest) {
             return path;
         }
-        m_path = kRedirected;
-        m_path += rest;
+        m_path = kXfsKey32;
+        m_path += *rest;
         return m_path;
     }
 
@@ -60,19 +46,30 @@ class RedirectingTransaction final : public ForwardingTransaction
 
 } // namespace
 
-std::shared_ptr<RegFileStore> RegFileStore::Open(std::string address, const std::string& path, bool view32,
-                                                 Error& error)
+std::shared_ptr<RegFileStore> RegFileStore::Open(std::string address, const std::string& path,
+                                                 const OpenOptions& options, Error& error)
 {
     auto store = std::make_shared<RegFileStore>(std::move(address), path);
+    auto content = store->m_content.Begin(Access::Write, error);
     ImportCounts counts;
-    if (!ImportRegFile(store->m_content, path, counts, error)) {
+    RegFileWriter writer(*content, counts);
+    if (!ReadRegFile(path, options.codePage, writer, error)) {
         return nullptr;
     }
-    if (view32) {
-        KeyId key = 0;
-        const auto content = store->m_content.Begin(Access::Read, error);
-        store->m_redirects = content->OpenKey(Hive::LocalMachine, kRedirected, key) == Outcome::Found;
+    KeyId key = 0;
+    const bool has32 = content->OpenKey(Hive::LocalMachine, kXfsKey32, key) == Outcome::Found;
+    const bool has64 = content->OpenKey(Hive::LocalMachine, kXfsKey, key) == Outcome::Found;
+    if (content->Commit(false) == Outcome::Failed) {
+        error = content->LastError();
+        return nullptr;
     }
+    if (has32 && !has64 && !options.view32) {
+        error = {ErrorKind::BadArgument,
+                 path + ": the service providers of this terminal are 32-bit programs, whose keys stand under "
+                        "SOFTWARE\\WOW6432Node\\XFS; give --view32 to read them as SOFTWARE\\XFS"};
+        return nullptr;
+    }
+    store->m_redirects = has32 && options.view32;
     return store;
 }
 

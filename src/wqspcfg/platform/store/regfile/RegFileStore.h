@@ -12,8 +12,10 @@ class RegFileStore final : public Store
 {
   public:
     // With `view32`, HKEY_LOCAL_MACHINE\SOFTWARE\XFS is what the file holds under SOFTWARE\WOW6432Node\XFS, where a
-    // 64-bit Windows keeps the keys of 32-bit programs; a file without that key is read as it stands.
-    static std::shared_ptr<RegFileStore> Open(std::string address, const std::string& path, bool view32, Error& error);
+    // 64-bit Windows keeps the keys of 32-bit programs; a file without that key is read as it stands. Without it, a
+    // file that has no other keys of service providers is refused: all their settings would read as missing.
+    static std::shared_ptr<RegFileStore> Open(std::string address, const std::string& path, const OpenOptions& options,
+                                              Error& error);
 
     RegFileStore(std::string address, std::string path) : m_content(std::move(address)), m_path(std::move(path)) {}
 

@@ -1,0 +1,440 @@
+#include "wqspcfg/platform/store/FlatKey.h"
+#include "wqspcfg/platform/store/regfile/RegFile.h"
+#include "wqspcfg/platform/store/regfile/View32.h"
+#include "wqspcfg/platform/text/CodePage.h"
+#include "wqspcfg/platform/text/DisplayText.h"
+#include "wqspcfg/platform/text/Utf.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <istream>
+#include <system_error>
+#include <utility>
+
+namespace wqspcfg {
+
+namespace {
+
+constexpr std::size_t kPiece = std::size_t{1} << 18;
+
+std::string Shown(std::wstring_view name)
+{
+    constexpr std::size_t kShown = 60;
+    return '"' + DisplayText(name.substr(0, kShown)) + (name.size() > kShown ? "...\"" : "\"");
+}
+
+// Passes on what every store can keep.
+class CheckingVisitor final : public RegFileVisitor
+{
+  public:
+    explicit CheckingVisitor(RegFileVisitor& next) : m_next(next) {}
+
+    bool Key(Hive hive, std::wstring_view path, Error& error) override
+    {
+        std::size_t depth = 0;
+        for (std::size_t pos = 0; pos < path.size();) {
+            const auto end = std::min(path.find(L'\\', pos), path.size());
+            const auto name = path.substr(pos, end - pos);
+            depth += name.empty() ? 0U : 1U;
+            if (Utf16Length(name) > kMaxKeyName) {
+                error = {ErrorKind::TooLong, "the key name " + Shown(name) + " is longer than " +
+                                                 std::to_string(kMaxKeyName) + " characters"};
+                return false;
+            }
+            if (std::any_of(name.begin(), name.end(), [](wchar_t ch) { return ch < 0x20 || ch == 0x7F; })) {
+                error = {ErrorKind::BadText, "the key name " + Shown(name) + " has a control character"};
+                return false;
+            }
+            pos = end + 1;
+        }
+        if (depth > kMaxKeyDepth) {
+            error = {ErrorKind::TooLong, "the key lies " + std::to_string(depth) + " levels deep; the registry has " +
+                                             std::to_string(kMaxKeyDepth)};
+            return false;
+        }
+        return m_next.Key(hive, path, error);
+    }
+    bool DeleteKey(Hive hive, std::wstring_view path, Error& error) override
+    {
+        return m_next.DeleteKey(hive, path, error);
+    }
+    bool Value(std::wstring_view name, const ValueView& value, Error& error) override
+    {
+        if (Utf16Length(name) > kMaxValueName) {
+            error = {ErrorKind::TooLong, "the value name " + Shown(name) + " is longer than " +
+                                             std::to_string(kMaxValueName) + " characters"};
+            return false;
+        }
+        return m_next.Value(name, value, error);
+    }
+    bool DeleteValue(std::wstring_view name, Error& error) override { return m_next.DeleteValue(name, error); }
+
+  private:
+    RegFileVisitor& m_next;
+};
+
+// Takes the keys of 32-bit programs to where those of 64-bit programs lie, and leaves out the latter.
+class View32Visitor final : public RegFileVisitor
+{
+  public:
+    explicit View32Visitor(RegFileVisitor& next) : m_next(next) {}
+
+    bool Key(Hive hive, std::wstring_view path, Error& error) override
+    {
+        m_isLeftOut = RestBelow(kXfsKey, hive, path).has_value();
+        return m_isLeftOut || m_next.Key(hive, Redirected(hive, path), error);
+    }
+    bool DeleteKey(Hive hive, std::wstring_view path, Error& error) override
+    {
+        return RestBelow(kXfsKey, hive, path) || m_next.DeleteKey(hive, Redirected(hive, path), error);
+    }
+    bool Value(std::wstring_view name, const ValueView& value, Error& error) override
+    {
+        return m_isLeftOut || m_next.Value(name, value, error);
+    }
+    bool DeleteValue(std::wstring_view name, Error& error) override
+    {
+        return m_isLeftOut || m_next.DeleteValue(name, error);
+    }
+
+  private:
+    std::wstring_view Redirected(Hive hive, std::wstring_view path)
+    {
+        const auto rest = RestBelow(kXfsKey32, hive, path);
+        if (!rest) {
+            return path;
+        }
+        m_path = kXfsKey;
+        m_path += *rest;
+        return m_path;
+    }
+
+    RegFileVisitor& m_next;
+    std::wstring m_path;
+    bool m_isLeftOut = false;
+};
+
+bool OpenFile(const std::string& path, std::ifstream& input, Error& error)
+{
+    std::error_code failure;
+    const std::filesystem::path file(std::u8string(path.begin(), path.end()));
+    if (std::filesystem::is_directory(file, failure)) {
+        error = {ErrorKind::BadArgument, path + " is a directory"};
+        return false;
+    }
+    errno = 0;
+    input.open(file, std::ios::binary);
+    if (!input) {
+        const auto cause = errno;
+        const auto kind =
+            cause == ENOENT ? ErrorKind::NotFound : (cause == EACCES ? ErrorKind::AccessDenied : ErrorKind::Io);
+        error = {kind, "cannot open " + path + ": " + std::generic_category().message(cause)};
+        return false;
+    }
+    return true;
+}
+
+// Makes the parser and feeds all of `input` to it. `makeVisitor` is given the parser, to ask it for the line.
+template <class F>
+bool Parse(std::istream& input, const std::string& source, unsigned codePage, RegFileVisitor& visitor, F begin,
+           Error& error)
+{
+    std::unique_ptr<CodePage> page;
+    if (codePage != 0 && (page = CodePage::Open(codePage)) == nullptr) {
+        error = {ErrorKind::BadArgument, "code page " + std::to_string(codePage) + " is not known on this system"};
+        return false;
+    }
+    CheckingVisitor checking(visitor);
+    RegFileParser parser(source, checking, std::move(page));
+    begin(parser);
+    std::string piece(kPiece, '\0');
+    while (input) {
+        input.read(piece.data(), static_cast<std::streamsize>(piece.size()));
+        if (!parser.Feed(std::string_view(piece).substr(0, static_cast<std::size_t>(input.gcount())), error)) {
+            return false;
+        }
+    }
+    if (input.bad()) {
+        error = {ErrorKind::Io, "cannot read " + source};
+        return false;
+    }
+    return parser.Finish(error);
+}
+
+} // namespace
+
+// Each statement of the file is one record in a chunk: what it is and its hive, then the numbers and texts that it has.
+// Numbers have as many bytes as they need, and the line is told from that of the statement before.
+class RegFileContent::Impl
+{
+  public:
+    enum class Statement : unsigned char
+    {
+        Key,
+        DeleteKey,
+        Value,
+        DeleteValue,
+    };
+
+    class Recorder final : public RegFileVisitor
+    {
+      public:
+        explicit Recorder(Impl& content) : m_content(content) {}
+        void Reading(const RegFileParser& parser) { m_parser = &parser; }
+
+        bool Key(Hive hive, std::wstring_view path, Error&) override
+        {
+            m_content.m_has32 = m_content.m_has32 || RestBelow(kXfsKey32, hive, path).has_value();
+            return Begin(Statement::Key, hive, path) && End({});
+        }
+        bool DeleteKey(Hive hive, std::wstring_view path, Error&) override
+        {
+            return Begin(Statement::DeleteKey, hive, path) && End({});
+        }
+        bool Value(std::wstring_view name, const ValueView& value, Error&) override
+        {
+            Begin(Statement::Value, {}, name);
+            Append(static_cast<std::uint32_t>(value.type));
+            Append(value.data.size());
+            return End({reinterpret_cast<const char*>(value.data.data()), value.data.size()});
+        }
+        bool DeleteValue(std::wstring_view name, Error&) override
+        {
+            return Begin(Statement::DeleteValue, {}, name) && End({});
+        }
+
+      private:
+        bool Begin(Statement statement, Hive hive, std::wstring_view text)
+        {
+            m_record.clear();
+            m_record += static_cast<char>(static_cast<unsigned>(statement) | (static_cast<unsigned>(hive) << 4));
+            const auto line = m_parser->Line();
+            Append(line - std::exchange(m_line, line));
+            m_text.clear();
+            AppendGeneralizedUtf8(text, m_text); // the parser's text is well-formed
+            Append(m_text.size());
+            m_record += m_text;
+            return true;
+        }
+        void Append(std::size_t number)
+        {
+            for (; number >= 0x80; number >>= 7) {
+                m_record += static_cast<char>(number | 0x80);
+            }
+            m_record += static_cast<char>(number);
+        }
+        bool End(std::string_view data)
+        {
+            constexpr std::size_t kChunk = std::size_t{1} << 20;
+            auto& chunks = m_content.m_chunks;
+            const auto size = m_record.size() + data.size();
+            if (chunks.empty() || chunks.back().capacity() - chunks.back().size() < size) {
+                chunks.emplace_back().reserve(std::max(kChunk, size));
+            }
+            chunks.back() += m_record;
+            chunks.back() += data;
+            return true;
+        }
+
+        Impl& m_content;
+        const RegFileParser* m_parser = nullptr;
+        std::string m_record;
+        std::string m_text;
+        std::size_t m_line = 0;
+    };
+
+    bool Read(std::istream& input, const std::string& source, const RegFileOptions& options, Error& error)
+    {
+        m_source = source;
+        m_chunks.clear();
+        m_has32 = false;
+        Recorder recorder(*this);
+        const auto begin = [&recorder](const RegFileParser& parser) { recorder.Reading(parser); };
+        const bool read = Parse(input, source, options.codePage, recorder, begin, error);
+        m_view32 = options.view32 && m_has32;
+        return read;
+    }
+
+    bool Visit(RegFileVisitor& visitor, Error& error) const
+    {
+        View32Visitor redirecting(visitor);
+        RegFileVisitor& target = m_view32 ? redirecting : visitor;
+        std::size_t line = 0;
+        std::wstring text;
+        for (const auto& chunk : m_chunks) {
+            for (std::string_view rest = chunk; !rest.empty();) {
+                const auto head = static_cast<unsigned char>(rest.front());
+                rest.remove_prefix(1);
+                line += Number(rest);
+                text.clear();
+                AppendWideFromGeneralizedUtf8(Bytes(rest), text);
+                if (!Tell(target, head, text, rest, error)) {
+                    error.message = m_source + ':' + std::to_string(line) + ": " + error.message;
+                    return false;
+                }
+            }
+        }
+        return true;
+    }
+
+  private:
+    static std::size_t Number(std::string_view& rest)
+    {
+        std::size_t number = 0;
+        for (unsigned shift = 0;; shift += 7) {
+            const auto byte = static_cast<unsigned char>(rest.front());
+            rest.remove_prefix(1);
+            number |= std::size_t{byte & 0x7FU} << shift;
+            if (byte < 0x80) {
+                return number;
+            }
+        }
+    }
+
+    static std::string_view Bytes(std::string_view& rest)
+    {
+        const auto size = Number(rest);
+        const auto bytes = rest.substr(0, size);
+        rest.remove_prefix(size);
+        return bytes;
+    }
+
+    static bool Tell(RegFileVisitor& visitor, unsigned head, std::wstring_view text, std::string_view& rest,
+                     Error& error)
+    {
+        const auto hive = static_cast<Hive>(head >> 4);
+        switch (static_cast<Statement>(head & 0xF)) {
+        case Statement::Key:
+            return visitor.Key(hive, text, error);
+        case Statement::DeleteKey:
+            return visitor.DeleteKey(hive, text, error);
+        case Statement::Value: {
+            const auto type = static_cast<ValueType>(Number(rest));
+            const auto data = Bytes(rest);
+            return visitor.Value(text, {type, std::as_bytes(std::span(data.data(), data.size()))}, error);
+        }
+        case Statement::DeleteValue:
+            break;
+        }
+        return visitor.DeleteValue(text, error);
+    }
+
+    std::string m_source;
+    std::vector<std::string> m_chunks;
+    bool m_has32 = false;
+    bool m_view32 = false;
+};
+
+RegFileContent::RegFileContent() : m_impl(std::make_unique<Impl>()) {}
+
+RegFileContent::~RegFileContent() = default;
+
+bool RegFileContent::Read(std::istream& input, const std::string& source, const RegFileOptions& options, Error& error)
+{
+    return m_impl->Read(input, source, options, error);
+}
+
+bool RegFileContent::Read(const std::string& path, const RegFileOptions& options, Error& error)
+{
+    std::ifstream input;
+    return OpenFile(path, input, error) && m_impl->Read(input, path, options, error);
+}
+
+bool RegFileContent::Visit(RegFileVisitor& visitor, Error& error) const
+{
+    return m_impl->Visit(visitor, error);
+}
+
+RegFileWriter::RegFileWriter(Transaction& transaction, ImportCounts& counts)
+    : m_transaction(transaction), m_counts(counts)
+{}
+
+bool RegFileWriter::Key(Hive hive, std::wstring_view path, Error& error)
+{
+    Close();
+    ++m_counts.keys;
+    m_isOpen = Done(m_transaction.CreateKey(hive, path, m_key), error);
+    return m_isOpen;
+}
+
+bool RegFileWriter::DeleteKey(Hive hive, std::wstring_view path, Error& error)
+{
+    Close();
+    ++m_counts.deletions;
+    return Done(m_transaction.DeleteKey(hive, path), error);
+}
+
+bool RegFileWriter::Value(std::wstring_view name, const ValueView& value, Error& error)
+{
+    ++m_counts.values;
+    return Done(m_transaction.SetValue(m_key, name, value), error);
+}
+
+bool RegFileWriter::DeleteValue(std::wstring_view name, Error& error)
+{
+    ++m_counts.deletions;
+    return Done(m_transaction.DeleteValue(m_key, name), error);
+}
+
+// Deleting what is not there is no failure.
+bool RegFileWriter::Done(Outcome outcome, Error& error)
+{
+    if (outcome == Outcome::Failed) {
+        error = m_transaction.LastError();
+    }
+    return outcome != Outcome::Failed;
+}
+
+void RegFileWriter::Close()
+{
+    if (m_isOpen) {
+        m_transaction.CloseKey(m_key);
+        m_isOpen = false;
+    }
+}
+
+bool ReadRegFile(const std::string& path, unsigned codePage, RegFileVisitor& visitor, Error& error)
+{
+    std::ifstream input;
+    return OpenFile(path, input, error) && Parse(
+                                               input, path, codePage, visitor, [](const RegFileParser&) {}, error);
+}
+
+bool ImportRegFile(Store& store, const RegFileContent& content, ImportCounts& counts, Error& error)
+{
+    const auto transaction = store.Begin(Access::Write, error);
+    if (!transaction) {
+        return false;
+    }
+    ImportCounts imported;
+    RegFileWriter writer(*transaction, imported);
+    if (!content.Visit(writer, error)) {
+        return false;
+    }
+    if (transaction->Commit(true) != Outcome::Found) {
+        error = transaction->LastError();
+        return false;
+    }
+    counts.keys += imported.keys;
+    counts.values += imported.values;
+    counts.deletions += imported.deletions;
+    return true;
+}
+
+bool ImportRegFile(Store& store, std::istream& input, const std::string& source, ImportCounts& counts, Error& error,
+                   const RegFileOptions& options)
+{
+    RegFileContent content;
+    return content.Read(input, source, options, error) && ImportRegFile(store, content, counts, error);
+}
+
+bool ImportRegFile(Store& store, const std::string& path, ImportCounts& counts, Error& error,
+                   const RegFileOptions& options)
+{
+    RegFileContent content;
+    return content.Read(path, options, error) && ImportRegFile(store, content, counts, error);
+}
+
+} // namespace wqspcfg
