@@ -5,11 +5,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <thread>
 
 namespace wqspcfg::tools {
 
@@ -46,7 +50,7 @@ class CommandLineTest : public test::ConfigTest
         std::istringstream in(input);
         std::ostringstream out;
         std::ostringstream err;
-        const int status = tools::Run(arguments, in, out, err);
+        const int status = tools::Run(arguments, in, out, err, m_outIsTerminal);
         m_out = out.str();
         m_err = err.str();
         ResetProcess();
@@ -66,6 +70,7 @@ class CommandLineTest : public test::ConfigTest
     }
 
     std::filesystem::path m_directory;
+    bool m_outIsTerminal = false;
     std::string m_out;
     std::string m_err;
 };
@@ -95,6 +100,73 @@ TEST_F(CommandLineTest, WrongUsageIsStatus2)
     }
     EXPECT_EQ(Run({"--help"}), 0);
     EXPECT_NE(m_out.find("Exit status"), std::string::npos);
+}
+
+TEST_F(CommandLineTest, MistakesAreNamedWithWhatWasMeant)
+{
+    const std::pair<std::vector<std::string>, const char*> mistakes[] = {
+        {{"improt"}, "unknown command \"improt\"; did you mean \"import\"?"},
+        {{"lods", "x"}, "unknown command \"lods\"; did you mean \"load\"?"},
+        {{"help", "serivces"}, "unknown command \"serivces\"; did you mean \"services\"?"},
+        {{"-v"}, "unknown option -v"},
+        {{}, "no command is given"},
+        {{"get", "HKLM\\a"}, "NAME is required; see `wqspcfg help get`"},
+        {{"load", "x", "--model", "CNone"}, "there is no class \"CNone\""},
+        {{"reference", "CNone"}, "there is no class \"CNone\""},
+        {{"models", "--view32"}, "--view32 does not apply to models"},
+        {{"ls", "--view32"}, "--view32 applies to import and to reg: and windows: stores"},
+        {{"ls", "--codepage", "936"}, "--codepage applies to import and to reg: stores"},
+        {{"import", "x", "--codepage", "1200"}, "code page 1200 is not known"},
+        {{"ls", "a\x1b[2J\n"}, "invalid key \"a<U+001B>[2J<U+000A>\""},
+    };
+    for (const auto& [arguments, message] : mistakes) {
+        EXPECT_EQ(RunOn("memory:", arguments), 2) << message;
+        EXPECT_NE(m_err.find(message), std::string::npos) << m_err;
+        EXPECT_EQ(m_out, "");
+    }
+    EXPECT_EQ(RunOn("", {"ls"}), 2);
+    EXPECT_NE(m_err.find("--store is given an empty address"), std::string::npos) << m_err;
+
+    // Options may stand behind the command.
+    EXPECT_EQ(RunOn("nonsense", {"ls", "--store", "memory:"}), 2) << "two stores";
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream err;
+    EXPECT_EQ(tools::Run({"ls", "--store", "memory:"}, in, out, err), 0) << err.str();
+}
+
+// Each command has its help, and the manual page and the completion know all of them.
+TEST_F(CommandLineTest, HelpComesFromOneDeclaration)
+{
+    ASSERT_EQ(Run({"--help"}), 0);
+    std::istringstream help(m_out.substr(m_out.find("Commands:")));
+    ASSERT_EQ(Run({"help", "--man"}), 0);
+    const auto man = m_out;
+    ASSERT_EQ(Run({"help", "--completion"}), 0);
+    const auto completion = m_out;
+    std::ifstream file(std::filesystem::path(WQSPCFG_SOURCE_DIR) / "README.md");
+    const std::string readme(std::istreambuf_iterator<char>(file), {});
+    std::string line;
+    std::getline(help, line);
+    int commands = 0;
+    while (std::getline(help, line) && !line.empty()) {
+        const auto name = line.substr(2, line.find(' ', 2) - 2);
+        EXPECT_NE(man.find("\n.SS " + name), std::string::npos) << name;
+        EXPECT_NE(completion.find("\n    " + name + ") words="), std::string::npos) << name;
+        EXPECT_NE(readme.find("\n      " + name + ' '), std::string::npos) << name;
+        ASSERT_EQ(Run({"help", name}), 0);
+        EXPECT_NE(m_out.find("Usage: wqspcfg " + name), std::string::npos) << m_out;
+        // Its own options are in the manual page and in the README.
+        for (std::size_t at = 0; (at = m_out.find("\n  --", at)) != std::string::npos; ++at) {
+            const auto option = m_out.substr(at + 3, m_out.find_first_of(" ,\n", at + 3) - at - 3);
+            EXPECT_NE(completion.find(option), std::string::npos) << option;
+            if (name != "help" && option != "--pages") {
+                EXPECT_NE(readme.find(option), std::string::npos) << option;
+            }
+        }
+        ++commands;
+    }
+    EXPECT_GE(commands, 14);
 }
 
 TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsStatus3AndIsNamed)
@@ -137,13 +209,28 @@ TEST_F(CommandLineTest, ValuesAreSetShownAndDeleted)
     EXPECT_EQ(Run({"set", "HKLM\\Software\\Vexo\\Sub", "\xe5\x90\x8d", "\xe5\x80\xbc"}), 0);
     EXPECT_EQ(Run({"ls", "HKLM\\Software\\Vexo"}), 0);
     EXPECT_EQ(m_out, "Sub\\\n(default)\tREG_SZ\t-5\nCount\tREG_DWORD\t16\nId\tREG_SZ\t8\nText\tREG_SZ\t\n");
+    EXPECT_EQ(Run({"ls", "-R", "HKLM"}), 0);
+    EXPECT_EQ(m_out, "Software\\\nSoftware\\Vexo\\\nSoftware\\Vexo\\(default)\tREG_SZ\t-5\n"
+                     "Software\\Vexo\\Count\tREG_DWORD\t16\nSoftware\\Vexo\\Id\tREG_SZ\t8\n"
+                     "Software\\Vexo\\Text\tREG_SZ\t\nSoftware\\Vexo\\Sub\\\n"
+                     "Software\\Vexo\\Sub\\\xe5\x90\x8d\tREG_SZ\t\xe5\x80\xbc\n");
     EXPECT_EQ(Run({"ls"}), 0);
     EXPECT_EQ(m_out, "HKEY_LOCAL_MACHINE\\\n");
 
     EXPECT_EQ(Run({"delete", "HKLM\\Software\\Vexo", "Count"}), 0);
     EXPECT_EQ(Run({"get", "HKLM\\Software\\Vexo", "Count"}), 1);
+    EXPECT_NE(m_err.find("the key HKLM\\Software\\Vexo has no value \"Count\""), std::string::npos) << m_err;
+    EXPECT_EQ(Run({"get", "HKLM\\Software\\Vexx", "Count"}), 1);
+    EXPECT_NE(m_err.find("there is no key HKLM\\Software\\Vexx"), std::string::npos) << m_err;
     EXPECT_EQ(Run({"delete", "HKLM\\Software\\Vexo", "Count"}), 1);
-    EXPECT_EQ(Run({"delete", "HKLM\\Software\\Vexo"}), 0);
+    EXPECT_EQ(Run({"delete", "HKLM\\Software\\Vexo"}), 2);
+    EXPECT_NE(m_err.find("has 1 key below it; give --recursive"), std::string::npos) << m_err;
+    EXPECT_EQ(Run({"delete", "HKLM\\Software\\Vexo\\Sub", "--dry-run"}), 0);
+    EXPECT_EQ(m_out, "- HKEY_LOCAL_MACHINE\\Software\\Vexo\\Sub\\\n"
+                     "- HKEY_LOCAL_MACHINE\\Software\\Vexo\\Sub\t\xe5\x90\x8d\tREG_SZ \"\xe5\x80\xbc\"\n");
+    EXPECT_EQ(m_err, "0 to add, 0 to change, 2 to delete\n");
+    EXPECT_EQ(Run({"delete", "HKLM\\Software\\Vexo", "--recursive"}), 0);
+    EXPECT_EQ(m_err, "deleted 2 keys, 4 values\n");
     EXPECT_EQ(Run({"delete", "HKLM\\Software\\Vexo"}), 1);
     EXPECT_EQ(Run({"ls", "HKLM\\Software\\Vexo"}), 1);
     EXPECT_EQ(Run({"export", "HKLM\\Software\\Vexo"}), 1);
@@ -253,7 +340,7 @@ TEST_F(CommandLineTest, SavingWritesWhatWasLoaded)
 }
 
 // What it writes on the way goes nowhere, and the rest of it reads that.
-TEST_F(CommandLineTest, ALoadThatWritesLeavesAReadOnlyStoreAlone)
+TEST_F(CommandLineTest, ALoadChangesTheStoreOnRequestOnly)
 {
     MakeTerminal();
     const auto* const device = "HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200";
@@ -264,11 +351,196 @@ TEST_F(CommandLineTest, ALoadThatWritesLeavesAReadOnlyStoreAlone)
     ASSERT_EQ(Run({"load", "Svc", "--model", "CPINRegInfo"}), 0) << m_err;
     const auto lines = m_out;
     EXPECT_NE(lines.find(" ForceUseSM : 01["), std::string::npos) << lines;
+    EXPECT_EQ(Run({"get", device, "ForceUseSM"}), 1);
+    ASSERT_EQ(Run({"load", "Svc", "--model", "CPINRegInfo", "--write-back"}), 0) << m_err;
+    EXPECT_EQ(m_out, lines);
     ASSERT_EQ(Run({"get", device, "ForceUseSM"}), 0);
     EXPECT_EQ(m_out, "1\n");
+    EXPECT_EQ(RunOn("reg:" + File("terminal.reg"), {"load", "Svc", "--model", "CPINRegInfo", "--write-back"}), 3);
     ASSERT_EQ(RunOn("reg:" + File("terminal.reg"), {"load", "Svc", "--model", "CPINRegInfo"}), 0) << m_err;
     EXPECT_EQ(m_out, lines);
     EXPECT_EQ(RunOn("reg:" + File("terminal.reg"), {"get", device, "ForceUseSM"}), 1);
+}
+
+TEST_F(CommandLineTest, StoredTextForgesNoLineAndReachesNoTerminal)
+{
+    MakeTerminal();
+    const std::string hostile = "a\n[CFG] Port : 9\tx\r\n\x1b[2J\xe2\x80\xae"
+                                "end";
+    const std::string shown = "a<U+000A>[CFG] Port : 9<U+0009>x<U+000D><U+000A><U+001B>[2J<U+202E>end";
+    ASSERT_EQ(Run({"set", kComm, "BaudRate", hostile, "--type", "sz"}), 0) << m_err;
+    ASSERT_EQ(Run({"set", "HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Phys", "VendorName", hostile}), 0);
+    ASSERT_EQ(Run({"set", kLogical, "Class", hostile}), 0);
+
+    ASSERT_EQ(Run({"ls", kComm}), 0);
+    EXPECT_EQ(m_out, "BaudRate\tREG_SZ\t" + shown + '\n');
+    ASSERT_EQ(Run({"services"}), 0);
+    EXPECT_EQ(std::count(m_out.begin(), m_out.end(), '\n'), 2);
+    EXPECT_NE(m_out.find("\t" + shown + "\t"), std::string::npos) << m_out;
+    EXPECT_EQ(Run({"load", "Svc", "--model", "CCRDRegInfo"}), 0);
+    EXPECT_NE(m_err.find(shown), std::string::npos) << m_err;
+    EXPECT_EQ((m_out + m_err).find('\x1b'), std::string::npos);
+    ASSERT_EQ(Run({"set", kComm, "RetainBinErr\x1b", "1"}), 0);
+    EXPECT_EQ(Run({"get", kComm, "none\x1b[2J"}), 1);
+    EXPECT_NE(m_err.find("none<U+001B>[2J"), std::string::npos) << m_err;
+
+    // A pipe gets the text as it stands, a terminal what a person may see.
+    ASSERT_EQ(Run({"get", kComm, "BaudRate"}), 0);
+    EXPECT_EQ(m_out, hostile + '\n');
+    m_outIsTerminal = true;
+    ASSERT_EQ(Run({"get", kComm, "BaudRate"}), 0);
+    EXPECT_EQ(m_out, shown + '\n');
+    m_outIsTerminal = false;
+
+    // In a line of the log.
+    const auto* const device = "HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Control";
+    ASSERT_EQ(Run({"set", device, "LogicalNameOfIDCReader", hostile}), 0);
+    ASSERT_EQ(Run({"load", "Svc"}), 0) << m_err;
+    EXPECT_NE(m_out.find(" : " + shown + '['), std::string::npos) << m_out;
+    EXPECT_EQ(m_out.find("\n[CFG] Port : 9"), std::string::npos);
+}
+
+TEST_F(CommandLineTest, ADryRunTellsAllAndChangesNothing)
+{
+    MakeTerminal();
+    ASSERT_EQ(Run({"set", kComm, "Port", "4", "--type", "sz"}), 0);
+    ASSERT_EQ(Run({"export"}), 0);
+    const auto before = m_out;
+    const auto unchanged = [&] { return Run({"export"}) == 0 && m_out == before; };
+
+    ASSERT_EQ(Run({"save", "Svc", "--dry-run"}), 0) << m_err;
+    const std::string comm = "HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm";
+    EXPECT_NE(m_out.find("~ " + comm + "\tPort\tREG_SZ \"4\" -> REG_DWORD 1\n"), std::string::npos) << m_out;
+    EXPECT_EQ(m_out.find("BaudRate"), std::string::npos) << "saved as it stands";
+    EXPECT_NE(m_out.find("\\Control\\\n"), std::string::npos) << m_out;
+    EXPECT_NE(m_err.find(" to add, 1 to change, 0 to delete"), std::string::npos) << m_err;
+    EXPECT_TRUE(unchanged());
+    // What it told is what is done.
+    const auto told = std::count(m_out.begin(), m_out.end(), '\n');
+    EXPECT_GT(told, 0);
+
+    const std::string file = "REGEDIT4\n[" + comm + "]\n\"baudrate\"=dword:00000001\n\"Port\"=-\n\"None\"=-\n" +
+                             "[-HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS]\n[-HKLM\\None]\n[HKLM\\New\\Sub]\n@=\"\"\n";
+    ASSERT_EQ(Run({"import", "--dry-run", "-"}, file), 0) << m_err;
+    EXPECT_EQ(m_out, "+ HKEY_LOCAL_MACHINE\\New\\\n+ HKEY_LOCAL_MACHINE\\New\\Sub\\\n"
+                     "+ HKEY_LOCAL_MACHINE\\New\\Sub\t(default)\tREG_SZ \"\"\n~ " +
+                         comm + "\tBaudRate\tREG_DWORD 38400 -> REG_DWORD 1\n- " + comm +
+                         "\tPort\tREG_SZ \"4\"\n- HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\\n"
+                         "- HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Phys\\\n"
+                         "- HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Phys\tExecutable\tREG_SZ "
+                         "\"WQSpCRDWQTYM1200.exe\"\n");
+    EXPECT_EQ(m_err, "3 to add, 1 to change, 4 to delete\n");
+    EXPECT_TRUE(unchanged());
+    EXPECT_EQ(Run({"import", "--dry-run", "-"}, "REGEDIT4\nx\n"), 3);
+
+    ASSERT_EQ(Run({"backup", File("b")}), 0);
+    ASSERT_EQ(Run({"set", kComm, "Port", "5"}), 0);
+    ASSERT_EQ(Run({"set", "HKLM\\More", "x", "1"}), 0);
+    ASSERT_EQ(Run({"restore", "--dry-run", File("b")}), 0) << m_err;
+    EXPECT_EQ(m_out, "- HKEY_LOCAL_MACHINE\\More\\\n- HKEY_LOCAL_MACHINE\\More\tx\tREG_DWORD 1\n~ " + comm +
+                         "\tPort\tREG_SZ \"5\" -> REG_SZ \"4\"\n");
+    ASSERT_EQ(Run({"get", kComm, "Port"}), 0);
+    EXPECT_EQ(m_out, "5\n");
+
+    // A store that is not there yet is not made.
+    ASSERT_EQ(RunOn("lmdb:" + File("none"), {"import", "--dry-run", "-"}, "REGEDIT4\n[HKLM\\a]\n"), 0) << m_err;
+    EXPECT_EQ(m_out, "+ HKEY_LOCAL_MACHINE\\a\\\n");
+    EXPECT_FALSE(std::filesystem::exists(File("none")));
+}
+
+TEST_F(CommandLineTest, AStoreThatIsMadeIsNamed)
+{
+    ASSERT_EQ(Run({"import", "-"}, "REGEDIT4\n[HKLM\\a]\n\"x\"=dword:1\n"), 0) << m_err;
+    EXPECT_EQ(m_err, "wqspcfg: created the store " + StoreAddress() + "\nstandard input: 1 key, 1 value\n");
+    ASSERT_EQ(Run({"import", "-"}, "REGEDIT4\n[HKLM\\a]\n\"x\"=-\n\"y\"=-\n"), 0) << m_err;
+    EXPECT_EQ(m_err, "standard input: 1 key, 0 values, 2 deletions\n");
+    ASSERT_EQ(Run({"backup", File("b")}), 0) << m_err;
+    ASSERT_EQ(RunOn("lmdb:" + File("other"), {"restore", File("b")}), 0);
+    EXPECT_NE(m_err.find("created the store lmdb:" + File("other")), std::string::npos) << m_err;
+    ASSERT_EQ(RunOn("lmdb:" + File("third"), {"set", "HKLM\\a", "x", "1"}), 0);
+    EXPECT_NE(m_err.find("created the store lmdb:" + File("third")), std::string::npos) << m_err;
+    // Of an import that fails, nothing is left.
+    EXPECT_EQ(RunOn("lmdb:" + File("fourth"), {"import", "-", File("none.reg")}, "REGEDIT4\n[HKLM\\a]\n"), 3);
+    EXPECT_FALSE(std::filesystem::exists(File("fourth")));
+}
+
+TEST_F(CommandLineTest, TheKeysOf32BitProgramsAreReadOnRequest)
+{
+    MakeTerminal();
+    ASSERT_EQ(Run({"export", "--utf8", "-o", File("t.reg")}), 0);
+    std::ifstream written(File("t.reg"), std::ios::binary);
+    std::string text(std::istreambuf_iterator<char>(written), {});
+    for (std::size_t at = 0; (at = text.find("SOFTWARE\\XFS", at)) != std::string::npos; at += 20) {
+        text.insert(at + 9, "WOW6432Node\\");
+    }
+    std::ofstream(File("t32.reg"), std::ios::binary) << text;
+    const auto file = "reg:" + File("t32.reg");
+    EXPECT_EQ(RunOn(file, {"load", "Svc"}), 3);
+    EXPECT_NE(m_err.find("--view32"), std::string::npos) << m_err;
+    EXPECT_EQ(RunOn(file, {"load", "Svc", "--view32"}), 0) << m_err;
+    EXPECT_NE(m_out.find("BaudRate : 38400["), std::string::npos) << m_out;
+
+    const auto plain = "lmdb:" + File("plain");
+    ASSERT_EQ(RunOn(plain, {"import", File("t32.reg")}), 0) << m_err;
+    for (const auto* command : {"load", "save"}) {
+        EXPECT_EQ(RunOn(plain, {command, "Svc"}), 3);
+        EXPECT_NE(m_err.find("import --view32"), std::string::npos) << m_err;
+    }
+    EXPECT_EQ(RunOn(plain, {"services"}), 3);
+    EXPECT_EQ(RunOn(plain, {"get", kComm, "BaudRate"}), 1);
+    ASSERT_EQ(RunOn(plain, {"import", "--view32", File("t32.reg")}), 0) << m_err;
+    EXPECT_EQ(RunOn(plain, {"get", kComm, "BaudRate"}), 0);
+    EXPECT_EQ(RunOn(plain, {"load", "Svc"}), 0) << m_err;
+}
+
+TEST_F(CommandLineTest, AModelThatContradictsTheServiceIsLoadedWithAWarning)
+{
+    MakeTerminal();
+    ASSERT_EQ(Run({"load", "Svc", "--model", "CSpPTRRID100RegInfo"}), 0);
+    EXPECT_NE(m_err.find("device class PTR, and the class value of the service is \"CRD\""), std::string::npos)
+        << m_err;
+    ASSERT_EQ(Run({"load", "Svc", "--model", "CSpCRDWQTYM1200RegInfo"}), 0);
+    EXPECT_EQ(m_err, "");
+    ASSERT_EQ(Run({"load", "Svc", "--model", "CRegInfo"}), 0);
+    EXPECT_EQ(m_err, "");
+}
+
+// Another process sets values while this one saves: none of them is undone.
+TEST_F(CommandLineTest, ASaveUndoesNoWriteOfAnother)
+{
+    MakeTerminal();
+    ASSERT_EQ(Run({"save", "Svc"}), 0) << m_err;
+    std::atomic<int> acknowledged = 0;
+    std::atomic<bool> done = false;
+    int undone = 0;
+    std::thread other([&] {
+        // A transaction of its own for each, as another process has it.
+        Error error;
+        const auto store = OpenStore(StoreAddress(), {}, error);
+        for (unsigned i = 1; i <= 60; ++i) {
+            const auto writing = store->Begin(Access::Write, error);
+            KeyId key = 0;
+            const std::wstring path(L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm");
+            ValueView value;
+            if (writing->OpenKey(Hive::LocalMachine, path, key) == Outcome::Found && i > 1 &&
+                (writing->Query(key, L"Port", value) != Outcome::Found ||
+                 std::to_integer<unsigned>(value.data[0]) != i - 1)) {
+                ++undone;
+            }
+            writing->SetValue(key, L"Port",
+                              {ValueType::Dword, std::array{std::byte(i), std::byte{}, std::byte{}, std::byte{}}});
+            if (writing->Commit(true) != Outcome::Found) {
+                ++undone;
+            }
+            ++acknowledged;
+        }
+        done = true;
+    });
+    while (!done) {
+        EXPECT_EQ(Run({"save", "Svc"}), 0) << m_err;
+    }
+    other.join();
+    EXPECT_EQ(undone, 0) << "of " << acknowledged;
 }
 
 TEST_F(CommandLineTest, EveryServiceOfTheExampleTerminalIsLoadedByItsModel)

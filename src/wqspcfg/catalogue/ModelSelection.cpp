@@ -5,6 +5,7 @@
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 
+#include <algorithm>
 #include <array>
 
 namespace wqspcfg {
@@ -76,17 +77,98 @@ const ClassEntry* ClassBase(const std::wstring& deviceClass)
     return nullptr;
 }
 
-struct Candidate
+// A name that the service has in the registry.
+struct Name
 {
     const wchar_t* what;
-    const std::wstring* name;
+    const std::wstring* text;
     std::wstring stem;
 };
 
-std::wstring Reason(const Candidate& candidate, const wchar_t* verb)
+struct Model
 {
-    return std::wstring(candidate.what) + L" \"" + *candidate.name + L"\" " + verb;
+    const ClassEntry* entry;
+    std::wstring stem;
+    bool fits; // the class value does not speak against it
+};
+
+bool Fits(const ClassEntry& entry, const std::wstring& stem, const std::wstring& xfsClass)
+{
+    const auto deviceClass = DeviceClassFor(xfsClass);
+    const auto* own = DeviceClassOf(entry.table());
+    return deviceClass.empty() || (own != nullptr && deviceClass == own) || stem.starts_with(UpCase(xfsClass));
 }
+
+using Models = std::vector<Model>;
+
+Models AllModels(const std::wstring& xfsClass)
+{
+    Models models;
+    for (const auto* each : AllClasses()) {
+        if (IsModel(*each)) {
+            auto stem = StemOf(*each);
+            const bool fits = Fits(*each, stem, xfsClass);
+            models.push_back({each, std::move(stem), fits});
+        }
+    }
+    return models;
+}
+
+// One way to tell the model from a name: null where it does not.
+struct Matcher
+{
+    const Model* (*find)(const Models& models, const std::wstring& stem, const std::wstring& deviceClass);
+    const wchar_t* reason;
+};
+
+const Model* FindEqual(const Models& models, const std::wstring& stem, const std::wstring&)
+{
+    const auto found =
+        std::find_if(models.begin(), models.end(), [&](const Model& model) { return model.stem == stem; });
+    return found != models.end() ? &*found : nullptr;
+}
+
+const Model* FindWithinClass(const Models& models, const std::wstring& stem, const std::wstring& deviceClass)
+{
+    const auto found = std::find_if(models.begin(), models.end(), [&](const Model& model) {
+        return model.fits && !stem.empty() && model.stem == deviceClass + stem;
+    });
+    return found != models.end() ? &*found : nullptr;
+}
+
+const Model* FindLongestPart(const Models& models, const std::wstring& stem, const std::wstring&)
+{
+    const Model* longest = nullptr;
+    for (const auto& model : models) {
+        if (model.fits && model.stem.size() >= kShortestPart && stem.find(model.stem) != std::wstring::npos &&
+            (longest == nullptr || longest->stem.size() < model.stem.size())) {
+            longest = &model;
+        }
+    }
+    return longest;
+}
+
+const Model* FindOnlyWhole(const Models& models, const std::wstring& stem, const std::wstring&)
+{
+    const Model* only = nullptr;
+    for (const auto& model : models) {
+        if (model.fits && stem.size() >= kShortestPart && model.stem.find(stem) != std::wstring::npos) {
+            if (only != nullptr) {
+                return nullptr;
+            }
+            only = &model;
+        }
+    }
+    return only;
+}
+
+// The surest first.
+constexpr Matcher kMatchers[] = {
+    {FindEqual, L"is the model's name"},
+    {FindWithinClass, L"is the model's name within its class"},
+    {FindLongestPart, L"holds the model's name"},
+    {FindOnlyWhole, L"is part of this model's name only"},
+};
 
 } // namespace
 
@@ -120,77 +202,36 @@ ServiceIdentity IdentifyService(const CString& strName, bool bPhysicalName)
 
 ModelSelection SelectModel(const ServiceIdentity& service)
 {
-    const std::array<Candidate, 5> candidates{{{L"device key name", &service.deviceKey, Stem(service.deviceKey)},
-                                               {L"executable", &service.executable, Stem(service.executable)},
-                                               {L"module", &service.module, Stem(service.module)},
-                                               {L"class module", &service.classModule, Stem(service.classModule)},
-                                               {L"physical name", &service.physicalName, Stem(service.physicalName)}}};
+    const std::array<Name, 5> names{{{L"device key name", &service.deviceKey, Stem(service.deviceKey)},
+                                     {L"executable", &service.executable, Stem(service.executable)},
+                                     {L"module", &service.module, Stem(service.module)},
+                                     {L"class module", &service.classModule, Stem(service.classModule)},
+                                     {L"physical name", &service.physicalName, Stem(service.physicalName)}}};
     const auto deviceClass = DeviceClassFor(service.xfsClass);
-
-    struct Model
-    {
-        const ClassEntry* entry;
-        std::wstring stem;
-        bool fits; // the class value does not speak against it
-    };
-    std::vector<Model> models;
-    for (const auto* each : AllClasses()) {
-        if (IsModel(*each)) {
-            const auto* own = DeviceClassOf(each->table());
-            auto stem = StemOf(*each);
-            const bool fits = deviceClass.empty() || (own != nullptr && deviceClass == own) ||
-                              stem.starts_with(UpCase(service.xfsClass));
-            models.push_back({each, std::move(stem), fits});
-        }
-    }
-
-    for (const auto& candidate : candidates) {
-        for (const auto& model : models) {
-            if (model.stem == candidate.stem) {
-                return {model.entry, Reason(candidate, L"is the model's name")};
+    const auto models = AllModels(service.xfsClass);
+    for (const auto& matcher : kMatchers) {
+        for (const auto& name : names) {
+            if (const auto* model = matcher.find(models, name.stem, deviceClass)) {
+                return {model->entry, std::wstring(name.what) + L" \"" + *name.text + L"\" " + matcher.reason};
             }
-        }
-    }
-    for (const auto& candidate : candidates) {
-        for (const auto& model : models) {
-            if (model.fits && !candidate.stem.empty() && model.stem == deviceClass + candidate.stem) {
-                return {model.entry, Reason(candidate, L"is the model's name within its class")};
-            }
-        }
-    }
-    for (const auto& candidate : candidates) {
-        const Model* longest = nullptr;
-        for (const auto& model : models) {
-            if (model.fits && model.stem.size() >= kShortestPart &&
-                candidate.stem.find(model.stem) != std::wstring::npos &&
-                (longest == nullptr || longest->stem.size() < model.stem.size())) {
-                longest = &model;
-            }
-        }
-        if (longest != nullptr) {
-            return {longest->entry, Reason(candidate, L"holds the model's name")};
-        }
-    }
-    for (const auto& candidate : candidates) {
-        const Model* only = nullptr;
-        unsigned count = 0;
-        for (const auto& model : models) {
-            if (model.fits && candidate.stem.size() >= kShortestPart &&
-                model.stem.find(candidate.stem) != std::wstring::npos) {
-                only = &model;
-                ++count;
-            }
-        }
-        if (count == 1) {
-            return {only->entry, Reason(candidate, L"is part of this model's name only")};
         }
     }
     if (const auto* base = ClassBase(deviceClass)) {
-        return {base, L"class base of class value \"" + service.xfsClass + L"\"; no name of the service tells a model"};
+        return {base, L"class base of class value \"" + service.xfsClass + L"\"; no model matches the service's names"};
     }
     return {FindClass(L"CRegInfo"), service.xfsClass.empty()
                                         ? L"the service has no class value"
                                         : L"class value \"" + service.xfsClass + L"\" has no class base"};
+}
+
+std::wstring ContradictionOf(const ServiceIdentity& service, const ClassEntry& entry)
+{
+    const auto* own = DeviceClassOf(entry.table());
+    if (own == nullptr || Fits(entry, StemOf(entry), service.xfsClass)) {
+        return {};
+    }
+    return std::wstring(entry.table().className) + L" is a class of device class " + own +
+           L", and the class value of the service is \"" + service.xfsClass + L'"';
 }
 
 } // namespace wqspcfg

@@ -27,12 +27,15 @@ WQSPCFG_API ServiceIdentity IdentifyService(const CString& strName, bool bPhysic
 struct ModelSelection
 {
     const ClassEntry* entry; // never null
-    std::wstring reason;     // for a person: what told it
+    std::wstring reason;     // for a person: which name or value decided
 };
 
 // A model whose name one of the service's names equals, then one whose name is part of it or that it is part of, and
 // else the class base of the class value. Names compare without regard to case and without "WQSp" or "Sp" before them.
 // A service of no known class gets CRegInfo.
 WQSPCFG_API ModelSelection SelectModel(const ServiceIdentity& service);
+
+// For a person: how the service's class value contradicts the class. Empty where it does not.
+WQSPCFG_API std::wstring ContradictionOf(const ServiceIdentity& service, const ClassEntry& entry);
 
 } // namespace wqspcfg

@@ -1,20 +1,26 @@
 #include "wqspcfg/tools/CommandLine.h"
 
+#include "wqspcfg/tools/HelpText.h"
+#include "wqspcfg/tools/Nearest.h"
 #include "wqspcfg/tools/ReferenceText.h"
 #include "wqspcfg/tools/ServiceCommands.h"
 #include "wqspcfg/tools/StoreCommands.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <memory>
 
 namespace wqspcfg::tools {
 
 namespace {
 
-constexpr char kKeyHelp[] = "A path with its hive, such as HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS";
+constexpr char kKeyHelp[] = "A path that begins with its hive, such as HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS";
+constexpr char kNameHelp[] = "The value name; an empty one is the key's default value";
+constexpr char kDryRunHelp[] = "Print what would be added (+), changed (~) and deleted (-), and change nothing";
 
 int WritePages(const std::string& directory, const Console& console)
 {
@@ -26,167 +32,438 @@ int WritePages(const std::string& directory, const Console& console)
         file << text;
         file.close();
         if (!file) {
-            return console.Fail(kFailed, directory + "/" + name + ": cannot be written");
+            return console.Fail(kFailed, "cannot write " + directory + "/" + name);
         }
     }
     return kDone;
 }
 
-int Execute(std::vector<std::string> arguments, const Console& console)
+// Whether a command opens a store; the options that tell how are wrong usage elsewhere.
+enum class Uses
 {
-    CLI::App app("Settings of XFS service providers: shows, changes, imports and exports them, and loads them as a "
-                 "service provider does.",
-                 "wqspcfg");
-    app.set_version_flag("--version", std::string("wqspcfg ") + WQSPCFG_VERSION);
-    app.require_subcommand(1);
-    app.allow_windows_style_options(false); // "/x" may be a path or data
-    app.failure_message(CLI::FailureMessage::help);
-    app.footer("Exit status: 0 done; 1 a negative answer; 2 wrong usage; 3 the store or a file failed.");
+    Store,
+    Nothing,
+};
 
-    StoreChoice store;
-    app.add_option(
-        "--store", store.address,
-        "lmdb:DIRECTORY, reg:FILE, memory:, windows:, windows:32 or windows:64; else $WQSPCFG_STORE, else the "
-        "platform's own store");
-    app.add_flag("--view32", store.view32,
-                 "See the keys of 32-bit programs: a reg: store's SOFTWARE\\WOW6432Node\\XFS as SOFTWARE\\XFS");
+// The command line: a function for each command declares it. What its options are stored in belongs to the command.
+class Program
+{
+  public:
+    explicit Program(const Console& console);
 
-    std::function<int()> command;
-    const auto add = [&](const char* name, const char* description, std::function<int()> run) {
-        auto* sub = app.add_subcommand(name, description);
-        sub->callback([&command, run = std::move(run)] { command = run; });
-        return sub;
+    int Run(std::vector<std::string> arguments);
+
+  private:
+    CLI::App& Add(const char* name, const char* description, std::function<int()> run, Uses uses = Uses::Store);
+
+    void AddImport();
+    void AddExport();
+    void AddBackup();
+    void AddRestore();
+    void AddGet();
+    void AddSet();
+    void AddDelete();
+    void AddList();
+    void AddServices();
+    void AddLoad();
+    void AddSave();
+    void AddModels();
+    void AddReference();
+    void AddHelp();
+    static void AddServiceOptions(CLI::App& command, ServiceChoice& service);
+
+    [[noreturn]] void FailUnknownCommand(const std::string& name) const;
+    [[noreturn]] void FailWithoutCommand() const;
+
+    const Console& m_console;
+    CLI::App m_app{"Shows, changes, imports and exports the settings of XFS service providers, and loads them as a "
+                   "service provider does.",
+                   "wqspcfg"};
+    StoreChoice m_store;
+    std::function<int()> m_command;
+};
+
+Program::Program(const Console& console) : m_console(console)
+{
+    m_app.set_version_flag("--version", std::string("wqspcfg ") + WQSPCFG_VERSION, "Print the version");
+    m_app.set_help_flag("-h,--help", "Print this help");
+    m_app.require_subcommand(1);
+    m_app.fallthrough();                      // the options below may stand after the command
+    m_app.allow_windows_style_options(false); // "/x" may be a path or data
+    m_app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    m_app.footer("Data goes to standard output, messages go to standard error.\n"
+                 "Exit status: 0 done; 1 a negative answer (Load returned false, there is no such value); 2 wrong "
+                 "usage; 3 the store or a file failed.");
+    m_app
+        .add_option_function<std::string>(
+            "--store", [this](const std::string& address) { m_store.address = address; },
+            "lmdb:DIRECTORY, reg:FILE, memory:, windows:, windows:32 or windows:64. Default: the environment "
+            "variable WQSPCFG_STORE, else the store of the platform")
+        ->option_text("ADDRESS");
+    m_app.add_flag("--view32", m_store.view32,
+                   "Take the keys of 32-bit programs: SOFTWARE\\WOW6432Node\\XFS of a reg: store or an imported file "
+                   "as SOFTWARE\\XFS, and the 32-bit view of windows:");
+    m_app
+        .add_option("--codepage", m_store.codePage,
+                    "Code page of REGEDIT4 text in a reg: store or an imported file, such as 936 or 1252. Default: the "
+                    "text must be ASCII or UTF-8")
+        ->check(CLI::Range(1U, 65535U))
+        ->option_text("N");
+    AddServices();
+    AddLoad();
+    AddSave();
+    AddImport();
+    AddExport();
+    AddGet();
+    AddSet();
+    AddDelete();
+    AddList();
+    AddBackup();
+    AddRestore();
+    AddModels();
+    AddReference();
+    AddHelp();
+    for (auto* command : m_app.get_subcommands({})) {
+        command->footer("`wqspcfg --help` lists the options of all commands, such as --store, and the exit status.");
+        for (auto* option : command->get_options()) {
+            if (option->get_positional()) {
+                option->type_name(""); // its name says it
+            }
+        }
+    }
+}
+
+CLI::App& Program::Add(const char* name, const char* description, std::function<int()> run, Uses uses)
+{
+    auto* command = m_app.add_subcommand(name, description);
+    command->group("Commands");
+    command->callback([this, name, uses, run = std::move(run)] {
+        if (uses == Uses::Nothing && (m_store.view32 || m_store.codePage != 0)) {
+            throw UsageError(std::string(m_store.view32 ? "--view32" : "--codepage") + " does not apply to " + name);
+        }
+        m_command = run;
+    });
+    return *command;
+}
+
+void Program::AddImport()
+{
+    struct Options
+    {
+        std::vector<std::string> files;
+        bool dryRun = false;
     };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("import", "Merge registry exports into the store, each file whole or not at all",
+                        [=, this] { return Import(m_store, options->files, options->dryRun, m_console); });
+    command.add_option("FILE", options->files, "Registry exports; - is standard input")->required();
+    command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
+}
 
-    std::vector<std::string> files;
-    auto* import = add("import", "Merge registry exports into the store, each file whole or not at all",
-                       [&] { return Import(store, files, console); });
-    import->add_option("FILE", files, "Registry exports; - is standard input")->required();
+void Program::AddExport()
+{
+    struct Options
+    {
+        std::string key;
+        std::string file;
+        bool utf8 = false;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("export", "Write a key and all below it, or the whole store, as a registry export", [=, this] {
+        return Export(m_store, options->key, options->file,
+                      options->utf8 ? ExportEncoding::Utf8 : ExportEncoding::Utf16, m_console);
+    });
+    command.add_option("KEY", options->key, kKeyHelp);
+    command.add_option("-o", options->file, "The file to write. Default: standard output")->option_text("FILE");
+    command.add_flag("--utf8", options->utf8,
+                     "Write UTF-8, for other programs than regedit. Default: UTF-16, as regedit writes it");
+}
 
-    std::string key;
-    std::string file;
-    auto* exporting = add("export", "Write a key and all below it, or the whole store, as a registry export",
-                          [&] { return Export(store, key, file, console); });
-    exporting->add_option("KEY", key, kKeyHelp);
-    exporting->add_option("-o", file, "The file to write, in place of standard output")->option_text("FILE");
+void Program::AddBackup()
+{
+    const auto file = std::make_shared<std::string>();
+    auto& command = Add("backup", "Write a consistent copy of the embedded store to a file, also while it is in use",
+                        [=, this] { return BackUp(m_store, *file, m_console); });
+    command.add_option("FILE", *file, "The file to write; it is replaced once the copy is complete")->required();
+}
 
-    add("backup", "Write a consistent copy of the embedded store, which may be in use, to a file",
-        [&] { return BackUp(store, file, console); })
-        ->add_option("FILE", file, "The file to write; what it held is replaced once the copy is complete")
-        ->required();
-    add("restore", "Check a backup and replace the embedded store's whole content by it, in one step",
-        [&] { return Restore(store, file, console); })
-        ->add_option("FILE", file, "A file that backup has written")
-        ->required();
+void Program::AddRestore()
+{
+    struct Options
+    {
+        std::string file;
+        bool dryRun = false;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("restore", "Check a backup, and replace the whole content of the embedded store by it",
+                        [=, this] { return Restore(m_store, options->file, options->dryRun, m_console); });
+    command.add_option("FILE", options->file, "A file that backup has written")->required();
+    command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
+}
 
-    std::string name;
-    auto* get = add("get", "Print one value", [&] { return Get(store, key, name, console); });
-    get->add_option("KEY", key, kKeyHelp)->required();
-    get->add_option("NAME", name, "The value name; empty for the key's default value")->required();
+void Program::AddGet()
+{
+    struct Options
+    {
+        std::string key;
+        std::string name;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("get", "Print one value: a text as it stands, escaped on a terminal only",
+                        [=, this] { return Get(m_store, options->key, options->name, m_console); });
+    command.add_option("KEY", options->key, kKeyHelp)->required();
+    command.add_option("NAME", options->name, kNameHelp)->required();
+}
 
-    std::string data;
-    std::string type;
-    auto* set = add("set", "Set one value", [&] {
-        return Set(store, key, name, data,
+void Program::AddSet()
+{
+    struct Options
+    {
+        std::string key;
+        std::string name;
+        std::string data;
+        std::string type;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("set", "Set one value", [=, this] {
+        const auto& type = options->type;
+        return Set(m_store, options->key, options->name, options->data,
                    type.empty()   ? DataType::Auto
                    : type == "sz" ? DataType::Sz
                                   : DataType::Dword,
-                   console);
+                   m_console);
     });
-    set->add_option("KEY", key, kKeyHelp)->required();
-    set->add_option("NAME", name, "The value name; empty for the key's default value")->required();
-    set->add_option("DATA", data, "A text, or a number in decimal or as 0x...; after -- it may begin with a dash")
+    command.add_option("KEY", options->key, kKeyHelp)->required();
+    command.add_option("NAME", options->name, kNameHelp)->required();
+    command
+        .add_option("DATA", options->data,
+                    "A text, or a number in decimal or as 0x...; put -- before DATA that starts with a dash")
         ->required();
-    set->add_option("--type", type,
-                    "sz or dword. Without it a value keeps its type; a new one is a dword when DATA is a number, and "
-                    "else a sz")
-        ->check(CLI::IsMember({"sz", "dword"}));
+    command
+        .add_option("--type", options->type,
+                    "sz or dword. Default: the type of the value that is there; for a new value dword when DATA is a "
+                    "number, else sz")
+        ->check(CLI::IsMember({"sz", "dword"}))
+        ->option_text("TYPE");
+}
 
-    auto* remove = app.add_subcommand("delete", "Delete one value, or a key and all below it");
-    remove->add_option("KEY", key, kKeyHelp)->required();
-    auto* removeName = remove->add_option("NAME", name, "The value name; empty for the key's default value");
-    remove->callback([&] {
-        command = [&] {
-            return Delete(store, key, removeName->count() != 0 ? std::optional(name) : std::nullopt, console);
-        };
-    });
-
-    auto* list =
-        add("ls", "List the subkeys and values of a key, or the hives", [&] { return List(store, key, console); });
-    list->add_option("KEY", key, kKeyHelp);
-
-    add("services",
-        "List the services, tab-separated: name, logical or physical, class, device key, model class, what told it",
-        [&] { return ListServices(store, console); });
-
-    ServiceChoice service;
-    const auto addService = [&](CLI::App* sub) {
-        sub->add_option("SERVICE", service.name, "The service name")->required();
-        sub->add_flag("--physical", service.physical, "SERVICE is a physical name");
-        sub->add_option("--model", service.model, "The class, a class base too; else what the service tells")
-            ->option_text("CLASS");
+void Program::AddDelete()
+{
+    struct Options
+    {
+        std::string key;
+        std::string name;
+        CLI::Option* nameOption = nullptr;
+        DeleteOptions what;
     };
-    addService(add("load", "Load the service's configuration and print each log line",
-                   [&] { return LoadService(store, service, console); }));
-    addService(add("save", "Load the service's configuration and save it",
-                   [&] { return SaveService(store, service, console); }));
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("delete", "Delete one value, or a key with its values", [=, this] {
+        auto what = options->what;
+        if (options->nameOption->count() != 0) {
+            what.name = options->name;
+        }
+        return Delete(m_store, options->key, what, m_console);
+    });
+    command.add_option("KEY", options->key, kKeyHelp)->required();
+    options->nameOption = command.add_option("NAME", options->name, kNameHelp);
+    command.add_flag("--recursive", options->what.recursive, "Delete the subkeys of the key too");
+    command.add_flag("--dry-run", options->what.dryRun, kDryRunHelp);
+}
 
-    add("models", "List every class, tab-separated: name, base, device class", [&] { return ListModels(console); });
+void Program::AddList()
+{
+    struct Options
+    {
+        std::string key;
+        bool recursive = false;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("ls", "List the subkeys and values of a key, or the hives; values as name, type and data",
+                        [=, this] { return List(m_store, options->key, options->recursive, m_console); });
+    command.add_option("KEY", options->key, kKeyHelp);
+    command.add_flag("-R,--recursive", options->recursive, "List all below the key, each line with its path");
+}
 
-    std::string className;
-    std::string format = "text";
-    std::string pages;
-    auto* reference =
-        add("reference", "Print every setting of every class, or of one class with what it inherits", [&]() -> int {
-            if (!pages.empty()) {
-                return WritePages(pages, console);
+void Program::AddServices()
+{
+    Add("services",
+        "List the services, separated by tabs: name, logical or physical, class, device key, model class, reason for "
+        "the model class",
+        [this] { return ListServices(m_store, m_console); });
+}
+
+void Program::AddServiceOptions(CLI::App& command, ServiceChoice& service)
+{
+    command.add_option("SERVICE", service.name, "The service name")->required();
+    command.add_flag("--physical", service.physical, "SERVICE is a physical name");
+    command
+        .add_option("--model", service.model,
+                    "The class to load; class bases are allowed. Default: detected from the service")
+        ->option_text("CLASS");
+}
+
+void Program::AddLoad()
+{
+    struct Options
+    {
+        ServiceChoice service;
+        bool writeBack = false;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("load", "Load the configuration of a service and print each log line; the store is not changed",
+                        [=, this] { return LoadService(m_store, options->service, options->writeBack, m_console); });
+    AddServiceOptions(command, options->service);
+    command.add_flag("--write-back", options->writeBack, "Write to the store what the class writes while it loads");
+}
+
+void Program::AddSave()
+{
+    struct Options
+    {
+        ServiceChoice service;
+        bool dryRun = false;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("save", "Load the configuration of a service and save it, in one write transaction",
+                        [=, this] { return SaveService(m_store, options->service, options->dryRun, m_console); });
+    AddServiceOptions(command, options->service);
+    command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
+}
+
+void Program::AddModels()
+{
+    Add(
+        "models", "List every class, separated by tabs: name, base, device class",
+        [this] { return ListModels(m_console); }, Uses::Nothing);
+}
+
+void Program::AddReference()
+{
+    struct Options
+    {
+        std::string className;
+        std::string format = "text";
+        std::string pages;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add(
+        "reference", "Print every setting of every class, or of one class with what it inherits",
+        [=, this]() -> int {
+            if (!options->pages.empty()) {
+                return WritePages(options->pages, m_console);
             }
             const ClassEntry* only = nullptr;
-            if (!className.empty() && (only = FindClass(Wide(className))) == nullptr) {
-                return console.Fail(kNegative, "there is no class \"" + className + "\"; `wqspcfg models` lists them");
+            if (!options->className.empty() && (only = FindClass(Wide(options->className))) == nullptr) {
+                throw UsageError(NoClass(options->className));
             }
             WriteReference(only,
-                           format == "json"       ? ReferenceFormat::Json
-                           : format == "markdown" ? ReferenceFormat::Markdown
-                                                  : ReferenceFormat::Text,
-                           console.out);
+                           options->format == "json"       ? ReferenceFormat::Json
+                           : options->format == "markdown" ? ReferenceFormat::Markdown
+                                                           : ReferenceFormat::Text,
+                           m_console.out);
             return kDone;
-        });
-    reference->add_option("CLASS", className, "A class's name");
-    reference->add_option("--format", format, "text, markdown or json")
+        },
+        Uses::Nothing);
+    command.add_option("CLASS", options->className, "The name of a class");
+    command.add_option("--format", options->format, "text, markdown or json. Default: text")
         ->check(CLI::IsMember({"text", "markdown", "json"}))
-        ->default_str("text");
-    reference->add_option("--pages", pages, "Write Markdown pages, one for each device class, into this directory")
+        ->option_text("FORMAT");
+    command.add_option("--pages", options->pages, "Write a Markdown page for each device class into this directory")
         ->option_text("DIRECTORY");
+}
 
+void Program::AddHelp()
+{
+    struct Options
+    {
+        std::string name;
+        bool man = false;
+        bool completion = false;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add(
+        "help", "Print the help of a command, or this help",
+        [=, this]() -> int {
+            if (options->man) {
+                m_console.out << ManPage(m_app, WQSPCFG_VERSION);
+            } else if (options->completion) {
+                m_console.out << BashCompletion(m_app);
+            } else if (options->name.empty()) {
+                m_console.out << m_app.help();
+            } else {
+                const auto commands =
+                    m_app.get_subcommands([&](const CLI::App* each) { return each->get_name() == options->name; });
+                if (commands.empty()) {
+                    FailUnknownCommand(options->name);
+                }
+                m_console.out << commands[0]->help("wqspcfg");
+            }
+            return kDone;
+        },
+        Uses::Nothing);
+    command.add_option("COMMAND", options->name, "The name of a command");
+    command.add_flag("--man", options->man, "Print the manual page");
+    command.add_flag("--completion", options->completion, "Print the completion script for bash");
+}
+
+void Program::FailUnknownCommand(const std::string& name) const
+{
+    std::vector<std::string> commands;
+    for (const auto* command : m_app.get_subcommands({})) {
+        commands.push_back(command->get_name());
+    }
+    throw UsageError("unknown command \"" + name + "\"; did you mean \"" + Nearest(name, commands) +
+                     "\"? `wqspcfg --help` lists the commands");
+}
+
+// After a command line that names none.
+void Program::FailWithoutCommand() const
+{
+    for (const auto& rest : m_app.remaining()) {
+        if (rest.starts_with('-')) {
+            throw UsageError("unknown option " + rest + "; `wqspcfg --help` lists the options");
+        }
+        FailUnknownCommand(rest);
+    }
+    throw UsageError("no command is given; `wqspcfg --help` lists the commands");
+}
+
+int Program::Run(std::vector<std::string> arguments)
+{
     try {
         std::reverse(arguments.begin(), arguments.end()); // as CLI11 takes them
-        app.parse(std::move(arguments));
+        m_app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() == 0) { // --help, --version
-            app.exit(error, console.out, console.err);
+            m_app.exit(error, m_console.out, m_console.err);
             return kDone;
         }
-        return console.Fail(kUsage, error.what());
+        const auto commands = m_app.get_subcommands();
+        if (commands.empty() && dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
+            FailWithoutCommand();
+        }
+        const auto help = commands.empty() ? std::string("wqspcfg --help") : "wqspcfg help " + commands[0]->get_name();
+        throw UsageError(error.what() + ("; see `" + help + '`'));
     }
-    return command();
+    return m_command();
 }
 
 } // namespace
 
-int Run(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out, std::ostream& err)
+int Run(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out, std::ostream& err,
+        bool outIsTerminal)
 {
-    const Console console{in, out, err};
+    const Console console{in, out, err, outIsTerminal};
     int status = kDone;
     try {
-        status = Execute(arguments, console);
+        status = Program(console).Run(arguments);
     } catch (const UsageError& error) {
         return console.Fail(kUsage, error.what());
     } catch (const std::exception& error) {
         return console.Fail(kFailed, error.what());
     }
     out.flush();
-    return out ? status : console.Fail(kFailed, "standard output cannot be written");
+    return out ? status : console.Fail(kFailed, "cannot write to standard output");
 }
 
 } // namespace wqspcfg::tools

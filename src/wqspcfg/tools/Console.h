@@ -3,10 +3,12 @@
 
 #include "wqspcfg/platform/base/Error.h"
 #include "wqspcfg/platform/store/Store.h"
+#include "wqspcfg/platform/text/DisplayText.h"
 #include "wqspcfg/platform/text/Utf.h"
 
 #include <istream>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <stdexcept>
 #include <string>
@@ -21,41 +23,48 @@ enum Status : int
     kFailed = 3, // the store or a file failed
 };
 
-// Data goes to `out`, everything else to `err`; text is UTF-8.
+// Data goes to `out`, everything else to `err`; text is UTF-8. What comes from a store, a file or the command line is
+// escaped for terminals in every message.
 struct Console
 {
     std::istream& in;
     std::ostream& out;
     std::ostream& err;
+    bool outIsTerminal = false;
 
+    void Note(const std::string& message) const { err << "wqspcfg: " << DisplayText(message) << '\n'; }
     int Fail(int status, const std::string& message) const
     {
-        err << "wqspcfg: " << message << '\n';
+        Note(message);
         return status;
     }
     int Fail(const Error& error) const { return Fail(kFailed, error.message); }
 };
 
-// Arguments that mean nothing: exit status 2.
+// A command line that cannot be carried out: exit status 2.
 class UsageError : public std::runtime_error
 {
   public:
     using std::runtime_error::runtime_error;
 };
 
-// Which store the commands work on.
+// Which store the commands work on, and how it is read.
 struct StoreChoice
 {
-    std::string address; // empty: the default
+    std::optional<std::string> address; // none: the default
     bool view32 = false;
+    unsigned codePage = 0;
 
-    std::string Address() const { return address.empty() ? DefaultStoreAddress() : address; }
-
-    std::shared_ptr<Store> Open(Access access, bool create, Error& error) const
-    {
-        const OpenOptions options{.readOnly = access == Access::Read, .create = create, .view32 = view32};
-        return OpenStore(Address(), options, error);
-    }
+    // Throws UsageError for an empty address.
+    std::string Address() const;
+    // Throws UsageError where --view32 or --codepage cannot apply. `isImport`: they may concern the imported file.
+    void Check(bool isImport) const;
+    std::shared_ptr<Store> Open(Access access, Error& error, bool isImport = false) const;
+    // Creates an embedded store that does not exist, and names it on standard error.
+    std::shared_ptr<Store> OpenOrCreate(const Console& console, Error& error, bool isImport = false) const;
+    // Whether an embedded store is there to be opened. True for other stores.
+    bool Exists() const;
+    void NoteCreated(const Console& console) const;
 };
 
 inline std::string Utf8(std::wstring_view text)
@@ -63,13 +72,10 @@ inline std::string Utf8(std::wstring_view text)
     return Utf8ForMessage(text);
 }
 
-inline std::wstring Wide(const std::string& utf8)
-{
-    std::wstring text;
-    if (!AppendWideFromUtf8(utf8, text)) {
-        throw UsageError("an argument is not well-formed UTF-8");
-    }
-    return text;
-}
+// Throws UsageError for ill-formed text.
+std::wstring Wide(const std::string& utf8);
+
+// "1 key", "2 keys".
+std::string Counted(std::size_t count, const std::string& thing);
 
 } // namespace wqspcfg::tools

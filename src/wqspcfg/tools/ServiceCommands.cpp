@@ -4,8 +4,10 @@
 #include "wqspcfg/catalogue/ModelSelection.h"
 #include "wqspcfg/core/RegistryRoots.h"
 #include "wqspcfg/core/settings/Reference.h"
-#include "wqspcfg/platform/store/memory/MemoryStore.h"
+#include "wqspcfg/platform/store/regfile/View32.h"
 #include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/tools/Preview.h"
+#include "wqspcfg/tools/ScratchStore.h"
 
 namespace wqspcfg::tools {
 
@@ -31,93 +33,49 @@ int Checked(int status, const Console& console)
     return LastStoreError() ? console.Fail(LastStoreError()) : status;
 }
 
-bool CopyKey(Transaction& from, Transaction& to, Hive hive, const std::wstring& path, Error& error)
-{
-    KeyId source = 0;
-    KeyId target = 0;
-    std::vector<std::wstring> subkeys;
-    bool written = true;
-    auto outcome = from.OpenKey(hive, path, source);
-    if (outcome == Outcome::Missing) {
-        return true;
-    }
-    if (outcome == Outcome::Found && to.CreateKey(hive, path, target) == Outcome::Found) {
-        outcome = from.EnumValues(source, [&](std::wstring_view name, const ValueView& value) {
-            return written = to.SetValue(target, name, value) != Outcome::Failed;
-        });
-    }
-    if (outcome != Outcome::Failed) {
-        outcome = from.EnumKeys(source, [&](std::wstring_view name) {
-            subkeys.emplace_back(name);
-            return true;
-        });
-    }
-    from.CloseKey(source);
-    if (outcome == Outcome::Failed || !written) {
-        error = written ? from.LastError() : to.LastError();
-        return false;
-    }
-    for (const auto& subkey : subkeys) {
-        if (!CopyKey(from, to, hive, path + L'\\' + subkey, error)) {
-            return false;
-        }
-    }
-    return true;
-}
-
-std::shared_ptr<Store> CopyInMemory(Store& store, Error& error)
-{
-    auto copy = std::make_shared<MemoryStore>(store.Address());
-    const auto from = store.Begin(Access::Read, error);
-    if (!from) {
-        return nullptr;
-    }
-    const auto to = copy->Begin(Access::Write, error);
-    if (!to || !CopyKey(*from, *to, Hive::LocalMachine, L"SOFTWARE", error) ||
-        !CopyKey(*from, *to, Hive::Users, L".DEFAULT", error)) {
-        return nullptr;
-    }
-    if (to->Commit(false) == Outcome::Failed) {
-        error = to->LastError();
-        return nullptr;
-    }
-    return copy;
-}
-
-// What a Load writes back on the way must not fail where the store cannot be written: from the first such write on, a
-// copy takes the store's place.
-class LoadableStore final : public Store
+// The text of log lines for a terminal.
+class LineLog final : public CLog
 {
   public:
-    explicit LoadableStore(std::shared_ptr<Store> store) : m_store(std::move(store)) {}
+    explicit LineLog(std::ostream& out) : m_out(out) {}
 
-    std::unique_ptr<Transaction> Begin(Access access, Error& error) override
+    int Write(wqspcfg::Severity, DWORD, std::wstring_view text) override
     {
-        if (m_copy) {
-            return m_copy->Begin(access, error);
+        // The line ends of a table are its own, and its cells have none. Elsewhere they stand in a stored text.
+        const bool isTable = text.starts_with(L"[CST]");
+        for (std::size_t end; isTable && (end = text.find(L"\r\n")) != std::wstring_view::npos;) {
+            m_out << DisplayText(text.substr(0, end)) << "\r\n";
+            text.remove_prefix(end + 2);
         }
-        auto transaction = m_store->Begin(access, error);
-        if (!transaction && access == Access::Write && error.kind == ErrorKind::AccessDenied) {
-            m_copy = CopyInMemory(*m_store, error);
-            return m_copy ? m_copy->Begin(access, error) : nullptr;
-        }
-        return transaction;
+        m_out << DisplayText(text) << '\n';
+        return m_out.good() ? 1 : 0;
     }
-    const std::string& Address() const noexcept override { return m_store->Address(); }
-    bool RollsBack() const noexcept override { return m_store->RollsBack(); }
 
   private:
-    std::shared_ptr<Store> m_store; // outlives the copy's beginning: the Load still reads from it
-    std::shared_ptr<Store> m_copy;
+    std::ostream& m_out;
 };
 
-std::shared_ptr<Store> OpenForLoad(const StoreChoice& choice, Error& error)
+// Opens the store for a command that works with services. One that was filled from a 64-bit Windows, without --view32,
+// has no keys where service providers read them.
+std::shared_ptr<Store> OpenForServices(const StoreChoice& choice, Access access, Error& error)
 {
-    auto store = choice.Open(Access::Write, false, error);
-    if (!store && error.kind == ErrorKind::AccessDenied) {
-        store = choice.Open(Access::Read, false, error);
+    auto store = choice.Open(access, error);
+    const auto transaction = store ? store->Begin(Access::Read, error) : nullptr;
+    if (!transaction) {
+        return nullptr;
     }
-    return store ? std::make_shared<LoadableStore>(std::move(store)) : nullptr;
+    KeyId key = 0;
+    if (transaction->OpenKey(Hive::LocalMachine, kXfsKey, key) == Outcome::Missing &&
+        transaction->OpenKey(Hive::LocalMachine, kXfsKey32, key) == Outcome::Found) {
+        const bool isWindows = store->Address().starts_with("windows:");
+        error = {ErrorKind::BadArgument,
+                 store->Address() +
+                     ": the service providers of this terminal are 32-bit programs, whose keys stand "
+                     "under SOFTWARE\\WOW6432Node\\XFS; " +
+                     (isWindows ? "give --view32" : "import the registry export again with `import --view32`")};
+        return nullptr;
+    }
+    return store;
 }
 
 std::string KindOf(bool physical)
@@ -132,13 +90,16 @@ const ClassEntry* ChooseClass(const ServiceChoice& choice, const ServiceIdentity
     if (!choice.model.empty()) {
         const auto* entry = FindClass(Wide(choice.model));
         if (entry == nullptr) {
-            throw UsageError("there is no class \"" + choice.model + "\"; `wqspcfg models` lists them");
+            throw UsageError(NoClass(choice.model));
         }
         if (entry->create == nullptr) {
-            throw UsageError(choice.model + " is part of other classes and is not loaded by itself");
+            throw UsageError(choice.model + " is a part of other classes and cannot be loaded by itself");
         }
         if (!service.exists) {
-            console.err << "wqspcfg: there is no " << KindOf(choice.physical) << " service \"" << choice.name << "\"\n";
+            console.Note("there is no " + KindOf(choice.physical) + " service \"" + choice.name +
+                         "\"; this is what the class makes of missing keys");
+        } else if (const auto warning = ContradictionOf(service, *entry); !warning.empty()) {
+            console.Note("warning: " + Utf8(warning));
         }
         return entry;
     }
@@ -146,24 +107,29 @@ const ClassEntry* ChooseClass(const ServiceChoice& choice, const ServiceIdentity
         const auto other = IdentifyService(CString(Wide(choice.name)), !choice.physical);
         std::string message = "there is no " + KindOf(choice.physical) + " service \"" + choice.name + "\"";
         if (other.exists) {
-            message += choice.physical ? "; the logical service of that name is loaded without --physical"
-                                       : "; the physical service of that name is loaded with --physical";
+            message += choice.physical ? "; leave out --physical for the logical service of that name"
+                                       : "; give --physical for the physical service of that name";
         }
         status = Checked(kDone, console);
         status = status == kDone ? console.Fail(kNegative, message) : status;
         return nullptr;
     }
     const auto selection = SelectModel(service);
-    console.err << "wqspcfg: " << Utf8(selection.entry->table().className) << ": " << Utf8(selection.reason) << '\n';
+    console.Note(Utf8(selection.entry->table().className) + std::string(": ") + Utf8(selection.reason));
     return selection.entry;
 }
 
 } // namespace
 
+std::string NoClass(const std::string& name)
+{
+    return "there is no class \"" + name + "\"; `wqspcfg models` lists them";
+}
+
 int ListServices(const StoreChoice& choice, const Console& console)
 {
     Error error;
-    auto store = choice.Open(Access::Read, false, error);
+    auto store = OpenForServices(choice, Access::Read, error);
     if (!store) {
         return console.Fail(error);
     }
@@ -178,9 +144,9 @@ int ListServices(const StoreChoice& choice, const Console& console)
             }
             const auto service = IdentifyService(name, physical);
             const auto selection = SelectModel(service);
-            console.out << Utf8(name.View()) << '\t' << KindOf(physical) << '\t' << Utf8(service.xfsClass) << '\t'
-                        << Utf8(service.deviceKey) << '\t' << Utf8(selection.entry->table().className) << '\t'
-                        << Utf8(selection.reason) << '\n';
+            console.out << DisplayText(name.View()) << '\t' << KindOf(physical) << '\t' << DisplayText(service.xfsClass)
+                        << '\t' << DisplayText(service.deviceKey) << '\t' << Utf8(selection.entry->table().className)
+                        << '\t' << DisplayText(selection.reason) << '\n';
         }
     };
     list(kLogicalRoot, false);
@@ -188,12 +154,15 @@ int ListServices(const StoreChoice& choice, const Console& console)
     return Checked(kDone, console);
 }
 
-int LoadService(const StoreChoice& choice, const ServiceChoice& service, const Console& console)
+int LoadService(const StoreChoice& choice, const ServiceChoice& service, bool writeBack, const Console& console)
 {
     Error error;
-    auto store = OpenForLoad(choice, error);
+    auto store = OpenForServices(choice, writeBack ? Access::Write : Access::Read, error);
     if (!store) {
         return console.Fail(error);
+    }
+    if (!writeBack) {
+        store = std::make_shared<ScratchStore>(std::move(store));
     }
     const CurrentStoreScope current(std::move(store));
     const CString name(Wide(service.name));
@@ -202,44 +171,68 @@ int LoadService(const StoreChoice& choice, const ServiceChoice& service, const C
     if (entry == nullptr) {
         return status;
     }
-    StreamLog log(console.out);
+    LineLog log(console.out);
     if (!Create(*entry, name, service.physical)->Load(&log)) {
         status = kNegative;
-        console.err << "wqspcfg: " << Utf8(entry->table().className) << "::Load returned false\n";
+        console.Note(Utf8(entry->table().className) + "::Load returned false");
     }
     return Checked(status, console);
 }
 
-int SaveService(const StoreChoice& choice, const ServiceChoice& service, const Console& console)
+namespace {
+
+// In one write transaction, so that nothing that another process writes meanwhile is undone.
+int LoadAndSave(const ServiceChoice& service, const Console& console)
 {
-    Error error;
-    auto store = choice.Open(Access::Write, false, error);
-    if (!store) {
-        return console.Fail(error);
+    WriteScope write;
+    if (write->Failure()) {
+        return console.Fail(write->Failure());
     }
-    const CurrentStoreScope current(std::move(store));
     const CString name(Wide(service.name));
     const auto identity = IdentifyService(name, service.physical);
     int status = kDone;
     const auto* entry = ChooseClass(service, identity, console, status);
-    if (entry == nullptr) {
-        return status;
+    if (entry != nullptr && identity.deviceKey.empty()) {
+        status = console.Fail(kNegative, "\"" + service.name + "\" has no device key to save to");
+    } else if (entry != nullptr) {
+        const auto object = Create(*entry, name, service.physical);
+        // A configuration that was read in part must not replace the one that is there.
+        if (!object->Load(nullptr)) {
+            status = Checked(
+                console.Fail(kNegative, Utf8(entry->table().className) + "::Load returned false; nothing is saved"),
+                console);
+        } else if (LastStoreError()) {
+            status = console.Fail(LastStoreError());
+        } else {
+            object->Save();
+            write.Commit();
+            return Checked(kDone, console);
+        }
     }
-    if (identity.deviceKey.empty()) {
-        return console.Fail(kNegative, "\"" + service.name + "\" has no device key that could be written");
+    write->Refuse({ErrorKind::BadArgument, "nothing is saved"}); // what Load wrote goes with the scope
+    return status;
+}
+
+} // namespace
+
+int SaveService(const StoreChoice& choice, const ServiceChoice& service, bool dryRun, const Console& console)
+{
+    Error error;
+    auto store = OpenForServices(choice, dryRun ? Access::Read : Access::Write, error);
+    if (!store) {
+        return console.Fail(error);
     }
-    const auto object = Create(*entry, name, service.physical);
-    // A configuration that was read in part must not replace the one that is there.
-    if (!object->Load(nullptr)) {
-        return Checked(
-            console.Fail(kNegative, Utf8(entry->table().className) + "::Load returned false; nothing is saved"),
-            console);
+    const auto scratch = dryRun ? std::make_shared<ScratchStore>(store) : nullptr;
+    int status = kDone;
+    {
+        const CurrentStoreScope current(scratch != nullptr ? scratch : store);
+        status = LoadAndSave(service, console);
     }
-    if (LastStoreError()) {
-        return console.Fail(LastStoreError());
-    }
-    object->Save();
-    return Checked(kDone, console);
+    return status != kDone || scratch == nullptr
+               ? status
+               : PreviewChanges(
+                     *store, [&](RegFileVisitor& visitor, Error& failure) { return scratch->Visit(visitor, failure); },
+                     console);
 }
 
 int ListModels(const Console& console)

@@ -12,15 +12,19 @@ struct ServiceChoice
 {
     std::string name;
     bool physical = false;
-    std::string model; // a class's name; empty: what the service tells
+    std::string model; // a class's name; empty: it is detected
 };
 
 // One line for each service, tab-separated: name, "logical" or "physical", class value, device key name, model class,
-// and what told the model class.
+// and the reason for the model class.
 int ListServices(const StoreChoice& choice, const Console& console);
-int LoadService(const StoreChoice& choice, const ServiceChoice& service, const Console& console);
-int SaveService(const StoreChoice& choice, const ServiceChoice& service, const Console& console);
+// What the class writes while it loads stays in memory, unless `writeBack` is set.
+int LoadService(const StoreChoice& choice, const ServiceChoice& service, bool writeBack, const Console& console);
+// With `dryRun`, prints what would change.
+int SaveService(const StoreChoice& choice, const ServiceChoice& service, bool dryRun, const Console& console);
 // One line for each class, tab-separated: name, base and device class, "-" where there is none.
 int ListModels(const Console& console);
+// The message about a class that does not exist.
+std::string NoClass(const std::string& name);
 
 } // namespace wqspcfg::tools

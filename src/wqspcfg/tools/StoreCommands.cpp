@@ -1,11 +1,12 @@
 #include "wqspcfg/tools/StoreCommands.h"
 
-#include "wqspcfg/platform/base/WinTypes.h"
 #include "wqspcfg/platform/store/Backup.h"
-#include "wqspcfg/platform/store/regfile/RegFile.h"
+#include "wqspcfg/platform/store/RegistryValue.h"
+#include "wqspcfg/platform/store/memory/MemoryStore.h"
+#include "wqspcfg/tools/Preview.h"
+#include "wqspcfg/tools/ValueText.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 #include <fstream>
 
@@ -13,138 +14,12 @@ namespace wqspcfg::tools {
 
 namespace {
 
-struct FullKey
-{
-    Hive hive = Hive::LocalMachine;
-    std::wstring path;
-};
-
-FullKey ParseKey(const std::string& text)
-{
-    const auto wide = Wide(text);
-    FullKey key;
-    std::wstring_view path;
-    if (!SplitHive(wide, key.hive, path)) {
-        throw UsageError("\"" + text + "\" is no key: a key begins with a hive, such as HKLM\\SOFTWARE\\XFS");
-    }
-    // Backslashes at either end do not count.
-    while (path.starts_with(L'\\')) {
-        path.remove_prefix(1);
-    }
-    while (path.ends_with(L'\\')) {
-        path.remove_suffix(1);
-    }
-    key.path = path;
-    return key;
-}
-
-std::optional<DWORD> ParseNumber(std::string_view text, bool strict)
-{
-    int base = 10;
-    if (text.starts_with("0x") || text.starts_with("0X")) {
-        text.remove_prefix(2);
-        base = 16;
-    } else if (strict && text.size() > 1 && text.front() == '0') {
-        return std::nullopt; // "007" is rather a text
-    }
-    DWORD value = 0;
-    const auto* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, value, base);
-    return result.ec == std::errc() && result.ptr == end ? std::optional(value) : std::nullopt;
-}
-
-std::string TypeName(ValueType type)
-{
-    switch (type) {
-    case ValueType::None:
-        return "REG_NONE";
-    case ValueType::Sz:
-        return "REG_SZ";
-    case ValueType::ExpandSz:
-        return "REG_EXPAND_SZ";
-    case ValueType::Binary:
-        return "REG_BINARY";
-    case ValueType::Dword:
-        return "REG_DWORD";
-    case ValueType::DwordBigEndian:
-        return "REG_DWORD_BIG_ENDIAN";
-    case ValueType::Link:
-        return "REG_LINK";
-    case ValueType::MultiSz:
-        return "REG_MULTI_SZ";
-    case ValueType::Qword:
-        return "REG_QWORD";
-    }
-    return "type " + std::to_string(static_cast<std::uint32_t>(type));
-}
-
-std::string HexBytes(std::span<const std::byte> data)
-{
-    static constexpr char kDigits[] = "0123456789abcdef";
-    std::string text;
-    for (const auto byte : data) {
-        const auto number = std::to_integer<unsigned>(byte);
-        if (!text.empty()) {
-            text += ' ';
-        }
-        text += kDigits[number >> 4];
-        text += kDigits[number & 15];
-    }
-    return text;
-}
-
-std::uint64_t LittleEndian(std::span<const std::byte> data)
-{
-    std::uint64_t number = 0;
-    for (std::size_t i = data.size(); i-- > 0;) {
-        number = (number << 8) | std::to_integer<std::uint64_t>(data[i]);
-    }
-    return number;
-}
-
-// A number in decimal, text as it stands (each string of a REG_MULTI_SZ after the other, `separator` between them),
-// everything else as hexadecimal bytes.
-std::string DataText(const ValueView& value, const char* separator)
-{
-    if (value.type == ValueType::Dword && value.data.size() == 4) {
-        return std::to_string(LittleEndian(value.data));
-    }
-    if (value.type == ValueType::Qword && value.data.size() == 8) {
-        return std::to_string(LittleEndian(value.data));
-    }
-    const bool text =
-        value.type == ValueType::Sz || value.type == ValueType::ExpandSz || value.type == ValueType::MultiSz;
-    std::wstring wide;
-    if (!text || !AppendWideFromUtf16Le(value.data.first(value.data.size() & ~std::size_t{1}), wide)) {
-        return HexBytes(value.data);
-    }
-    if (value.type != ValueType::MultiSz) {
-        return Utf8(std::wstring_view(wide).substr(0, wide.find(L'\0')));
-    }
-    std::string all;
-    for (std::size_t start = 0; start < wide.size() && wide[start] != 0;) {
-        const auto end = std::min(wide.find(L'\0', start), wide.size());
-        all += (start != 0 ? separator : "") + Utf8(std::wstring_view(wide).substr(start, end - start));
-        start = end + 1;
-    }
-    return all;
-}
-
-std::string Quoted(std::wstring_view name)
-{
-    return name.empty() ? std::string("the default value") : "the value \"" + Utf8(name) + "\"";
-}
-
 // Runs `work` in a transaction of the store, commits what it wrote, and turns failures into messages.
 template <class F>
-int Within(const StoreChoice& choice, Access access, bool create, const Console& console, F work)
+int Within(Store& store, Access access, const Console& console, F work)
 {
     Error error;
-    const auto store = choice.Open(access, create, error);
-    if (!store) {
-        return console.Fail(error);
-    }
-    const auto transaction = store->Begin(access, error);
+    const auto transaction = store.Begin(access, error);
     if (!transaction) {
         return console.Fail(error);
     }
@@ -160,43 +35,251 @@ int NoKey(const Console& console, const std::string& key)
     return console.Fail(kNegative, "there is no key " + key);
 }
 
-} // namespace
+// Why a value was not found.
+int NoValue(Transaction& transaction, const FullKey& which, const std::string& key, std::wstring_view name,
+            const Console& console)
+{
+    KeyId id = 0;
+    switch (transaction.OpenKey(which.hive, which.path, id)) {
+    case Outcome::Failed:
+        return console.Fail(transaction.LastError());
+    case Outcome::Missing:
+        return NoKey(console, key);
+    case Outcome::Found:
+        break;
+    }
+    return console.Fail(kNegative, "the key " + key + " has no " +
+                                       (name.empty() ? std::string("default value") : "value \"" + Utf8(name) + '"'));
+}
 
-int Import(const StoreChoice& choice, const std::vector<std::string>& files, const Console& console)
+std::string CountsText(std::size_t keys, std::size_t values)
+{
+    return Counted(keys, "key") + ", " + Counted(values, "value");
+}
+
+// The keys at and below one, and their values. False on failure.
+bool Count(Transaction& transaction, const FullKey& key, std::size_t& keys, std::size_t& values)
+{
+    KeyId id = 0;
+    if (transaction.OpenKey(key.hive, key.path, id) != Outcome::Found) {
+        return false;
+    }
+    std::vector<std::wstring> subkeys;
+    const bool listed = transaction.EnumValues(id,
+                                               [&values](auto&&...) {
+                                                   ++values;
+                                                   return true;
+                                               }) == Outcome::Found &&
+                        transaction.EnumKeys(id, [&subkeys](std::wstring_view name) {
+                            subkeys.emplace_back(name);
+                            return true;
+                        }) == Outcome::Found;
+    transaction.CloseKey(id);
+    ++keys;
+    return listed && std::all_of(subkeys.begin(), subkeys.end(), [&](const std::wstring& subkey) {
+               return Count(transaction, {key.hive, key.path + L'\\' + subkey}, keys, values);
+           });
+}
+
+#if defined(_WIN32)
+
+int PreviewRestore(const StoreChoice& choice, const std::string& file, const Console& console)
+{
+    return Restore(choice, file, false, console); // says that there is no embedded store on Windows
+}
+
+#else
+
+// A directory of this user's own that goes with the object.
+class PrivateDirectory
+{
+  public:
+    explicit PrivateDirectory(Error& error)
+    {
+        std::error_code code;
+        auto name = (std::filesystem::temp_directory_path(code) / "wqspcfg-XXXXXX").string();
+        if (!code && mkdtemp(name.data()) != nullptr) {
+            m_path = name;
+        } else {
+            error = {ErrorKind::Io, "cannot make a temporary directory as " + name};
+        }
+    }
+    ~PrivateDirectory()
+    {
+        std::error_code code;
+        if (!m_path.empty()) {
+            std::filesystem::remove_all(m_path, code);
+        }
+    }
+    PrivateDirectory(const PrivateDirectory&) = delete;
+    PrivateDirectory& operator=(const PrivateDirectory&) = delete;
+
+    const std::string& Path() const { return m_path; }
+
+  private:
+    std::string m_path;
+};
+
+// Restores the backup to a store of its own, and compares the two.
+int PreviewRestore(const StoreChoice& choice, const std::string& file, const Console& console)
 {
     Error error;
-    const auto store = choice.Open(Access::Write, true, error);
+    std::shared_ptr<Store> before;
+    if (choice.Exists() && !(before = choice.Open(Access::Read, error))) {
+        return console.Fail(error);
+    }
+    const PrivateDirectory directory(error);
+    if (error) {
+        return console.Fail(error);
+    }
+    BackupCounts counts;
+    std::string kept;
+    const auto address = "lmdb:" + directory.Path() + "/store";
+    if (!RestoreStore(address, file, counts, kept, error)) {
+        return console.Fail(error);
+    }
+    const auto after = OpenStore(address, {.readOnly = true}, error);
+    return after ? PreviewReplacement(before.get(), *after, console) : console.Fail(error);
+}
+
+#endif
+
+class Lister
+{
+  public:
+    Lister(Transaction& transaction, bool recursive, const Console& console)
+        : m_transaction(transaction), m_recursive(recursive), m_console(console)
+    {}
+
+    // `prefix` is the path that lines begin with. False on failure.
+    bool List(const FullKey& key, const std::string& prefix)
+    {
+        KeyId id = 0;
+        return m_transaction.OpenKey(key.hive, key.path, id) == Outcome::Found && ListOpened(id, key, prefix);
+    }
+
+    bool ListOpened(KeyId id, const FullKey& key, const std::string& prefix)
+    {
+        std::vector<std::wstring> subkeys;
+        if (m_transaction.EnumKeys(id, [&](std::wstring_view name) {
+                if (m_recursive) {
+                    subkeys.emplace_back(name);
+                } else {
+                    m_console.out << DisplayText(name) << "\\\n";
+                }
+                return true;
+            }) == Outcome::Failed) {
+            return false;
+        }
+        const auto valueLine = [&](std::wstring_view name, const ValueView& value) {
+            m_console.out << prefix << (name.empty() ? std::string("(default)") : DisplayText(name)) << '\t'
+                          << TypeName(value.type) << '\t' << DisplayText(DataText(value, L"; ")) << '\n';
+            return true;
+        };
+        if (m_transaction.EnumValues(id, valueLine) == Outcome::Failed) {
+            return false;
+        }
+        m_transaction.CloseKey(id);
+        return std::all_of(subkeys.begin(), subkeys.end(), [&](const std::wstring& subkey) {
+            const auto below = prefix + DisplayText(subkey) + '\\';
+            m_console.out << below << '\n';
+            return List({key.hive, key.path.empty() ? subkey : key.path + L'\\' + subkey}, below);
+        });
+    }
+
+    // The hives that hold something.
+    bool ListHives()
+    {
+        for (const auto hive :
+             {Hive::LocalMachine, Hive::Users, Hive::CurrentUser, Hive::ClassesRoot, Hive::CurrentConfig}) {
+            KeyId id = 0;
+            bool any = false;
+            const auto note = [&any](auto&&...) {
+                any = true;
+                return false;
+            };
+            if (m_transaction.OpenKey(hive, {}, id) == Outcome::Failed ||
+                m_transaction.EnumKeys(id, note) == Outcome::Failed ||
+                m_transaction.EnumValues(id, note) == Outcome::Failed) {
+                return false;
+            }
+            if (any) {
+                const auto name = Utf8(KeyText({hive, {}})) + '\\';
+                m_console.out << name << '\n';
+                if (m_recursive && !ListOpened(id, {hive, {}}, name)) {
+                    return false;
+                }
+            }
+        }
+        return true;
+    }
+
+  private:
+    Transaction& m_transaction;
+    bool m_recursive;
+    const Console& m_console;
+};
+
+} // namespace
+
+int Import(const StoreChoice& choice, const std::vector<std::string>& files, bool dryRun, const Console& console)
+{
+    choice.Check(true);
+    // All files are read before the store is touched.
+    Error error;
+    std::vector<std::unique_ptr<RegFileContent>> contents;
+    const RegFileOptions options{choice.codePage, choice.view32};
+    for (const auto& file : files) {
+        auto& content = *contents.emplace_back(std::make_unique<RegFileContent>());
+        if (file == "-" ? !content.Read(console.in, "standard input", options, error)
+                        : !content.Read(file, options, error)) {
+            return console.Fail(error);
+        }
+    }
+    if (dryRun) {
+        const auto store =
+            choice.Exists() ? choice.Open(Access::Read, error, true) : std::make_shared<MemoryStore>(choice.Address());
+        return store ? PreviewChanges(
+                           *store,
+                           [&contents](RegFileVisitor& visitor, Error& failure) {
+                               return std::all_of(contents.begin(), contents.end(), [&](const auto& content) {
+                                   return content->Visit(visitor, failure);
+                               });
+                           },
+                           console)
+                     : console.Fail(error);
+    }
+    const auto store = choice.OpenOrCreate(console, error, true);
     if (!store) {
         return console.Fail(error);
     }
-    for (const auto& file : files) {
+    for (std::size_t i = 0; i < files.size(); ++i) {
         ImportCounts counts;
-        const bool done = file == "-" ? ImportRegFile(*store, console.in, "standard input", counts, error)
-                                      : ImportRegFile(*store, file, counts, error);
-        if (!done) {
+        if (!ImportRegFile(*store, *contents[i], counts, error)) {
             return console.Fail(error);
         }
-        console.err << (file == "-" ? "standard input" : file) << ": " << counts.keys << " keys, " << counts.values
-                    << " values";
+        console.err << (files[i] == "-" ? "standard input" : DisplayText(files[i])) << ": "
+                    << CountsText(counts.keys, counts.values);
         if (counts.deletions != 0) {
-            console.err << ", " << counts.deletions << " deletions";
+            console.err << ", " << Counted(counts.deletions, "deletion");
         }
         console.err << '\n';
     }
     return kDone;
 }
 
-int Export(const StoreChoice& choice, const std::string& key, const std::string& file, const Console& console)
+int Export(const StoreChoice& choice, const std::string& key, const std::string& file, ExportEncoding encoding,
+           const Console& console)
 {
     const auto which = key.empty() ? FullKey() : ParseKey(key);
     Error error;
-    const auto store = choice.Open(Access::Read, false, error);
+    const auto store = choice.Open(Access::Read, error);
     if (!store) {
         return console.Fail(error);
     }
     const auto write = [&](std::ostream& output) {
-        const bool done = key.empty() ? ExportRegFile(*store, output, error)
-                                      : ExportRegFile(*store, which.hive, which.path, output, error);
+        const bool done = key.empty() ? ExportRegFile(*store, output, error, encoding)
+                                      : ExportRegFile(*store, which.hive, which.path, output, error, encoding);
         return done ? int{kDone} : console.Fail(error.kind == ErrorKind::NotFound ? kNegative : kFailed, error.message);
     };
     if (file.empty()) {
@@ -249,22 +332,29 @@ int BackUp(const StoreChoice& choice, const std::string& file, const Console& co
     if (!BackUpStore(choice.Address(), file, counts, error)) {
         return console.Fail(error);
     }
-    console.err << file << ": " << counts.keys << " keys, " << counts.values << " values\n";
+    console.err << DisplayText(file) << ": " << CountsText(counts.keys, counts.values) << '\n';
     return kDone;
 }
 
-int Restore(const StoreChoice& choice, const std::string& file, const Console& console)
+int Restore(const StoreChoice& choice, const std::string& file, bool dryRun, const Console& console)
 {
+    if (dryRun) {
+        return PreviewRestore(choice, file, console);
+    }
     BackupCounts counts;
     std::string kept;
     Error error;
+    const bool existed = choice.Exists();
     if (!RestoreStore(choice.Address(), file, counts, kept, error)) {
         return console.Fail(error);
     }
-    if (!kept.empty()) {
-        console.err << "the store was damaged; its old file is kept as " << kept << '\n';
+    if (!existed) {
+        choice.NoteCreated(console);
     }
-    console.err << choice.Address() << ": " << counts.keys << " keys, " << counts.values << " values\n";
+    if (!kept.empty()) {
+        console.Note("the store was damaged; its old file is kept as " + kept);
+    }
+    console.err << DisplayText(choice.Address()) << ": " << CountsText(counts.keys, counts.values) << '\n';
     return kDone;
 }
 
@@ -272,17 +362,24 @@ int Get(const StoreChoice& choice, const std::string& key, const std::string& na
 {
     const auto which = ParseKey(key);
     const auto wideName = Wide(name);
-    return Within(choice, Access::Read, false, console, [&](Transaction& transaction) -> int {
+    Error error;
+    const auto store = choice.Open(Access::Read, error);
+    if (!store) {
+        return console.Fail(error);
+    }
+    return Within(*store, Access::Read, console, [&](Transaction& transaction) -> int {
         ValueView value;
         switch (transaction.QueryAt(which.hive, which.path, wideName, value)) {
         case Outcome::Failed:
             return console.Fail(transaction.LastError());
         case Outcome::Missing:
-            return console.Fail(kNegative, key + " does not hold " + Quoted(wideName));
+            return NoValue(transaction, which, key, wideName, console);
         case Outcome::Found:
             break;
         }
-        console.out << DataText(value, "\n") << '\n';
+        // A program gets the text as it stands, a person's terminal nothing that it would obey.
+        const auto text = DataText(value, L"\n");
+        console.out << (console.outIsTerminal ? DisplayText(text) : Utf8(text)) << '\n';
         return kDone;
     });
 }
@@ -293,7 +390,13 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
     const auto which = ParseKey(key);
     const auto wideName = Wide(name);
     const auto wideData = Wide(data);
-    return Within(choice, Access::Write, true, console, [&](Transaction& transaction) -> int {
+    const auto number = ParseNumber(wideData);
+    Error error;
+    const auto store = choice.OpenOrCreate(console, error);
+    if (!store) {
+        return console.Fail(error);
+    }
+    return Within(*store, Access::Write, console, [&](Transaction& transaction) -> int {
         KeyId id = 0;
         if (transaction.CreateKey(which.hive, which.path, id) == Outcome::Failed) {
             return console.Fail(transaction.LastError());
@@ -305,24 +408,24 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
                 return console.Fail(transaction.LastError());
             }
             if (found == Outcome::Missing) {
-                type = ParseNumber(data, true) ? DataType::Dword : DataType::Sz;
+                // "007" is rather a text.
+                const bool isPlain = wideData.size() == 1 || wideData.front() != L'0' || wideData.starts_with(L"0x") ||
+                                     wideData.starts_with(L"0X");
+                type = number && isPlain ? DataType::Dword : DataType::Sz;
             } else if (present.type == ValueType::Dword || present.type == ValueType::Sz) {
                 type = present.type == ValueType::Dword ? DataType::Dword : DataType::Sz;
             } else {
-                return console.Fail(kUsage, Quoted(wideName) + " is a " + TypeName(present.type) +
-                                                "; --type tells what is to replace it");
+                return console.Fail(kUsage, ValueText(wideName) + " is a " + TypeName(present.type) +
+                                                "; give --type to replace it by a value of another type");
             }
         }
         Outcome outcome = Outcome::Found;
         if (type == DataType::Dword) {
-            const auto number = ParseNumber(data, false);
             if (!number) {
                 return console.Fail(kUsage, "\"" + data + "\" is no number from 0 to 4294967295, and " +
-                                                Quoted(wideName) + " is a REG_DWORD");
+                                                ValueText(wideName) + " is a REG_DWORD");
             }
-            const std::byte bytes[] = {std::byte(*number), std::byte(*number >> 8), std::byte(*number >> 16),
-                                       std::byte(*number >> 24)};
-            outcome = transaction.SetValue(id, wideName, {ValueType::Dword, bytes});
+            outcome = transaction.SetValue(id, wideName, DwordBytes(*number).View());
         } else {
             std::vector<std::byte> bytes;
             AppendUtf16Le(wideData, bytes);
@@ -333,82 +436,90 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
     });
 }
 
-int Delete(const StoreChoice& choice, const std::string& key, const std::optional<std::string>& name,
-           const Console& console)
+int Delete(const StoreChoice& choice, const std::string& key, const DeleteOptions& options, const Console& console)
 {
     const auto which = ParseKey(key);
-    const auto wideName = name ? Wide(*name) : std::wstring();
-    if (!name && which.path.empty()) {
-        throw UsageError("a whole hive is not deleted");
+    const auto name = options.name ? Wide(*options.name) : std::wstring();
+    if (!options.name && which.path.empty()) {
+        throw UsageError("refusing to delete a whole hive");
     }
-    return Within(choice, Access::Write, false, console, [&](Transaction& transaction) -> int {
-        Outcome outcome = Outcome::Found;
-        if (name) {
-            KeyId id = 0;
-            outcome = transaction.OpenKey(which.hive, which.path, id);
-            if (outcome == Outcome::Missing) {
-                return NoKey(console, key);
-            }
-            if (outcome == Outcome::Found) {
-                outcome = transaction.DeleteValue(id, wideName);
-            }
-        } else {
-            outcome = transaction.DeleteKey(which.hive, which.path);
-        }
-        if (outcome == Outcome::Missing) {
-            return name ? console.Fail(kNegative, key + " does not hold " + Quoted(wideName)) : NoKey(console, key);
-        }
-        return outcome == Outcome::Failed ? console.Fail(transaction.LastError()) : int{kDone};
-    });
-}
-
-int List(const StoreChoice& choice, const std::string& key, const Console& console)
-{
-    const auto which = key.empty() ? FullKey() : ParseKey(key);
-    return Within(choice, Access::Read, false, console, [&](Transaction& transaction) -> int {
-        if (key.empty()) {
-            static constexpr std::pair<Hive, const char*> kHives[] = {{Hive::LocalMachine, "HKEY_LOCAL_MACHINE"},
-                                                                      {Hive::Users, "HKEY_USERS"},
-                                                                      {Hive::CurrentUser, "HKEY_CURRENT_USER"},
-                                                                      {Hive::ClassesRoot, "HKEY_CLASSES_ROOT"},
-                                                                      {Hive::CurrentConfig, "HKEY_CURRENT_CONFIG"}};
-            for (const auto& [hive, hiveName] : kHives) {
-                KeyId id = 0;
-                bool any = false;
-                const auto note = [&any](auto&&...) {
-                    any = true;
-                    return false;
-                };
-                if (transaction.OpenKey(hive, {}, id) == Outcome::Failed ||
-                    transaction.EnumKeys(id, note) == Outcome::Failed ||
-                    transaction.EnumValues(id, note) == Outcome::Failed) {
-                    return console.Fail(transaction.LastError());
-                }
-                if (any) {
-                    console.out << hiveName << "\\\n";
-                }
-            }
-            return kDone;
-        }
+    Error error;
+    const auto access = options.dryRun ? Access::Read : Access::Write;
+    const auto store = choice.Open(access, error);
+    if (!store) {
+        return console.Fail(error);
+    }
+    std::size_t keys = 0;
+    std::size_t values = 0;
+    const int status = Within(*store, access, console, [&](Transaction& transaction) -> int {
         KeyId id = 0;
         const auto opened = transaction.OpenKey(which.hive, which.path, id);
         if (opened == Outcome::Missing) {
             return NoKey(console, key);
         }
-        const auto keyLine = [&](std::wstring_view name) {
-            console.out << Utf8(name) << "\\\n";
-            return true;
-        };
-        const auto valueLine = [&](std::wstring_view name, const ValueView& value) {
-            console.out << (name.empty() ? std::string("(default)") : Utf8(name)) << '\t' << TypeName(value.type)
-                        << '\t' << DataText(value, "; ") << '\n';
-            return true;
-        };
-        if (opened == Outcome::Failed || transaction.EnumKeys(id, keyLine) == Outcome::Failed ||
-            transaction.EnumValues(id, valueLine) == Outcome::Failed) {
+        if (options.name) {
+            ValueView value;
+            auto outcome = opened == Outcome::Found ? transaction.Query(id, name, value) : opened;
+            if (outcome == Outcome::Missing) {
+                return NoValue(transaction, which, key, name, console);
+            }
+            if (outcome == Outcome::Found && !options.dryRun) {
+                outcome = transaction.DeleteValue(id, name);
+            }
+            return outcome == Outcome::Failed ? console.Fail(transaction.LastError()) : int{kDone};
+        }
+        if (opened == Outcome::Failed || !Count(transaction, which, keys, values)) {
+            return console.Fail(transaction.LastError());
+        }
+        if (keys > 1 && !options.recursive) {
+            return console.Fail(kUsage, "the key " + key + " has " + Counted(keys - 1, "key") +
+                                            " below it; give --recursive to delete them too");
+        }
+        if (!options.dryRun && transaction.DeleteKey(which.hive, which.path) == Outcome::Failed) {
             return console.Fail(transaction.LastError());
         }
         return kDone;
+    });
+    if (status != kDone) {
+        return status;
+    }
+    if (options.dryRun) {
+        return PreviewChanges(
+            *store,
+            [&](RegFileVisitor& visitor, Error& failure) {
+                return options.name ? visitor.Key(which.hive, which.path, failure) && visitor.DeleteValue(name, failure)
+                                    : visitor.DeleteKey(which.hive, which.path, failure);
+            },
+            console);
+    }
+    if (!options.name) {
+        console.err << "deleted " << CountsText(keys, values) << '\n';
+    }
+    return kDone;
+}
+
+int List(const StoreChoice& choice, const std::string& key, bool recursive, const Console& console)
+{
+    const auto which = key.empty() ? FullKey() : ParseKey(key);
+    Error error;
+    const auto store = choice.Open(Access::Read, error);
+    if (!store) {
+        return console.Fail(error);
+    }
+    return Within(*store, Access::Read, console, [&](Transaction& transaction) -> int {
+        Lister lister(transaction, recursive, console);
+        KeyId id = 0;
+        bool listed = false;
+        if (key.empty()) {
+            listed = lister.ListHives();
+        } else {
+            const auto opened = transaction.OpenKey(which.hive, which.path, id);
+            if (opened == Outcome::Missing) {
+                return NoKey(console, key);
+            }
+            listed = opened == Outcome::Found && lister.ListOpened(id, which, {});
+        }
+        return listed ? int{kDone} : console.Fail(transaction.LastError());
     });
 }
 

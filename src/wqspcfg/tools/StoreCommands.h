@@ -1,6 +1,7 @@
 // The commands that show and change a store. Each returns its exit status.
 #pragma once
 
+#include "wqspcfg/platform/store/regfile/RegFile.h"
 #include "wqspcfg/tools/Console.h"
 
 #include <optional>
@@ -9,11 +10,14 @@
 
 namespace wqspcfg::tools {
 
-int Import(const StoreChoice& choice, const std::vector<std::string>& files, const Console& console);
+// With `dryRun`, these commands print what they would change and change nothing.
+int Import(const StoreChoice& choice, const std::vector<std::string>& files, bool dryRun, const Console& console);
+int Restore(const StoreChoice& choice, const std::string& file, bool dryRun, const Console& console);
+
 // An empty key exports the whole store; an empty file is standard output.
-int Export(const StoreChoice& choice, const std::string& key, const std::string& file, const Console& console);
+int Export(const StoreChoice& choice, const std::string& key, const std::string& file, ExportEncoding encoding,
+           const Console& console);
 int BackUp(const StoreChoice& choice, const std::string& file, const Console& console);
-int Restore(const StoreChoice& choice, const std::string& file, const Console& console);
 int Get(const StoreChoice& choice, const std::string& key, const std::string& name, const Console& console);
 
 enum class DataType
@@ -24,9 +28,16 @@ enum class DataType
 };
 int Set(const StoreChoice& choice, const std::string& key, const std::string& name, const std::string& data,
         DataType type, const Console& console);
-// Without a name, the key and all below it.
-int Delete(const StoreChoice& choice, const std::string& key, const std::optional<std::string>& name,
-           const Console& console);
-int List(const StoreChoice& choice, const std::string& key, const Console& console);
+
+struct DeleteOptions
+{
+    std::optional<std::string> name; // of one value; none: the key
+    bool recursive = false;          // the key's subkeys too; without it a key that has some is refused
+    bool dryRun = false;
+};
+int Delete(const StoreChoice& choice, const std::string& key, const DeleteOptions& options, const Console& console);
+
+// An empty key lists the hives. With `recursive`, all below it: each line begins with the path from the key on.
+int List(const StoreChoice& choice, const std::string& key, bool recursive, const Console& console);
 
 } // namespace wqspcfg::tools

@@ -1,4 +1,5 @@
 #include "wqspcfg/platform/store/LockWait.h"
+#include "wqspcfg/platform/text/DisplayText.h"
 #include "wqspcfg/tools/CommandLine.h"
 
 #include <iostream>
@@ -12,7 +13,24 @@
 #include <io.h>
 #include <shellapi.h>
 #else
-#include "wqspcfg/platform/store/PosixFile.h"
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+// Where a standard file was closed when the program was started, another file must not get its number: a store would
+// be overwritten by a message. Reading and writing data fail as they would with the closed file; messages are lost.
+void FillStandardFiles()
+{
+    constexpr int kModes[] = {O_WRONLY, O_RDONLY, O_WRONLY};
+    for (int fd = 0; fd < 3; ++fd) {
+        if (fcntl(fd, F_GETFD) < 0 && open("/dev/null", kModes[fd]) < 0) {
+            _exit(3);
+        }
+    }
+}
+
+} // namespace
 #endif
 
 int main(int argc, char** argv)
@@ -36,18 +54,17 @@ int main(int argc, char** argv)
     // Registry exports pass through unchanged.
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
+    const bool outIsTerminal = _isatty(_fileno(stdout)) != 0;
 #else
-    // No file that is opened later takes the place of a standard file that is missing.
-    if (wqspcfg::FillStandardDescriptors() != 0) {
-        return 3;
-    }
+    FillStandardFiles();
     arguments.assign(argv + (argc > 0 ? 1 : 0), argv + argc);
     std::ios::sync_with_stdio(false);
+    const bool outIsTerminal = isatty(STDOUT_FILENO) != 0;
 #endif
     wqspcfg::SetLockWaitHandler([](const wqspcfg::LockWait& wait) {
         std::cerr << "wqspcfg: waiting for "
                   << (wait.process == 0 ? "another process" : "process " + std::to_string(wait.process))
-                  << ", which is writing to " << wait.address << std::endl;
+                  << ", which is writing to " << wqspcfg::DisplayText(wait.address) << std::endl;
     });
-    return wqspcfg::tools::Run(arguments, std::cin, std::cout, std::cerr);
+    return wqspcfg::tools::Run(arguments, std::cin, std::cout, std::cerr, outIsTerminal);
 }

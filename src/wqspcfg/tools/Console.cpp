@@ -1,0 +1,102 @@
+#include "wqspcfg/tools/Console.h"
+
+#include "wqspcfg/platform/text/CodePage.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace wqspcfg::tools {
+
+namespace {
+
+constexpr std::string_view kEmbedded = "lmdb:";
+
+} // namespace
+
+std::string StoreChoice::Address() const
+{
+    if (address) {
+        if (address->empty()) {
+            throw UsageError("--store is given an empty address; leave it out for the default store");
+        }
+        return *address;
+    }
+    const auto* variable = std::getenv("WQSPCFG_STORE");
+    if (variable != nullptr && *variable == '\0') {
+        throw UsageError("the environment variable WQSPCFG_STORE is empty; unset it for the default store");
+    }
+    return DefaultStoreAddress();
+}
+
+void StoreChoice::Check(bool isImport) const
+{
+    const auto store = Address();
+    const bool isFile = store.starts_with("reg:");
+    if (view32 && store == "windows:64") {
+        throw UsageError("--view32 contradicts windows:64, which is the view of 64-bit programs");
+    }
+    if (view32 && !isFile && !isImport && !store.starts_with("windows:")) {
+        throw UsageError("--view32 applies to import and to reg: and windows: stores, not to " + store);
+    }
+    if (codePage != 0 && !isFile && !isImport) {
+        throw UsageError("--codepage applies to import and to reg: stores, not to " + store);
+    }
+    if (codePage != 0 && CodePage::Open(codePage) == nullptr) {
+        throw UsageError("--codepage: code page " + std::to_string(codePage) + " is not known on this system");
+    }
+}
+
+std::shared_ptr<Store> StoreChoice::Open(Access access, Error& error, bool isImport) const
+{
+    Check(isImport);
+    const OpenOptions options{
+        .readOnly = access == Access::Read, .create = false, .view32 = view32, .codePage = codePage};
+    return OpenStore(Address(), options, error);
+}
+
+std::shared_ptr<Store> StoreChoice::OpenOrCreate(const Console& console, Error& error, bool isImport) const
+{
+    Check(isImport);
+    const bool existed = Exists();
+    const OpenOptions options{.readOnly = false, .create = true, .view32 = view32, .codePage = codePage};
+    auto store = OpenStore(Address(), options, error);
+    if (store && !existed) {
+        NoteCreated(console);
+    }
+    return store;
+}
+
+bool StoreChoice::Exists() const
+{
+    auto directory = Address();
+    if (!directory.starts_with(kEmbedded)) {
+        return true;
+    }
+    directory.erase(0, kEmbedded.size());
+    std::error_code code;
+    return std::filesystem::exists(
+        std::filesystem::path(std::u8string(directory.begin(), directory.end())) / "data.mdb", code);
+}
+
+void StoreChoice::NoteCreated(const Console& console) const
+{
+    if (Exists()) {
+        console.Note("created the store " + Address());
+    }
+}
+
+std::wstring Wide(const std::string& utf8)
+{
+    std::wstring text;
+    if (!AppendWideFromUtf8(utf8, text)) {
+        throw UsageError("the argument \"" + utf8 + "\" is not well-formed UTF-8");
+    }
+    return text;
+}
+
+std::string Counted(std::size_t count, const std::string& thing)
+{
+    return std::to_string(count) + ' ' + thing + (count == 1 ? "" : "s");
+}
+
+} // namespace wqspcfg::tools

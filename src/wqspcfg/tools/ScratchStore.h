@@ -1,0 +1,31 @@
+// A store under a sheet of paper: it reads what another store holds, and keeps what is written in memory.
+#pragma once
+
+#include "wqspcfg/platform/store/Store.h"
+#include "wqspcfg/platform/store/memory/MemoryStore.h"
+#include "wqspcfg/platform/store/regfile/RegFile.h"
+
+#include <atomic>
+#include <memory>
+
+namespace wqspcfg::tools {
+
+// What is written is seen by every transaction that begins later. Nothing can be deleted.
+class ScratchStore final : public Store
+{
+  public:
+    explicit ScratchStore(std::shared_ptr<Store> base) : m_base(std::move(base)), m_written(m_base->Address()) {}
+
+    std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
+    const std::string& Address() const noexcept override { return m_base->Address(); }
+
+    // Tells what was written, key by key.
+    bool Visit(RegFileVisitor& visitor, Error& error);
+
+  private:
+    std::shared_ptr<Store> m_base;
+    MemoryStore m_written;
+    std::atomic<bool> m_hasWrites = false;
+};
+
+} // namespace wqspcfg::tools

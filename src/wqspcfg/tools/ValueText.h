@@ -1,0 +1,36 @@
+// Keys and values as the program reads and shows them.
+#pragma once
+
+#include "wqspcfg/platform/base/WinTypes.h"
+#include "wqspcfg/platform/store/Store.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace wqspcfg::tools {
+
+struct FullKey
+{
+    Hive hive = Hive::LocalMachine;
+    std::wstring path;
+};
+
+// Throws UsageError where the text does not begin with a hive.
+FullKey ParseKey(const std::string& text);
+// With the hive's long name.
+std::wstring KeyText(const FullKey& key);
+
+// In decimal, or in hexadecimal after "0x".
+std::optional<DWORD> ParseNumber(std::wstring_view text);
+
+std::string TypeName(ValueType type);
+
+// A number in decimal, text as it stands (each string of a REG_MULTI_SZ after the other, `separator` between them),
+// everything else as hexadecimal bytes.
+std::wstring DataText(const ValueView& value, std::wstring_view separator);
+
+// `the default value`, or `the value "NAME"`.
+std::string ValueText(std::wstring_view name);
+
+} // namespace wqspcfg::tools
