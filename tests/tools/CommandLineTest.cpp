@@ -1,6 +1,8 @@
 #include "wqspcfg/tools/CommandLine.h"
 
 #include "support/ConfigTest.h"
+#include "support/StoreTesting.h"
+#include "support/TestPaths.h"
 #include "wqspcfg/platform/store/Session.h"
 
 #include <gtest/gtest.h>
@@ -249,7 +251,6 @@ TEST_F(CommandLineTest, ExportsComeBackTheSame)
     EXPECT_TRUE(m_out == whole);
     EXPECT_EQ(RunOn("reg:" + File("all.reg"), {"export"}), 0);
     EXPECT_TRUE(m_out == whole);
-    EXPECT_FALSE(std::filesystem::exists(File("all.reg.tmp")));
 
     // An export that fails leaves the file that is there.
     EXPECT_EQ(Run({"export", "HKLM\\None", "-o", File("all.reg")}), 1);
@@ -292,7 +293,72 @@ TEST_F(CommandLineTest, ABackupBringsTheStoreBack)
         EXPECT_GT(std::filesystem::file_size(File("target")), 0U);
     }
     EXPECT_EQ(Run({"export", "-o", "/dev/full"}), 3);
+    EXPECT_EQ(m_err, "wqspcfg: cannot write /dev/full: No space left on device\n");
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+}
+
+// Nobody reads an export who could not read the store and the file that it replaces, and no name that somebody could
+// guess is written to.
+TEST_F(CommandLineTest, AnExportIsAFileOfItsOwn)
+{
+    using std::filesystem::perms;
+    const auto rights = [](const std::string& path) { return std::filesystem::status(path).permissions(); };
+    MakeTerminal();
+    ASSERT_EQ(Run({"export"}), 0);
+    const auto content = m_out;
+    std::filesystem::permissions(File("store") + "/data.mdb", perms::owner_read | perms::owner_write);
+    std::ofstream(File("victim")) << "keep";
+    std::filesystem::create_symlink(File("victim"), File("out.reg.tmp"));
+    ASSERT_EQ(Run({"export", "-o", File("out.reg")}), 0) << m_err;
+    EXPECT_TRUE(test::ReadFile(File("out.reg")) == content);
+    EXPECT_EQ(rights(File("out.reg")), perms::owner_read | perms::owner_write);
+    EXPECT_EQ(test::ReadFile(File("victim")), "keep");
+    std::filesystem::permissions(File("store") + "/data.mdb",
+                                 perms::owner_read | perms::owner_write | perms::others_read);
+    ASSERT_EQ(Run({"export", "-o", File("out.reg")}), 0) << m_err;
+    EXPECT_EQ(rights(File("out.reg")), perms::owner_read | perms::owner_write) << "as the old file";
+
+    // Several at once leave a whole file.
+    std::vector<std::thread> others;
+    std::atomic<int> failed = 0;
+    for (int i = 0; i < 4; ++i) {
+        others.emplace_back([&] {
+            for (int turn = 0; turn < 5; ++turn) {
+                std::istringstream in;
+                std::ostringstream out;
+                std::ostringstream err;
+                failed += tools::Run({"--store", StoreAddress(), "export", "-o", File("out.reg")}, in, out, err) != 0;
+            }
+        });
+    }
+    for (auto& other : others) {
+        other.join();
+    }
+    EXPECT_EQ(failed, 0);
+    EXPECT_TRUE(test::ReadFile(File("out.reg")) == content);
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(m_directory)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{"out.reg", "out.reg.tmp", "store", "victim"}));
+}
+
+// A program that was started without its standard files opens none of its own in their place.
+TEST_F(CommandLineTest, ClosedStandardFilesAreNoStoreFiles)
+{
+    MakeTerminal();
+    const auto run = [this](const std::string& arguments) {
+        const auto line = std::string(test::kProgram) + " --store " + StoreAddress() + ' ' + arguments;
+        return WEXITSTATUS(std::system(line.c_str()));
+    };
+    EXPECT_EQ(run("ls 'HKLM\\NONE' >&- 2>&-"), 1);
+    EXPECT_EQ(run("load Svc <&- >&- 2>&-"), 3) << "its lines cannot be written";
+    EXPECT_EQ(run("import - <&- >&- 2>&-"), 3);
+    EXPECT_EQ(run("export -o " + File("out.reg") + " <&- >&- 2>&-"), 0);
+    EXPECT_EQ(run("set 'HKLM\\a' x 1 >&- 2>&-"), 0);
+    EXPECT_EQ(Run({"get", "HKLM\\a", "x"}), 0) << m_err;
+    EXPECT_EQ(RunOn("reg:" + File("out.reg"), {"get", kComm, "BaudRate"}), 0) << m_err;
 }
 
 TEST_F(CommandLineTest, AServiceIsLoadedByTheModelThatItTells)

@@ -3,12 +3,12 @@
 #include "wqspcfg/platform/store/Backup.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
+#include "wqspcfg/tools/OutputFile.h"
 #include "wqspcfg/tools/Preview.h"
 #include "wqspcfg/tools/ValueText.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 namespace wqspcfg::tools {
 
@@ -280,49 +280,11 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
     const auto write = [&](std::ostream& output) {
         const bool done = key.empty() ? ExportRegFile(*store, output, error, encoding)
                                       : ExportRegFile(*store, which.hive, which.path, output, error, encoding);
-        return done ? int{kDone} : console.Fail(error.kind == ErrorKind::NotFound ? kNegative : kFailed, error.message);
+        // That the output cannot be written is told by whoever it belongs to.
+        return done || !output ? int{kDone}
+                               : console.Fail(error.kind == ErrorKind::NotFound ? kNegative : kFailed, error.message);
     };
-    if (file.empty()) {
-        return write(console.out);
-    }
-    std::filesystem::path path(std::u8string(file.begin(), file.end()));
-    std::error_code code;
-    if (std::filesystem::exists(path, code)) {
-        // A link stays a link, and a device or pipe is written to.
-        if (const auto real = std::filesystem::canonical(path, code); !code) {
-            path = real;
-        }
-        if (!std::filesystem::is_regular_file(path, code)) {
-            std::ofstream output(path, std::ios::binary);
-            const int status = output ? write(output) : kDone;
-            return output.flush() ? status : console.Fail(kFailed, file + ": cannot be written");
-        }
-    }
-    // An export that fails leaves the old file.
-    auto temporary = path;
-    temporary += ".tmp";
-    int status = kDone;
-    {
-        std::ofstream output(temporary, std::ios::binary | std::ios::trunc);
-        if (!output) {
-            return console.Fail(kFailed, file + ": cannot be written");
-        }
-        status = write(output);
-        output.close();
-        if (status == kDone && !output) {
-            status = console.Fail(kFailed, file + ": cannot be written");
-        }
-    }
-    if (status == kDone) {
-        std::filesystem::rename(temporary, path, code);
-        if (code) {
-            status = console.Fail(kFailed, file + ": " + code.message());
-        }
-    }
-    if (status != kDone) {
-        std::filesystem::remove(temporary, code);
-    }
-    return status;
+    return file.empty() ? write(console.out) : WriteOutputFile(file, store->FilePath(), write, console);
 }
 
 int BackUp(const StoreChoice& choice, const std::string& file, const Console& console)

@@ -1,0 +1,116 @@
+#include "wqspcfg/tools/OutputFile.h"
+
+#include "wqspcfg/platform/store/AtomicFile.h"
+
+#if defined(_WIN32)
+#include <fstream>
+#else
+#include "wqspcfg/platform/store/PosixFile.h"
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+#include <filesystem>
+#include <streambuf>
+
+namespace wqspcfg::tools {
+
+namespace {
+
+// A stream into a function that takes bytes and tells whether it could.
+class SinkBuffer final : public std::streambuf
+{
+  public:
+    explicit SinkBuffer(std::function<bool(std::string_view)> sink) : m_sink(std::move(sink)) {}
+
+  protected:
+    int_type overflow(int_type ch) override
+    {
+        const auto byte = traits_type::to_char_type(ch);
+        return traits_type::eq_int_type(ch, traits_type::eof()) || m_sink({&byte, 1}) ? traits_type::not_eof(ch)
+                                                                                      : traits_type::eof();
+    }
+    std::streamsize xsputn(const char* text, std::streamsize size) override
+    {
+        return m_sink({text, static_cast<std::size_t>(size)}) ? size : 0;
+    }
+
+  private:
+    std::function<bool(std::string_view)> m_sink;
+};
+
+int WriteRegularFile(const std::string& file, const std::string& source, const std::function<int(std::ostream&)>& write,
+                     const Console& console)
+{
+    AtomicFile target;
+    Error error;
+    if (!target.Open(file, source, error)) {
+        return console.Fail(error);
+    }
+    SinkBuffer buffer([&](std::string_view bytes) { return target.Write(bytes, error); });
+    std::ostream output(&buffer);
+    const int status = write(output);
+    return !error && (status != kDone || target.Commit(error)) ? status : console.Fail(error);
+}
+
+#if defined(_WIN32)
+
+int WriteDevice(const std::string& file, const std::function<int(std::ostream&)>& write, const Console& console)
+{
+    std::ofstream output(std::filesystem::path(std::u8string(file.begin(), file.end())), std::ios::binary);
+    const int status = output ? write(output) : kDone;
+    return output.flush() ? status : console.Fail(kFailed, "cannot write " + file);
+}
+
+#else
+
+int WriteDevice(const std::string& file, const std::function<int(std::ostream&)>& write, const Console& console)
+{
+    // Neither made nor cut: another file may stand under its name by now.
+    const auto device = OpenFile(file, O_WRONLY | O_NOCTTY);
+    struct stat status
+    {};
+    if (!device || fstat(device.Get(), &status) != 0) {
+        return console.Fail(SystemError("write", file, errno));
+    }
+    if (S_ISREG(status.st_mode)) {
+        return console.Fail(kFailed, "cannot write " + file + ": another file was put in its place");
+    }
+    int failure = 0;
+    SinkBuffer buffer([&](std::string_view bytes) {
+        while (!bytes.empty()) {
+            const auto written = ::write(device.Get(), bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) {
+                continue;
+            }
+            if (written < 0) {
+                failure = errno;
+                return false;
+            }
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return true;
+    });
+    std::ostream output(&buffer);
+    const int result = write(output);
+    return result == kDone && failure != 0 ? console.Fail(SystemError("write", file, failure)) : result;
+}
+
+#endif
+
+} // namespace
+
+int WriteOutputFile(const std::string& file, const std::string& source, const std::function<int(std::ostream&)>& write,
+                    const Console& console)
+{
+    std::error_code code;
+    const auto status = std::filesystem::status(std::filesystem::path(std::u8string(file.begin(), file.end())), code);
+    return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status) &&
+                   !std::filesystem::is_directory(status)
+               ? WriteDevice(file, write, console)
+               : WriteRegularFile(file, source, write, console);
+}
+
+} // namespace wqspcfg::tools
