@@ -16,6 +16,7 @@ install(
     PATTERN "memory" EXCLUDE
     PATTERN "windows" EXCLUDE
     PATTERN "RegFileStore.h" EXCLUDE
+    PATTERN "View32.h" EXCLUDE
     PATTERN "FlatKey.h" EXCLUDE
     PATTERN "FlatTransaction.h" EXCLUDE
     PATTERN "Record.h" EXCLUDE)
@@ -28,6 +29,12 @@ install(
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 if(TARGET wqspcfg)
     install(TARGETS wqspcfg RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    if(NOT WIN32 AND NOT CMAKE_CROSSCOMPILING)
+        install(FILES "${PROJECT_BINARY_DIR}/wqspcfg.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+        install(FILES "${PROJECT_BINARY_DIR}/wqspcfg.bash"
+                DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+                RENAME wqspcfg)
+    endif()
 endif()
 
 install(EXPORT WQSpCfgTargets NAMESPACE WQSpCfg:: DESTINATION ${package_dir})

@@ -30,9 +30,9 @@ struct ModelSelection
     std::wstring reason;     // for a person: which name or value decided
 };
 
-// A model whose name one of the service's names equals, then one whose name is part of it or that it is part of, and
-// else the class base of the class value. Names compare without regard to case and without "WQSp" or "Sp" before them.
-// A service of no known class gets CRegInfo.
+// Tries in this order: a model whose name is one of the service's names; a model whose name is part of one of them; the
+// only model whose name one of them is part of; the class base of the class value; CRegInfo. Names are compared without
+// regard to case and without "WQSp" or "Sp" before them.
 WQSPCFG_API ModelSelection SelectModel(const ServiceIdentity& service);
 
 // For a person: how the service's class value contradicts the class. Empty where it does not.

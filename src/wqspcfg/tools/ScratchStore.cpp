@@ -134,7 +134,7 @@ class ScratchTransaction final : public Transaction
                                           : outcome;
     }
 
-    Outcome Refuse() { return Fail(ErrorKind::Unsupported, "nothing is deleted from a store that is only tried on"); }
+    Outcome Refuse() { return Fail(ErrorKind::Unsupported, "a scratch store cannot delete"); }
 
     bool Open(Transaction& transaction, const OpenedKey& opened, std::optional<KeyId>& key)
     {

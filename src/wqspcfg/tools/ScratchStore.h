@@ -1,4 +1,4 @@
-// A store under a sheet of paper: it reads what another store holds, and keeps what is written in memory.
+// A store that reads from another one and keeps in memory what is written to it: the other one is never changed.
 #pragma once
 
 #include "wqspcfg/platform/store/Store.h"

@@ -384,7 +384,7 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
         Outcome outcome = Outcome::Found;
         if (type == DataType::Dword) {
             if (!number) {
-                return console.Fail(kUsage, "\"" + data + "\" is no number from 0 to 4294967295, and " +
+                return console.Fail(kUsage, "\"" + data + "\" is not a number from 0 to 4294967295, and " +
                                                 ValueText(wideName) + " is a REG_DWORD");
             }
             outcome = transaction.SetValue(id, wideName, DwordBytes(*number).View());

@@ -237,7 +237,7 @@ TEST(RegFileTest, ReadsNoMoreOfAFileThatIsNoExport)
         RegFileContent content;
         Error error;
         EXPECT_FALSE(content.Read(input, "f.reg", {}, error));
-        EXPECT_NE(error.message.find("this is no registry export"), std::string::npos) << error.message;
+        EXPECT_NE(error.message.find("this is not a registry export"), std::string::npos) << error.message;
         EXPECT_LE(buffer.Given(), std::size_t{1} << 20) << error.message;
     }
 }
@@ -337,10 +337,10 @@ TEST(RegFileTest, SaysWhatIsWrongAndWhere)
         {"\"x\"=\"a\" b", "3: text after the value's data: \"b\""},
         {"\"x\"=\"a\"\"b\"", "3: text after"},
         {"\"x\"=-1", "3: text after"},
-        {"x=dword:1", "3: neither a key in brackets"},
+        {"x=dword:1", "3: expected a key in brackets"},
         {"[HKLM\\a", "3: the bracket of the key is not closed"},
-        {"[HKXX\\a]", "3: the key begins with no known hive"},
-        {"[]", "3: the key begins with no known hive"},
+        {"[HKXX\\a]", "3: the key does not begin with a known hive"},
+        {"[]", "3: the key does not begin with a known hive"},
         {"[HKLM\\a] x", "3: text after the key's closing bracket"},
         {"[-HKLM\\a]\n\"x\"=dword:1", "4: a value without a key"},
         {std::string("\"a\0b\"=dword:1", 13), "3: the value's name holds a NUL"},
@@ -353,11 +353,11 @@ TEST(RegFileTest, SaysWhatIsWrongAndWhere)
         EXPECT_EQ(ImportedLines(line + "\n").find("f.reg:" + message), 0U) << line << " gave " << ImportedLines(line);
     }
     const std::pair<std::string, std::string> files[] = {
-        {"", "f.reg:1: this is no registry export"},
-        {"\"quoted\nfile\"\n", "f.reg:1: this is no registry export: it begins with \"\"quoted\""},
-        {"\n\n", "f.reg:3: this is no registry export"},
-        {"\n[HKLM\\a]\n", "f.reg:2: this is no registry export: it begins with \"[HKLM\\a]\""},
-        {"Windows Registry Editor Version 6.00\n", "f.reg:1: this is no registry export"},
+        {"", "f.reg:1: this is not a registry export"},
+        {"\"quoted\nfile\"\n", "f.reg:1: this is not a registry export: it begins with \"\"quoted\""},
+        {"\n\n", "f.reg:3: this is not a registry export"},
+        {"\n[HKLM\\a]\n", "f.reg:2: this is not a registry export: it begins with \"[HKLM\\a]\""},
+        {"Windows Registry Editor Version 6.00\n", "f.reg:1: this is not a registry export"},
         {"Windows Registry Editor Version 5.00\n\"x\"=dword:1\n", "f.reg:2: a value without a key"},
         {std::string("\xFE\xFF\0W", 4), "f.reg:1: UTF-16 with the high byte first"},
         {Utf16File("Windows Registry Editor Version 5.00\n") + "x", "f.reg:2: the file ends in the middle"},

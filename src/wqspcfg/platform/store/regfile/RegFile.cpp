@@ -280,8 +280,9 @@ class RegFileParser::Impl
         }
         if (!m_isAnsi) {
             return AppendUtf16FromUtf8(line, m_text) ||
-                   FailUndecoded(ErrorKind::BadText, isFirst ? "this is no registry export: its first line is no text"
-                                                             : "the text is not well-formed UTF-8");
+                   FailUndecoded(ErrorKind::BadText, isFirst
+                                                         ? "this is not a registry export: its first line is not text"
+                                                         : "the text is not well-formed UTF-8");
         }
         if (m_codePage == nullptr) {
             m_undecided = line;
@@ -422,7 +423,7 @@ class RegFileParser::Impl
         case u'@':
             return ParseValue(line, at);
         default:
-            return FailAt(at, "neither a key in brackets nor a value nor a comment: " + Shown(line.substr(at)));
+            return FailAt(at, "expected a key in brackets, a value or a comment, not " + Shown(line.substr(at)));
         }
     }
 
@@ -433,7 +434,7 @@ class RegFileParser::Impl
         } else if (line == kVersion4) {
             m_version = 4;
         } else {
-            return FailAt(0, "this is no registry export: it begins with " + Shown(line));
+            return FailAt(0, "this is not a registry export: it begins with " + Shown(line));
         }
         return true;
     }
@@ -458,7 +459,7 @@ class RegFileParser::Impl
         Hive hive{};
         std::wstring_view path;
         if (!SplitHive(m_wide, hive, path)) {
-            return FailAt(at, "the key begins with no known hive: " + Shown(line.substr(at)));
+            return FailAt(at, "the key does not begin with a known hive: " + Shown(line.substr(at)));
         }
         if (path.find(L'\0') != std::wstring_view::npos) {
             return FailAt(at, "the key's name holds a NUL");
@@ -687,9 +688,9 @@ class RegFileParser::Impl
         m_data.assign(first, first + count);
     }
 
-    static constexpr std::string_view kNoFirstLine = "this is no registry export: its first line is missing";
+    static constexpr std::string_view kNoFirstLine = "this is not a registry export: its first line is missing";
     static constexpr std::string_view kFirstLineIsLong =
-        "this is no registry export: its first line is longer than that of any export";
+        "this is not a registry export: its first line is longer than that of any export";
     static constexpr std::string_view kUnknownCodePage =
         "the text is neither ASCII nor UTF-8; give its code page with --codepage, such as 936 or 1252";
 
