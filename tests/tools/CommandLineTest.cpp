@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <sstream>
 #include <thread>
 
@@ -508,10 +509,32 @@ TEST_F(CommandLineTest, ADryRunTellsAllAndChangesNothing)
     ASSERT_EQ(Run({"get", kComm, "Port"}), 0);
     EXPECT_EQ(m_out, "5\n");
 
+    EXPECT_EQ(RunOn("memory:", {"restore", "--dry-run", File("b")}), 3);
+
     // A store that is not there yet is not made.
     ASSERT_EQ(RunOn("lmdb:" + File("none"), {"import", "--dry-run", "-"}, "REGEDIT4\n[HKLM\\a]\n"), 0) << m_err;
     EXPECT_EQ(m_out, "+ HKEY_LOCAL_MACHINE\\a\\\n");
     EXPECT_FALSE(std::filesystem::exists(File("none")));
+}
+
+TEST_F(CommandLineTest, AnEmptyVariableIsNoStore)
+{
+    const auto* given = std::getenv("WQSPCFG_STORE");
+    const auto kept = given != nullptr ? std::optional<std::string>(given) : std::nullopt;
+    const auto list = [this] {
+        std::istringstream in;
+        std::ostringstream out;
+        std::ostringstream err;
+        const int status = tools::Run({"ls"}, in, out, err);
+        m_err = err.str();
+        return status;
+    };
+    setenv("WQSPCFG_STORE", "", 1);
+    EXPECT_EQ(list(), 2);
+    EXPECT_NE(m_err.find("WQSPCFG_STORE is empty"), std::string::npos) << m_err;
+    setenv("WQSPCFG_STORE", "memory:", 1);
+    EXPECT_EQ(list(), 0) << m_err;
+    kept ? setenv("WQSPCFG_STORE", kept->c_str(), 1) : unsetenv("WQSPCFG_STORE");
 }
 
 TEST_F(CommandLineTest, AStoreThatIsMadeIsNamed)

@@ -123,6 +123,9 @@ class PrivateDirectory
 // Restores the backup to a store of its own, and compares the two.
 int PreviewRestore(const StoreChoice& choice, const std::string& file, const Console& console)
 {
+    if (!choice.Address().starts_with("lmdb:")) {
+        return Restore(choice, file, false, console); // refuses, and says why
+    }
     Error error;
     std::shared_ptr<Store> before;
     if (choice.Exists() && !(before = choice.Open(Access::Read, error))) {

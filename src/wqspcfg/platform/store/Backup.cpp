@@ -11,8 +11,8 @@ namespace {
 bool Refuse(std::string_view address, Error& error)
 {
     error = {ErrorKind::Unsupported,
-             std::string(address) + ": only an embedded store (lmdb:DIRECTORY), which there is none of on Windows, is "
-                                    "backed up and restored; others are exported and imported"};
+             std::string(address) + ": backup and restore need an embedded store (lmdb:DIRECTORY, not on Windows); use "
+                                    "export and import"};
     return false;
 }
 

@@ -88,8 +88,8 @@ std::shared_ptr<Store> OpenStore(std::string_view address, const OpenOptions& op
     }
 #endif
     error = {ErrorKind::BadArgument,
-             "\"" + whole +
-                 "\" is no store; stores are windows:, windows:32, windows:64, lmdb:DIRECTORY, memory: and reg:FILE"};
+             "unknown store address \"" + whole +
+                 "\"; expected windows:, windows:32, windows:64, lmdb:DIRECTORY, memory: or reg:FILE"};
     return nullptr;
 }
 

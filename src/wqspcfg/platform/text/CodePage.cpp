@@ -110,7 +110,7 @@ class SystemPage final : public CodePage
 std::unique_ptr<CodePage> OpenSystemPage(unsigned number)
 {
     const auto converter = iconv_open("UTF-16LE", NameOf(number).c_str());
-    if (converter == reinterpret_cast<iconv_t>(-1)) { // NOLINT(performance-no-int-to-ptr): as iconv has it
+    if (converter == reinterpret_cast<iconv_t>(-1)) {
         return nullptr;
     }
     return std::make_unique<SystemPage>(converter);
