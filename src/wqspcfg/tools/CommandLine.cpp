@@ -1,5 +1,6 @@
 #include "wqspcfg/tools/CommandLine.h"
 
+#include "wqspcfg/tools/MaintenanceCommands.h"
 #include "wqspcfg/tools/ReferenceText.h"
 #include "wqspcfg/tools/ServiceCommands.h"
 #include "wqspcfg/tools/StoreCommands.h"
@@ -78,6 +79,13 @@ int Execute(std::vector<std::string> arguments, const Console& console)
         [&] { return Restore(store, file, console); })
         ->add_option("FILE", file, "A file that backup has written")
         ->required();
+
+    add("compact", "Give the space that the embedded store, which may be in use, no longer needs back",
+        [&] { return Compact(store, console); });
+    bool verify = false;
+    add("status", "Show the embedded store's size, its free space, its readers and its last writer", [&] {
+        return ShowStatus(store, verify, console);
+    })->add_flag("--verify", verify, "Check every page and value too; exit status 1 when one is damaged");
 
     std::string name;
     auto* get = add("get", "Print one value", [&] { return Get(store, key, name, console); });
