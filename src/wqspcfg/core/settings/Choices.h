@@ -5,11 +5,24 @@
 
 #include "wqspcfg/platform/base/WinTypes.h"
 
+#include <cstddef>
 #include <string_view>
 
 namespace wqspcfg {
 
 namespace choices {
+
+// Where `part` begins in `text`, or npos. GCC 12 does not take the standard one for constant where the
+// undefined-behaviour sanitizer watches.
+constexpr std::size_t Find(std::wstring_view text, std::wstring_view part)
+{
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text.substr(at).starts_with(part)) {
+            return at;
+        }
+    }
+    return std::wstring_view::npos;
+}
 
 constexpr bool TakeText(std::wstring_view& text, std::wstring_view expected)
 {
@@ -72,7 +85,7 @@ template <class F>
 constexpr bool VisitList(std::wstring_view list, F visit)
 {
     while (true) {
-        const auto end = list.find(L"; ");
+        const auto end = Find(list, L"; ");
         if (!VisitItem(list.substr(0, end), visit)) {
             return false;
         }
@@ -94,7 +107,7 @@ constexpr bool ForEachChoice(std::wstring_view meaning, F visit)
         if (choices::VisitList(list, [](DWORD, std::wstring_view) {})) {
             return choices::VisitList(list, visit);
         }
-        const auto colon = list.find(L": ");
+        const auto colon = choices::Find(list, L": ");
         if (colon == std::wstring_view::npos) {
             return false;
         }
