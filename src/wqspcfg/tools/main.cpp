@@ -64,7 +64,7 @@ int main(int argc, char** argv)
     wqspcfg::SetLockWaitHandler([](const wqspcfg::LockWait& wait) {
         std::cerr << "wqspcfg: waiting for "
                   << (wait.process == 0 ? "another process" : "process " + std::to_string(wait.process))
-                  << ", which is writing to " << wqspcfg::DisplayText(wait.address) << std::endl;
+                  << ", which is writing to " << wqspcfg::DisplayText(wait.address) << '\n';
     });
     return wqspcfg::tools::Run(arguments, std::cin, std::cout, std::cerr, outIsTerminal);
 }

@@ -394,6 +394,17 @@ TEST_P(StoreContract, RefusesWhatItCannotKeep)
     EXPECT_NE(transaction->LastError().message.find("kkk"), std::string::npos) << transaction->LastError().message;
     EXPECT_TRUE(refused(transaction->SetValue(key, std::wstring(16384, L'v'), {ValueType::Dword, DwordBytes(1)}),
                         ErrorKind::TooLong));
+    KeyId other = 0;
+    for (const auto* name : {L"two\nlines", L"return\r", L"escape\x1B[2J", L"deleted\x7F", L"next\u0085line"}) {
+        EXPECT_TRUE(refused(transaction->CreateKey(hive, At(name), other), ErrorKind::BadText)) << name;
+        EXPECT_EQ(transaction->OpenKey(hive, At(name), other), Outcome::Missing);
+    }
+    std::wstring deep;
+    for (int level = 0; level < 100000; ++level) {
+        deep += L"\\k";
+    }
+    EXPECT_TRUE(refused(transaction->CreateKey(hive, At(deep), other), ErrorKind::TooLong));
+    EXPECT_LT(transaction->LastError().message.size(), 2000U);
     // What was refused leaves the transaction usable.
     EXPECT_EQ(transaction->SetValue(key, L"good", {ValueType::Dword, DwordBytes(1)}), Outcome::Found);
     EXPECT_EQ(transaction->Commit(false), Outcome::Found);

@@ -3,6 +3,7 @@
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/platform/text/Utf.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <type_traits>
@@ -64,7 +65,21 @@ const HiveEntry& EntryOf(Hive hive)
     return kHives[static_cast<std::size_t>(hive)];
 }
 
+std::string ForMessage(const std::wstring& text)
+{
+    constexpr std::size_t kShown = 600; // more than any path of the embedded store
+    return text.size() <= kShown ? Utf8ForMessage(text) : Utf8ForMessage(text.substr(0, kShown)) + "...";
+}
+
 } // namespace
+
+bool HasControlCharacter(std::wstring_view name) noexcept
+{
+    return std::any_of(name.begin(), name.end(), [](wchar_t unit) {
+        const auto code = static_cast<std::uint32_t>(unit); // NOLINT(bugprone-signed-char-misuse)
+        return code < 0x20 || (code >= 0x7F && code < 0xA0);
+    });
+}
 
 char HiveLetter(Hive hive) noexcept
 {
@@ -143,7 +158,7 @@ std::string DescribeFlatPath(std::string_view flat)
                     text.push_back(L'?');
                 }
             }
-            return Utf8ForMessage(text);
+            return ForMessage(text);
         }
     }
     return "an unknown key";
@@ -156,7 +171,7 @@ std::string DescribeKey(Hive hive, std::wstring_view path)
         text.push_back(L'\\');
         text.append(path);
     }
-    return Utf8ForMessage(text);
+    return ForMessage(text);
 }
 
 } // namespace wqspcfg

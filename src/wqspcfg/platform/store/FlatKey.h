@@ -24,6 +24,11 @@ constexpr std::string_view kValueMark{"\0v", 2};
 constexpr std::size_t kMaxKeyName = 255;
 constexpr std::size_t kMaxKeyDepth = 512; // levels below the hive
 constexpr std::size_t kMaxValueName = 16383;
+constexpr std::size_t kMaxKeyLevels = 512;
+
+// Whether the name of a key holds a line break or another control character. No such key is made: a registry export
+// cannot hold it, and a listing would show it as something else. One that is there is read.
+bool HasControlCharacter(std::wstring_view name) noexcept;
 
 char HiveLetter(Hive hive) noexcept;
 // HKEY_LOCAL_MACHINE and so on.
@@ -59,10 +64,10 @@ class FlatPath
     std::vector<std::wstring_view> m_components;
 };
 
-// For messages: the path of a flat name, with the hive's long name. It is upper-cased.
+// For messages: the path of a flat name, with the hive's long name. It is upper-cased, and a long one is shortened.
 std::string DescribeFlatPath(std::string_view flat);
 
-// A hive and path as a message shows it.
+// A hive and path as a message shows it, a long one shortened.
 std::string DescribeKey(Hive hive, std::wstring_view path);
 
 } // namespace wqspcfg

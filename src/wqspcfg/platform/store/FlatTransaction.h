@@ -157,10 +157,20 @@ class FlatTransaction final : public Transaction
             if (found == Outcome::Found) {
                 break;
             }
+            // What can never be made is not looked for level by level.
+            if (existing == components.size() &&
+                (existing > kMaxKeyLevels || m_path.Whole().size() > Engine::kMaxFlatName)) {
+                return TooDeep(hive, path, existing);
+            }
         }
-        // Nothing is created when a name or the whole path is too long.
+        // Nothing is created when a name is none for a key, or is too long.
         for (auto depth = existing + 1; depth <= components.size(); ++depth) {
             m_path.SubkeyName(depth, m_name);
+            if (HasControlCharacter(components[depth - 1])) {
+                return Fail(ErrorKind::BadText, m_engine.Address() + ": the key name " + Quoted(components[depth - 1]) +
+                                                    " in " + DescribeFlatPath(m_path.Prefix(depth - 1)) +
+                                                    " holds a line break or another control character");
+            }
             if (Utf16Length(components[depth - 1]) > kMaxKeyName || m_name.size() > Engine::kMaxFlatName) {
                 return TooLong("the key name " + Quoted(components[depth - 1]), m_path.Prefix(depth - 1));
             }
@@ -337,6 +347,15 @@ class FlatTransaction final : public Transaction
     {
         return Fail(ErrorKind::TooLong, m_engine.Address() + ": " + what + " in " + DescribeFlatPath(flatPath) +
                                             " is longer than the store can hold");
+    }
+
+    Outcome TooDeep(Hive hive, std::wstring_view path, std::size_t levels)
+    {
+        const auto key = m_engine.Address() + ": the key path " + DescribeKey(hive, path);
+        return Fail(ErrorKind::TooLong, levels > kMaxKeyLevels
+                                            ? key + " has " + std::to_string(levels) + " levels; the registry has " +
+                                                  std::to_string(kMaxKeyLevels) + " at most"
+                                            : key + " is longer than the store can hold");
     }
 
     Outcome KeyIsGone(const Handle& handle)

@@ -44,25 +44,45 @@ Hive HiveOf(std::wstring_view path)
     return IsUsersPath(path) ? Hive::Users : Hive::LocalMachine;
 }
 
+std::wstring_view TakeComponent(std::wstring_view& path)
+{
+    path.remove_prefix(std::min(path.find_first_not_of(L'\\'), path.size()));
+    const auto component = path.substr(0, path.find(L'\\'));
+    path.remove_prefix(component.size());
+    return component;
+}
+
 // Whether two paths name one key: backslashes at their ends and repeated ones do not count.
 bool IsSameKey(std::wstring_view left, std::wstring_view right)
 {
-    const auto take = [](std::wstring_view& path) {
-        path.remove_prefix(std::min(path.find_first_not_of(L'\\'), path.size()));
-        const auto component = path.substr(0, path.find(L'\\'));
-        path.remove_prefix(component.size());
-        return component;
-    };
     if (HiveOf(left) != HiveOf(right)) {
         return false;
     }
     for (;;) {
-        const auto component = take(left);
-        if (CompareNoCase(component, take(right)) != 0) {
+        const auto component = TakeComponent(left);
+        if (CompareNoCase(component, TakeComponent(right)) != 0) {
             return false;
         }
         if (component.empty()) {
             return true;
+        }
+    }
+}
+
+// The subkey of `key` that is on the way to the key `path`, or is that; empty when `path` does not lie below.
+std::wstring_view ChildOn(std::wstring_view path, std::wstring_view key)
+{
+    if (HiveOf(path) != HiveOf(key)) {
+        return {};
+    }
+    for (;;) {
+        const auto component = TakeComponent(key);
+        const auto other = TakeComponent(path);
+        if (component.empty()) {
+            return other;
+        }
+        if (CompareNoCase(component, other) != 0) {
+            return {};
         }
     }
 }
@@ -241,13 +261,100 @@ Outcome Session::AskAt(std::wstring_view path, std::wstring_view name, ValueView
     return Checked(m_transaction->QueryAt(HiveOf(path), path, name, value));
 }
 
+namespace {
+
+// Goes through names in order, those of the store and those that were written meanwhile, each once.
+template <class Added, class NameOf, class Visit>
+class Merged
+{
+  public:
+    Merged(std::vector<Added> added, NameOf nameOf, Visit visit)
+        : m_added(std::move(added)), m_nameOf(nameOf), m_visit(visit), m_next(m_added.begin())
+    {
+        const auto isLess = [&](const Added& left, const Added& right) {
+            return CompareNoCase(m_nameOf(left), m_nameOf(right)) < 0;
+        };
+        std::stable_sort(m_added.begin(), m_added.end(), isLess);
+        // The last write of a name stands.
+        const auto last = std::unique(m_added.rbegin(), m_added.rend(), [&](const Added& left, const Added& right) {
+                              return CompareNoCase(m_nameOf(left), m_nameOf(right)) == 0;
+                          }).base();
+        m_next = last;
+    }
+
+    // Those that were added and come before a name of the store, whose place `same` tells of. False to stop.
+    bool Before(std::wstring_view name, const Added*& same)
+    {
+        same = nullptr;
+        for (; m_next != m_added.end(); ++m_next) {
+            const auto order = CompareNoCase(m_nameOf(*m_next), name);
+            if (order > 0) {
+                return true;
+            }
+            if (order == 0) {
+                same = &*m_next++;
+                return true;
+            }
+            if (!m_visit(*m_next)) {
+                m_next = m_added.end();
+                return false;
+            }
+        }
+        return true;
+    }
+    void Stop() { m_next = m_added.end(); }
+    void Rest()
+    {
+        while (m_next != m_added.end() && m_visit(*m_next)) {
+            ++m_next;
+        }
+    }
+
+  private:
+    std::vector<Added> m_added;
+    NameOf m_nameOf;
+    Visit m_visit;
+    typename std::vector<Added>::iterator m_next;
+};
+
+} // namespace
+
 Outcome Session::EnumKeys(Key key, const KeyVisitor& visit)
 {
     auto& opened = m_keys[key];
     if (m_observer != nullptr) {
         m_observer->AskedAll(opened.path, true);
     }
-    return Find(opened) ? Checked(m_transaction->EnumKeys(opened.id, visit)) : Outcome::Missing;
+    const bool isThere = Find(opened);
+    std::vector<std::wstring_view> added;
+    for (const auto& written : m_overlay) {
+        if (const auto child = ChildOn(written.path, opened.path); !child.empty()) {
+            added.push_back(child);
+        }
+    }
+    if (added.empty()) {
+        return isThere ? Checked(m_transaction->EnumKeys(opened.id, visit)) : Outcome::Missing;
+    }
+    Merged merged(
+        std::move(added), [](std::wstring_view name) { return name; }, visit);
+    auto outcome = Outcome::Found;
+    if (isThere) {
+        outcome = Checked(m_transaction->EnumKeys(opened.id, [&](std::wstring_view name) {
+            const std::wstring_view* same = nullptr;
+            if (!merged.Before(name, same)) {
+                return false;
+            }
+            const bool goesOn = visit(name);
+            if (!goesOn) {
+                merged.Stop();
+            }
+            return goesOn;
+        }));
+    }
+    if (outcome == Outcome::Found) {
+        merged.Rest();
+    }
+    return outcome;
 }
 
 Outcome Session::EnumValues(Key key, const ValueVisitor& visit)
@@ -256,7 +363,39 @@ Outcome Session::EnumValues(Key key, const ValueVisitor& visit)
     if (m_observer != nullptr) {
         m_observer->AskedAll(opened.path, false);
     }
-    return Find(opened) ? Checked(m_transaction->EnumValues(opened.id, visit)) : Outcome::Missing;
+    const bool isThere = Find(opened);
+    std::vector<const WrittenValue*> added;
+    for (const auto& written : m_overlay) {
+        if (IsSameKey(written.path, opened.path)) {
+            added.push_back(&written);
+        }
+    }
+    if (added.empty()) {
+        return isThere ? Checked(m_transaction->EnumValues(opened.id, visit)) : Outcome::Missing;
+    }
+    Merged merged(
+        std::move(added), [](const WrittenValue* written) { return std::wstring_view(written->name); },
+        [&](const WrittenValue* written) {
+            return visit(written->name, {written->type, written->data});
+        });
+    auto outcome = Outcome::Found;
+    if (isThere) {
+        outcome = Checked(m_transaction->EnumValues(opened.id, [&](std::wstring_view name, const ValueView& value) {
+            const WrittenValue* const* same = nullptr;
+            if (!merged.Before(name, same)) {
+                return false;
+            }
+            const bool goesOn = visit(name, same != nullptr ? ValueView{(*same)->type, (*same)->data} : value);
+            if (!goesOn) {
+                merged.Stop();
+            }
+            return goesOn;
+        }));
+    }
+    if (outcome == Outcome::Found) {
+        merged.Rest();
+    }
+    return outcome;
 }
 
 Outcome Session::Set(Key key, std::wstring_view name, const ValueView& value)

@@ -218,6 +218,13 @@ class WindowsTransaction final : public Transaction
         }
         HKEY handle = nullptr;
         DWORD disposition = REG_OPENED_EXISTING_KEY;
+        if (HasControlCharacter(m_path)) {
+            if (RegOpenKeyExW(RootOf(hive), m_path.c_str(), 0, KEY_READ | m_view, &handle) != ERROR_SUCCESS) {
+                return Fail(ErrorKind::BadText, m_address + ": the key path " + DescribeKey(hive, m_path) +
+                                                    " holds a line break or another control character");
+            }
+            RegCloseKey(handle);
+        }
         // A hive's root cannot be created, only opened.
         const auto status = m_path.empty()
                                 ? RegOpenKeyExW(RootOf(hive), nullptr, 0, KEY_READ | KEY_WRITE | m_view, &handle)
