@@ -1,6 +1,7 @@
 #include "wqspcfg/tools/CommandLine.h"
 
 #include "wqspcfg/tools/HelpText.h"
+#include "wqspcfg/tools/MaintenanceCommands.h"
 #include "wqspcfg/tools/Nearest.h"
 #include "wqspcfg/tools/ReferenceText.h"
 #include "wqspcfg/tools/ServiceCommands.h"
@@ -60,6 +61,8 @@ class Program
     void AddExport();
     void AddBackup();
     void AddRestore();
+    void AddCompact();
+    void AddStatus();
     void AddGet();
     void AddSet();
     void AddDelete();
@@ -120,6 +123,8 @@ Program::Program(const Console& console) : m_console(console)
     AddList();
     AddBackup();
     AddRestore();
+    AddCompact();
+    AddStatus();
     AddModels();
     AddReference();
     AddHelp();
@@ -199,6 +204,20 @@ void Program::AddRestore()
                         [=, this] { return Restore(m_store, options->file, options->dryRun, m_console); });
     command.add_option("FILE", options->file, "A file that backup has written")->required();
     command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
+}
+
+void Program::AddCompact()
+{
+    Add("compact", "Give the space that the embedded store no longer needs back, also while it is in use",
+        [this] { return Compact(m_store, m_console); });
+}
+
+void Program::AddStatus()
+{
+    const auto verify = std::make_shared<bool>(false);
+    auto& command = Add("status", "Show the embedded store's size, free space, readers and last writer",
+                        [=, this] { return ShowStatus(m_store, *verify, m_console); });
+    command.add_flag("--verify", *verify, "Check every page and value too; exit status 1 when one is damaged");
 }
 
 void Program::AddGet()

@@ -8,9 +8,14 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <memory>
+#include <sstream>
 #include <unistd.h>
 #include <utility>
 
@@ -19,6 +24,12 @@ namespace wqspcfg {
 namespace {
 
 constexpr std::size_t kSpareRoom = std::size_t{16} << 20;
+
+void Count(std::string_view name, BackupCounts& counts)
+{
+    const auto mark = name.find('\0');
+    ++(name.substr(std::min(mark, name.size())).starts_with(kValueMark) ? counts.values : counts.keys);
+}
 
 // All records that `tree` shows, in order, into an empty store. False when the tree is damaged; `status` tells of the
 // store that is written.
@@ -33,11 +44,21 @@ bool CopyRecords(LmdbTree& tree, MDB_txn* txn, MDB_dbi dbi, BackupCounts& counts
         MDB_val key{name.size(), const_cast<char*>(name.data())};
         MDB_val value{record.size(), const_cast<char*>(record.data())};
         status = mdb_put(txn, dbi, &key, &value, MDB_APPEND);
-        const auto mark = name.find('\0');
-        ++(name.substr(std::min(mark, name.size())).starts_with(kValueMark) ? counts.values : counts.keys);
+        Count(name, counts);
         return status == 0;
     });
     return scanned == Lookup::Found;
+}
+
+// False when the tree is damaged, in a page or in a record.
+bool CountRecords(LmdbTree& tree, BackupCounts& counts)
+{
+    return tree.Scan({}, [&](std::string_view name, std::string_view) {
+        if (name != kStateName) {
+            Count(name, counts);
+        }
+        return true;
+    }) == Lookup::Found;
 }
 
 // A state of a store for as long as the object lives.
@@ -291,6 +312,132 @@ bool RestoreLmdb(const std::string& address, const std::string& directory, const
         error.message = failure.message + "; " + error.message;
     }
     return false;
+}
+
+// --- Upkeep ----------------------------------------------------------------------------------------------------------
+
+namespace {
+
+// While this process writes, and so nobody else does.
+bool CompactWithin(LmdbEnvironment& environment, const std::string& address, MDB_txn* txn, CompactCounts& counts,
+                   Error& error)
+{
+    const auto& folder = environment.Folder();
+    const ActAsOwner owner(folder);
+    if (!owner.Check(address, folder, error)) {
+        return false;
+    }
+    LmdbTree tree;
+    const auto last = LmdbEnvironment::StateBefore(txn);
+    if (!tree.Open(environment.Map(), environment.Map().Size(), last)) {
+        error = environment.DescribeDamage(address, tree.Cause());
+        return false;
+    }
+    counts.before = environment.Map().Size();
+    std::string name;
+    const auto fresh = folder.MakeFile(name);
+    bool isSound = true;
+    int status = 0;
+    auto result = fresh ? KeepRights(folder, fresh) : errno;
+    if (result == 0) {
+        result = WriteStore(
+            fresh, 2 * counts.before + kSpareRoom,
+            [&](MDB_txn* into, MDB_dbi dbi) {
+                isSound = CopyRecords(tree, into, dbi, counts, status);
+                return isSound ? status : MDB_CORRUPTED;
+            },
+            last);
+    }
+    struct stat data = {};
+    bool done = false;
+    if (!isSound) {
+        error = environment.DescribeDamage(address, tree.Cause());
+    } else if (result != 0) {
+        error = environment.Describe(address, "write", result);
+    } else if (fstat(fresh.Get(), &data) == 0) {
+        counts.after = static_cast<std::uint64_t>(data.st_size);
+        done = environment.Exchange(address, txn, fresh, name, error);
+    }
+    if (!name.empty()) {
+        (void)unlinkat(folder.Get(), name.c_str(), 0);
+    }
+    return done;
+}
+
+// What /proc tells of a process.
+void DescribeProcess(StoreReader& reader)
+{
+    std::ifstream file("/proc/" + std::to_string(reader.process) + "/stat");
+    std::string text{std::istreambuf_iterator<char>(file), {}};
+    const auto open = text.find('(');
+    const auto close = text.rfind(')');
+    timespec now{};
+    if (open == std::string::npos || close == std::string::npos || clock_gettime(CLOCK_BOOTTIME, &now) != 0) {
+        return;
+    }
+    reader.program = text.substr(open + 1, close - open - 1);
+    constexpr int kStart = 20; // fields behind the name
+    std::istringstream fields(text.substr(close + 1));
+    std::string field;
+    for (int i = 0; i < kStart; ++i) {
+        fields >> field;
+    }
+    const auto ticks = std::strtoll(field.c_str(), nullptr, 10);
+    reader.seconds = std::max(std::int64_t{0}, static_cast<std::int64_t>(now.tv_sec - ticks / sysconf(_SC_CLK_TCK)));
+}
+
+} // namespace
+
+bool CompactLmdb(const std::string& address, const std::string& directory, CompactCounts& counts, Error& error)
+{
+    const auto environment = LmdbEnvironment::Open(address, directory, false, 0, error);
+    if (!environment) {
+        return false;
+    }
+    auto* txn = environment->BeginWrite(address, error);
+    if (txn == nullptr) {
+        return false;
+    }
+    const bool done = CompactWithin(*environment, address, txn, counts, error);
+    mdb_txn_abort(txn);
+    environment->EndWrite(0);
+    return done;
+}
+
+bool GetLmdbStatus(const std::string& address, const std::string& directory, bool verify, StoreStatus& status,
+                   Error& error)
+{
+    const auto environment = LmdbEnvironment::Open(address, directory, false, 0, error);
+    LmdbEnvironment::Condition condition;
+    if (!environment || !environment->Describe(address, condition, error)) {
+        return false;
+    }
+    status.path = environment->DataPath();
+    status.fileSize = condition.fileSize;
+    status.usedSize = condition.usedPages * condition.pageSize;
+    status.freeSize = condition.freePages * condition.pageSize;
+    status.commits = condition.transaction;
+    status.lastCommit = condition.modified;
+    status.lastWriter = condition.lastWriter;
+    status.writer = condition.writer;
+    status.knowsUsers = condition.hasLock;
+    for (const auto& [process, transaction] : condition.readers) {
+        StoreReader reader;
+        reader.process = process;
+        reader.behind = condition.transaction > transaction ? condition.transaction - transaction : 0;
+        DescribeProcess(reader);
+        status.readers.push_back(std::move(reader));
+    }
+    if (!verify) {
+        return true;
+    }
+    ReadState state(environment);
+    if (!state.Begin(address, error)) {
+        return false;
+    }
+    status.isSound = state.tree.VerifyStructure() && CountRecords(state.tree, status.counts);
+    status.damage = status.isSound ? "" : state.tree.Cause();
+    return true;
 }
 
 } // namespace wqspcfg

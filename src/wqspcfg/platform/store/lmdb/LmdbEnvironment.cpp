@@ -287,7 +287,7 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
 }
 
 bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status,
-                               Error& error)
+                               bool& isMoved, Error& error)
 {
     m_mapSize = std::max(m_mapSize, needed);
     for (;;) {
@@ -309,7 +309,6 @@ bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::
         if (status == 0) {
             status = fstat(file, &opened) != 0 ? errno : m_map.Open(file, m_mapSize);
         }
-        bool isMoved = false;
         if (status == 0) {
             isMoved = !IsSameFile(opened, m_data);
             struct stat lock = {};
@@ -341,6 +340,21 @@ bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::
 }
 
 bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
+{
+    constexpr int kMostTries = 100; // a file may be exchanged just now
+    bool isMoved = true;
+    bool isOpen = false;
+    for (int tries = 0; isMoved && tries < kMostTries; ++tries) {
+        isMoved = false;
+        isOpen = OpenFilesOnce(address, isMoved, error);
+    }
+    if (isOpen) {
+        error = {};
+    }
+    return isOpen;
+}
+
+bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, Error& error)
 {
     if (!m_folder.Open(address, m_directory, false, error)) {
         return false;
@@ -384,7 +398,7 @@ bool LmdbEnvironment::OpenFiles(const std::string& address, Error& error)
     }
     const auto needed = static_cast<std::size_t>(m_data.st_size) + kLeastMapSize;
     const unsigned flags = m_isCopied ? MDB_RDONLY | MDB_NOLOCK : m_whyReadOnly.empty() ? 0 : MDB_RDONLY;
-    if ((!m_isCopied && !Announce(address, failure)) || !OpenMaps(address, flags, needed, result, failure)) {
+    if ((!m_isCopied && !Announce(address, failure)) || !OpenMaps(address, flags, needed, result, isMoved, failure)) {
         error = failure ? std::move(failure) : LmdbError(address, "open", m_dataPath, result);
         CloseFiles();
         return false;
@@ -848,6 +862,9 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
         }
         EndTurn();
         Release(result);
+        if (!isThere && std::chrono::steady_clock::now() < deadline) {
+            --tries; // that is nobody's fault
+        }
         if (isThere && result != MDB_MAP_RESIZED && result != MDB_PANIC) {
             break;
         }

@@ -99,7 +99,9 @@ class LmdbEnvironment
     LmdbEnvironment(std::string directory, std::size_t mapSize);
 
     bool OpenFiles(const std::string& address, Error& error);
-    bool OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status, Error& error);
+    bool OpenFilesOnce(const std::string& address, bool& isMoved, Error& error);
+    bool OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status, bool& isMoved,
+                  Error& error);
     bool Announce(const std::string& address, Error& error);
     bool IsWhereItWas(const std::string& address, bool& isLockGone, Error& error);
     void CloseFiles() noexcept;
