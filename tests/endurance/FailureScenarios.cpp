@@ -80,6 +80,12 @@ std::string Own(const std::string& directory, uid_t user, mode_t directoryMode)
     return done ? std::string() : System("chown");
 }
 
+std::string MakeReadable(const std::string& directory)
+{
+    return chmod(directory.c_str(), 0755) == 0 && chmod((directory + "/data.mdb").c_str(), 0644) == 0 ? std::string()
+                                                                                                      : System("chmod");
+}
+
 // Mounts a small file system that goes with this process. Why it cannot, or empty.
 std::string MountSmall(const std::string& directory)
 {
@@ -328,7 +334,7 @@ Result ForeignOwnerScenario(const Plan&)
     };
     await();
     steps.Then("the file", ReadWhole(directory + "/data.mdb") == before ? "" : "it was changed")
-        .Then("making it readable", chmod(directory.c_str(), 0755) == 0 ? "" : System("chmod"))
+        .Then("making it readable", MakeReadable(directory))
         .Then("going on", proceed());
     await();
     steps.Then("giving it away", Own(directory, kNobody, 0755)).Then("going on", proceed());

@@ -108,5 +108,10 @@ Result ReadOnlyFileScenario(const Plan& plan);
 Result ReadOnlyMountScenario(const Plan& plan);
 Result ForeignOwnerScenario(const Plan& plan);
 Result RemovedDirectoryScenario(const Plan& plan);
+Result CompactScenario(const Plan& plan);
+Result RemovedLockScenario(const Plan& plan);
+Result NoLockRightsScenario(const Plan& plan);
+Result ClosedFilesScenario(const Plan& plan);
+Result ForkScenario(const Plan& plan);
 
 } // namespace wqspcfg::endurance

@@ -22,10 +22,15 @@ struct Scenario
 };
 
 constexpr Scenario kScenarios[] = {
-    {"kill", KillScenario, 0.25, 0},
-    {"processes", ProcessesScenario, 0.30, 60},
+    {"kill", KillScenario, 0.20, 0},
+    {"processes", ProcessesScenario, 0.25, 60},
     {"backup", BackupScenario, 0.15, 30},
     {"damage", DamageScenario, 0.20, 0},
+    {"compact", CompactScenario, 0.05, 20},
+    {"removed-lock-file", RemovedLockScenario, 0.05, 10},
+    {"no-lock-rights", NoLockRightsScenario, 0.05, 10},
+    {"forks", ForkScenario, 0.05, 10},
+    {"closed-files", ClosedFilesScenario, 0, 0},
     {"full-file-system", FullFileSystemScenario, 0, 0},
     {"read-only-file", ReadOnlyFileScenario, 0, 0},
     {"read-only-mount", ReadOnlyMountScenario, 0, 0},

@@ -218,7 +218,7 @@ bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& fold
         return false;
     }
 
-    const auto old = std::string(kDataName) + ".damaged";
+    const auto old = std::string(kDataName) + kKeptSuffix;
     kept.clear();
     if (faccessat(folder.Get(), kDataName, F_OK, AT_SYMLINK_NOFOLLOW) == 0) {
         (void)unlinkat(folder.Get(), old.c_str(), 0);

@@ -135,12 +135,17 @@ bool LmdbFolder::CheckFile(const std::string& address, const char* name, const F
         return true;
     }
     // Whoever makes the file may still be about to take its first name away.
-    constexpr int kLooks = 50;
+    constexpr int kLooks = 25;
     for (int looks = 0; status.st_nlink > 1 && looks < kLooks; ++looks) {
         usleep(2000);
         (void)fstat(file.Get(), &status);
     }
-    if (status.st_nlink > 1) {
+    // A restore that was killed has left it, and its link to the file that it was about to replace.
+    struct stat kept = {};
+    const bool isKept = status.st_nlink == 2 &&
+                        fstatat(Get(), (std::string(name) + kKeptSuffix).c_str(), &kept, AT_SYMLINK_NOFOLLOW) == 0 &&
+                        kept.st_dev == status.st_dev && kept.st_ino == status.st_ino;
+    if (status.st_nlink > 1 && !isKept) {
         error = {ErrorKind::AccessDenied, ErrorPrefix(address) + path +
                                               " has a second name (a hard link) and may be another file of yours; copy "
                                               "it, and put the copy in its place while no process uses the store"};

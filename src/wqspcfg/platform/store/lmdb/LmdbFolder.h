@@ -19,6 +19,7 @@ namespace wqspcfg {
 
 constexpr char kDataName[] = "data.mdb";
 constexpr char kLockName[] = "lock.mdb";
+constexpr char kKeptSuffix[] = ".damaged"; // of the file that a restore has replaced
 
 class LmdbFolder
 {
