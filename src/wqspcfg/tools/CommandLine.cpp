@@ -208,16 +208,16 @@ void Program::AddRestore()
 
 void Program::AddCompact()
 {
-    Add("compact", "Give back the space that the embedded store, which may be in use, no longer needs",
+    Add("compact", "Give the space that the embedded store no longer needs back, also while it is in use",
         [this] { return Compact(m_store, m_console); });
 }
 
 void Program::AddStatus()
 {
     const auto verify = std::make_shared<bool>(false);
-    Add("status", "Show the embedded store's size, its free space, its readers and its last writer",
-        [=, this] { return ShowStatus(m_store, *verify, m_console); })
-        .add_flag("--verify", *verify, "Check every page and value too; exit status 1 when one is damaged");
+    auto& command = Add("status", "Show the embedded store's size, free space, readers and last writer",
+                        [=, this] { return ShowStatus(m_store, *verify, m_console); });
+    command.add_flag("--verify", *verify, "Check every page and value too; exit status 1 when one is damaged");
 }
 
 void Program::AddGet()
