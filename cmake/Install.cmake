@@ -11,6 +11,7 @@ install(
     PATTERN "*.h"
     PATTERN "RegInfoSettings.h" EXCLUDE
     PATTERN "meanings" EXCLUDE
+    PATTERN "*Rows.h" EXCLUDE
     PATTERN "tools" EXCLUDE
     PATTERN "lmdb" EXCLUDE
     PATTERN "memory" EXCLUDE

@@ -1,6 +1,11 @@
 #include "wqspcfg/models/idc/SpIDCPrdIDFMotorRegInfo.h"
 #include "wqspcfg/models/ptr/SpJOURNALPTREXERegInfo.h"
 #include "wqspcfg/models/ptr/SpPTRBrotherHL5595DNRegInfo.h"
+#include "wqspcfg/models/ptr/SpPTREpsonPLQ20KMRegInfo.h"
+#include "wqspcfg/models/ptr/SpPTRFXP355dbRegInfo.h"
+#include "wqspcfg/models/ptr/SpPTRFujitsuDPK210RegInfo.h"
+#include "wqspcfg/models/ptr/SpPTRGHPOS1900RegInfo.h"
+#include "wqspcfg/models/ptr/SpPTRHPPW552DWRegInfo.h"
 #include "wqspcfg/models/ptr/SpPTRJT58RegInfo.h"
 #include "wqspcfg/models/ptr/SpPTRMP512RegInfo.h"
 #include "wqspcfg/models/ptr/SpPTRPrdFPCNormalRegInfo.h"
@@ -74,6 +79,15 @@ TEST_F(PTRModelsTest, TheTicketPrinterKeepsItsCountsInKeysOfTheirOwn)
     EXPECT_EQ(WritesOf([&] { config.SaveSetPaperCount(); }), Paths{Device(L"PaperCounts") + L"|PaperCount"});
     EXPECT_EQ(Number(Device(L"PaperCounts"), L"PaperCount"), 39U);
     EXPECT_EQ(Number(Device(), L"PaperCount"), 40U);
+
+    // Load reads the count where Save writes it.
+    CSpPTRRID100RegInfo restarted(L"Svc", false);
+    ASSERT_TRUE(restarted.Load(nullptr));
+    EXPECT_EQ(restarted.m_dwPaperCount, 40U);
+    config.Save();
+    EXPECT_EQ(Number(bin, L"Count"), 17U);
+    ASSERT_TRUE(restarted.Load(nullptr));
+    EXPECT_EQ(restarted.m_dwPaperCount, 39U);
 }
 
 TEST_F(PTRModelsTest, SimulationDataAreReadOnDemandOnly)
@@ -146,6 +160,11 @@ TEST_F(PTRModelsTest, TheReceiptsLeftCountDownToZeroAndStartAgain)
     check(control, control.m_dwCurCountWhenLow, &CSpPTRJT58RegInfo::ReduceLowCount, &CSpPTRJT58RegInfo::ResetLowCount,
           Device(L"Control") + L"|CurCountWhenLow");
     EXPECT_EQ(Number(Device(L"Control"), L"CurCountWhenLow"), 100U);
+
+    CSpPTRGHPOS1900RegInfo down(L"Svc", false);
+    ASSERT_TRUE(down.Load(nullptr));
+    EXPECT_EQ(WritesOf([&] { down.DescCurLowCount(); }), Paths{Device(L"Control") + L"|CurLastCount"});
+    EXPECT_EQ(Number(Device(L"Control"), L"CurLastCount"), 99U);
 }
 
 TEST_F(PTRModelsTest, TheReceiptsLeftOfThePlainPrinterLiveInTheRegistry)
@@ -239,6 +258,47 @@ TEST_F(PTRModelsTest, APagePrinterSharesASettingWithItsClassBase)
     const CPTRRegInfo& base = config;
     EXPECT_EQ(base.m_dwCheckInputParam, 3U);
     EXPECT_EQ(&base.m_dwCheckInputParam, &config.m_dwCheckInputParam);
+}
+
+TEST_F(PTRModelsTest, TheStampingUnitHasItsKeyByThePrinter)
+{
+    const auto check = [](auto& config, const std::wstring& key) {
+        Set(key, L"StampNumber", 2);
+        Set(key, L"ThirdYPos", 30);
+        Set(Device(L"Stamp"), L"IsStamp", 1);
+        ASSERT_TRUE(config.Load(nullptr));
+        EXPECT_TRUE(config.m_bIsStamp);
+        EXPECT_EQ(config.m_dwStampNumber, 2U);
+        EXPECT_EQ(config.m_dwThirdYPos, 30U);
+        config.m_dwStampNumber = 3;
+        config.Save();
+        EXPECT_EQ(Number(key, L"StampNumber"), 3U);
+    };
+    CSpPTRFXP355dbRegInfo own(L"Svc", false);
+    check(own, Device(L"Stamp\\NEWBSIDBTS100"));
+    EXPECT_EQ(Number(Device(L"Stamp"), L"StampNumber"), std::nullopt);
+    CSpPTRHPPW552DWRegInfo plain(L"Svc", false);
+    check(plain, Device(L"Stamp"));
+}
+
+TEST_F(PTRModelsTest, PassbookPrintersNameOneSettingInTheirOwnWay)
+{
+    Set(Device(), L"m_dwUseOneForm", 1);
+    Set(Device(), L"UseOneForm", 2);
+    Set(Device(), L"strTrack2", L"two");
+    Set(Device(), L"Track2", L"2");
+    Set(Device(), L"PageLen", 24);
+    CSpPTREpsonPLQ20KMRegInfo epson(L"Svc", false);
+    CSpPTRFujitsuDPK210RegInfo fujitsu(L"Svc", false);
+    ASSERT_TRUE(epson.Load(nullptr));
+    ASSERT_TRUE(fujitsu.Load(nullptr));
+    EXPECT_EQ(epson.m_dwUseOneForm, 1U);
+    EXPECT_EQ(fujitsu.m_dwUseOneForm, 2U);
+    EXPECT_EQ(epson.m_strTrack2, L"2");
+    EXPECT_EQ(fujitsu.m_strTrack2, L"two");
+    EXPECT_EQ(epson.m_dwPageLen, 24U);
+    EXPECT_EQ(fujitsu.m_dwPageLen, 24U);
+    EXPECT_EQ(fujitsu.m_dwInitCount, epson.m_dwInitCount);
 }
 
 // One device, served as a card reader or as a printer: what it does by itself does not hang on which.

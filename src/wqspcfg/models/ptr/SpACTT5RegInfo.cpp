@@ -4,13 +4,14 @@
 #include "wqspcfg/parts/meanings/PTR.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpACTT5RegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Control, L"TimeOut", &C::m_dwTimeOut, 30, meaning::printer::kTimeOut, Saved},
+    {key::Control, L"TimeOut", &C::m_dwTimeOut, 30, printer::kTimeOut, Saved},
 };
 // clang-format on
 

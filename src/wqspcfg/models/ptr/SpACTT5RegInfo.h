@@ -12,5 +12,5 @@ class WQSPCFG_API CSpACTT5RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwTimeOut;
+    DWORD m_dwTimeOut{};
 };

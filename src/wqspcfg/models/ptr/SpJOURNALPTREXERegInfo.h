@@ -13,16 +13,16 @@ class WQSPCFG_API CSpJOURNALPTREXERegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwRawDataOverflowType;
-    bool m_bRawDataFilterStringTailReturn;
+    DWORD m_dwRawDataOverflowType{};
+    bool m_bRawDataFilterStringTailReturn{};
     CString m_strReturnWord;
-    DWORD m_dwColumnWidth;
-    bool m_bMustBeBolt;
-    bool m_bAutoReset;
-    DWORD m_dwCharSet;
-    bool m_bUseUpInspect;
-    bool m_bSendFieldWarnningEvent;
-    DWORD m_dwSizeBt2Lines;
-    DWORD m_dwPrintHeight;
-    bool m_bIsSimulate;
+    DWORD m_dwColumnWidth{};
+    bool m_bMustBeBolt{};
+    bool m_bAutoReset{};
+    DWORD m_dwCharSet{};
+    bool m_bUseUpInspect{};
+    bool m_bSendFieldWarnningEvent{};
+    DWORD m_dwSizeBt2Lines{};
+    DWORD m_dwPrintHeight{};
+    bool m_bIsSimulate{};
 };

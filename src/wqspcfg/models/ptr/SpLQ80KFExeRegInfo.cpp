@@ -4,14 +4,15 @@
 #include "wqspcfg/parts/meanings/PTR.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpLQ80KFExeRegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Device, L"PtrName",    &C::m_strPtrName,   L"", meaning::printer::kPtrName, Saved},
-    {key::Device, L"PageHeight", &C::m_dwPageHeight, 297, meaning::printer::kPageHeight, Saved},
+    {key::Device, L"PtrName",    &C::m_strPtrName,   L"", printer::kPtrName, Saved},
+    {key::Device, L"PageHeight", &C::m_dwPageHeight, 297, printer::kPageHeight, Saved},
 };
 // clang-format on
 

@@ -16,5 +16,5 @@ class WQSPCFG_API CSpLQ80KFExeRegInfo : public CPTRRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strPtrName;
-    DWORD m_dwPageHeight;
+    DWORD m_dwPageHeight{};
 };

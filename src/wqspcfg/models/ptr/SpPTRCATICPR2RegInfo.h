@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/PTRRegInfo.h"
+#include "wqspcfg/models/shared/PassbookPrinter.h"
 
 // The PR2 passbook printer.
-class WQSPCFG_API CSpPTRCATICPR2RegInfo : public CPTRRegInfo
+class WQSPCFG_API CSpPTRCATICPR2RegInfo : public wqspcfg::PassbookPrinter
 {
   public:
     CSpPTRCATICPR2RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,39 +12,33 @@ class WQSPCFG_API CSpPTRCATICPR2RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwCharSpace;
-    DWORD m_dwLineSpace;
-    bool m_bUsePrintLine;
-    DWORD m_dwPageLen;
-    DWORD m_dwTopLen;
-    DWORD m_dwBlankLen;
-    DWORD m_dwFirstOverLen;
-    DWORD m_dwSecondOverLen;
-    DWORD m_dwUseOneForm;
-    DWORD m_dwStartLineNum;
-    DWORD m_dwMaxLineNum;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwMaxRetract;
-    DWORD m_dwFormForceUnit;
-    DWORD m_dwPrintUseUnit;
-    DWORD m_dwTopAdjustSpace;
-    DWORD m_dwLeftAdjustSpace;
-    bool m_bForceRetract;
-    DWORD m_dwReadMagicModel;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwCharSpace{};
+    DWORD m_dwLineSpace{};
+    DWORD m_dwUseOneForm{};
+    DWORD m_dwStartLineNum{};
+    DWORD m_dwMaxLineNum{};
+    DWORD m_dwPowerOnOption{};
+    DWORD m_dwMaxRetract{};
+    DWORD m_dwFormForceUnit{};
+    DWORD m_dwPrintUseUnit{};
+    DWORD m_dwTopAdjustSpace{};
+    DWORD m_dwLeftAdjustSpace{};
+    bool m_bForceRetract{};
+    DWORD m_dwReadMagicModel{};
     CString m_strTrack2;
     CString m_strTrack3;
     CString m_strFontName;
-    DWORD m_dwFontSize;
-    DWORD m_dwRetractCount;
-    bool m_bKeepPaperStatusFull;
-    bool m_bBold;
-    DWORD m_dwCharWidthFlag;
-    DWORD m_dwResetCount;
-    DWORD m_dwCharHeightFlag;
-    DWORD m_dwLeftMargin;
-    DWORD m_dwRawDataParseID;
-    bool m_bSupportCmdOfRawData;
-    bool m_bSupportCmdOfReadImage;
+    DWORD m_dwFontSize{};
+    DWORD m_dwRetractCount{};
+    bool m_bKeepPaperStatusFull{};
+    bool m_bBold{};
+    DWORD m_dwCharWidthFlag{};
+    DWORD m_dwResetCount{};
+    DWORD m_dwCharHeightFlag{};
+    DWORD m_dwLeftMargin{};
+    DWORD m_dwRawDataParseID{};
+    bool m_bSupportCmdOfRawData{};
+    bool m_bSupportCmdOfReadImage{};
 };

@@ -5,17 +5,18 @@
 #include "wqspcfg/parts/meanings/Shared.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRCLPos763RegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"Port",         &C::m_dwPort,         1,    meaning::kPort, Saved},
-    {key::Comm,    L"BaudRate",     &C::m_dwBaudRate,     9600, meaning::kBaudRate, Saved},
-    {key::Control, L"CutMode",      &C::m_dwCutMode,      0,    meaning::printer::kCutMode, Saved},
-    {key::Control, L"CutPos",       &C::m_dwCutPos,       0,    meaning::printer::kCutPos, Saved},
-    {key::Control, L"RawDataStyle", &C::m_dwRawDataStyle, 0,    meaning::printer::kRawDataStyle, Saved},
+    {key::Comm,    L"Port",         &C::m_dwPort,         1,    kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm,    L"BaudRate",     &C::m_dwBaudRate,     9600, kBaudRate, Saved},
+    {key::Control, L"CutMode",      &C::m_dwCutMode,      0,    printer::kCutMode, Saved},
+    {key::Control, L"CutPos",       &C::m_dwCutPos,       0,    printer::kCutPos, Saved},
+    {key::Control, L"RawDataStyle", &C::m_dwRawDataStyle, 0,    printer::kRawDataStyle, Saved},
 };
 // clang-format on
 

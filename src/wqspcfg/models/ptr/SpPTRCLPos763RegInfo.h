@@ -12,9 +12,9 @@ class WQSPCFG_API CSpPTRCLPos763RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwCutMode;
-    DWORD m_dwCutPos;
-    DWORD m_dwRawDataStyle;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwCutMode{};
+    DWORD m_dwCutPos{};
+    DWORD m_dwRawDataStyle{};
 };

@@ -4,6 +4,7 @@
 #include "wqspcfg/parts/meanings/PTR.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRCTZDP330RegInfo;
 
 namespace {
@@ -11,7 +12,7 @@ namespace {
 // clang-format off
 constexpr Setting kSettings[] = {
     {key::Comm,   L"UsbPath",    &C::m_strUsbPath,   L"", L"path of the USB device; empty the first one found", Saved},
-    {key::Device, L"LineHeight", &C::m_dwLineHeight, 30,  meaning::printer::kLineSpace, Saved},
+    {key::Device, L"LineHeight", &C::m_dwLineHeight, 30,  printer::kLineSpace, Saved},
 };
 // clang-format on
 

@@ -13,5 +13,5 @@ class WQSPCFG_API CSpPTRCTZDP330RegInfo : public CPTRRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strUsbPath;
-    DWORD m_dwLineHeight;
+    DWORD m_dwLineHeight{};
 };

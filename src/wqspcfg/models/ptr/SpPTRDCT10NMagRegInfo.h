@@ -12,8 +12,8 @@ class WQSPCFG_API CSpPTRDCT10NMagRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudrate;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudrate{};
     CString m_strTrack1TiledName;
     CString m_strTrack2TiledName;
     CString m_strTrack3TiledName;

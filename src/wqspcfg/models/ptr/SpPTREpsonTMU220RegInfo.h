@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/PTRRegInfo.h"
+#include "wqspcfg/models/shared/BlackMarkReceiptPrinter.h"
 
 // The Epson TM-U220 receipt printer.
-class WQSPCFG_API CSpPTREpsonTMU220RegInfo : public CPTRRegInfo
+class WQSPCFG_API CSpPTREpsonTMU220RegInfo : public wqspcfg::BlackMarkReceiptPrinter
 {
   public:
     CSpPTREpsonTMU220RegInfo(const CString& strName, bool bPhysicalName);
@@ -11,17 +11,4 @@ class WQSPCFG_API CSpPTREpsonTMU220RegInfo : public CPTRRegInfo
     void Save() override;
 
     static const wqspcfg::Table& Settings() noexcept;
-
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    bool m_bIsUseBlackMark;
-    DWORD m_dwRawDataStyle;
-    DWORD m_dwLineSpace;
-    DWORD m_dwLeftMargin;
-    DWORD m_dwCutPosition;
-    DWORD m_dwPrintPos;
-    DWORD m_dwEnCharSpace;
-    DWORD m_dwChCharSpaceLeft;
-    DWORD m_dwChCharSpaceRight;
-    DWORD m_dwPrintTimeOut;
 };

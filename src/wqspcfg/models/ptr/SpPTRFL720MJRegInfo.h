@@ -12,8 +12,8 @@ class WQSPCFG_API CSpPTRFL720MJRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwIntervalofTemplate;
-    DWORD m_dwDevPos;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
+    DWORD m_dwIntervalofTemplate{};
+    DWORD m_dwDevPos{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
 };

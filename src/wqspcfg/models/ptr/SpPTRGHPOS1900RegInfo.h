@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/PTRRegInfo.h"
+#include "wqspcfg/models/shared/BlackMarkReceiptPrinter.h"
 
 // The POS1900 receipt printer.
-class WQSPCFG_API CSpPTRGHPOS1900RegInfo : public CPTRRegInfo
+class WQSPCFG_API CSpPTRGHPOS1900RegInfo : public wqspcfg::BlackMarkReceiptPrinter
 {
   public:
     CSpPTRGHPOS1900RegInfo(const CString& strName, bool bPhysicalName);
@@ -15,26 +15,14 @@ class WQSPCFG_API CSpPTRGHPOS1900RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    bool m_bIsUseBlackMark;
-    DWORD m_dwRawDataStyle;
-    DWORD m_dwLineSpace;
-    DWORD m_dwLeftMargin;
-    DWORD m_dwCutPosition;
-    DWORD m_dwPrintPos;
-    DWORD m_dwEnCharSpace;
-    DWORD m_dwChCharSpaceLeft;
-    DWORD m_dwChCharSpaceRight;
-    DWORD m_dwPrintTimeOut;
-    bool m_bBidirectionalPtr;
-    bool m_bCutAll;
-    bool m_bUseHalfPlot;
-    bool m_bEjectBeforeCut;
-    DWORD m_dwFeedLineTimeOut;
-    bool m_bResetSuccessWhenPaperOut;
-    bool m_bOffsetValid;
-    bool m_bIsSendMediaTakenEvent;
-    DWORD m_dwCurLastCount;
-    bool m_bUseCountWhenLow;
+    bool m_bBidirectionalPtr{};
+    bool m_bCutAll{};
+    bool m_bUseHalfPlot{};
+    bool m_bEjectBeforeCut{};
+    DWORD m_dwFeedLineTimeOut{};
+    bool m_bResetSuccessWhenPaperOut{};
+    bool m_bOffsetValid{};
+    bool m_bIsSendMediaTakenEvent{};
+    DWORD m_dwCurLastCount{};
+    bool m_bUseCountWhenLow{};
 };

@@ -12,7 +12,7 @@ class WQSPCFG_API CSpPTRHitachiKC8203RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    bool m_bDisplayDialog;
-    DWORD m_dwWaitTimeOfDialog;
-    DWORD m_dwIntervalOfDialog;
+    bool m_bDisplayDialog{};
+    DWORD m_dwWaitTimeOfDialog{};
+    DWORD m_dwIntervalOfDialog{};
 };

@@ -5,15 +5,16 @@
 #include "wqspcfg/parts/meanings/Shared.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRHoneyWellN5680RegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"Type",     &C::m_dwType,     0,    meaning::printer::kType, Saved, OneOf},
-    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved},
-    {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
+    {key::Comm, L"Type",     &C::m_dwType,     0,    printer::kType, Saved},
+    {key::Comm, L"Port",     &C::m_dwPort,     1,    kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, kBaudRate, Saved},
 };
 // clang-format on
 

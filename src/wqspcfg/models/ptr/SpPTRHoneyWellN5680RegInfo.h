@@ -12,7 +12,7 @@ class WQSPCFG_API CSpPTRHoneyWellN5680RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
+    DWORD m_dwType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
 };

@@ -12,13 +12,13 @@ class WQSPCFG_API CSpPTRJP76MGRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwLineHeight;
-    DWORD m_dwWordSpace;
-    bool m_bUnderline;
-    bool m_bDoubleHeight;
-    bool m_bDoubleWidth;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    bool m_bMustBeWordWrap;
-    bool m_bOverFlowTerminate;
+    DWORD m_dwLineHeight{};
+    DWORD m_dwWordSpace{};
+    bool m_bUnderline{};
+    bool m_bDoubleHeight{};
+    bool m_bDoubleWidth{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    bool m_bMustBeWordWrap{};
+    bool m_bOverFlowTerminate{};
 };

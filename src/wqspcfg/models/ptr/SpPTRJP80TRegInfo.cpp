@@ -5,17 +5,18 @@
 #include "wqspcfg/parts/meanings/Shared.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRJP80TRegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,   L"Port",      &C::m_dwPort,       1,    meaning::kPort, Saved},
-    {key::Comm,   L"BautRate",  &C::m_dwBautRate,   9600, meaning::kBaudRate, Saved},
+    {key::Comm,   L"Port",      &C::m_dwPort,       1,    kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm,   L"BautRate",  &C::m_dwBautRate,   9600, kBaudRate, Saved},
     {key::Comm,   L"HandShake", &C::m_bHandShake,   0,    L"handshake on the serial line: 0 no; nonzero yes", Saved},
     {key::Comm,   L"Indentity", &C::m_strIndentity, L"",  L"identity of the device; empty any", Saved},
-    {key::Device, L"LineSpace", &C::m_dwLineSpace,  30,   meaning::printer::kLineSpace, Saved},
+    {key::Device, L"LineSpace", &C::m_dwLineSpace,  30,   printer::kLineSpace, Saved},
 };
 // clang-format on
 

@@ -12,9 +12,9 @@ class WQSPCFG_API CSpPTRJP80TRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBautRate;
-    bool m_bHandShake;
+    DWORD m_dwPort{};
+    DWORD m_dwBautRate{};
+    bool m_bHandShake{};
     CString m_strIndentity;
-    DWORD m_dwLineSpace;
+    DWORD m_dwLineSpace{};
 };

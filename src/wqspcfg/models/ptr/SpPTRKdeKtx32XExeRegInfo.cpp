@@ -4,13 +4,14 @@
 #include "wqspcfg/parts/meanings/Shared.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRKdeKtx32XExeRegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"Port", &C::m_dwPort, 1, meaning::kPort, Saved},
+    {key::Comm, L"Port", &C::m_dwPort, 1, kPort, Saved, RefersTo(Reference::SerialPort)},
 };
 // clang-format on
 

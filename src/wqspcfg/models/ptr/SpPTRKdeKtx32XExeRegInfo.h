@@ -12,5 +12,5 @@ class WQSPCFG_API CSpPTRKdeKtx32XExeRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
+    DWORD m_dwPort{};
 };

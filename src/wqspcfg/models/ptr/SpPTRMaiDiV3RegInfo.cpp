@@ -9,8 +9,9 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Control, L"GetFeatureTimeOut",   &C::m_dwGetFeatureTimeOut,   30, L"time-out in s for getting the feature", Saved},
-    {key::Control, L"RetryTimeWhenFaliue", &C::m_dwRetryTimeWhenFaliue, 3,  L"number of retries after a failure", Saved},
+    {key::Control, L"GetFeatureTimeOut", &C::m_dwGetFeatureTimeOut, 30,
+     L"time-out in s for getting the feature", Saved},
+    {key::Control, L"RetryTimeWhenFaliue", &C::m_dwRetryTimeWhenFaliue, 3, L"number of retries after a failure", Saved},
 };
 // clang-format on
 

@@ -12,6 +12,6 @@ class WQSPCFG_API CSpPTRMaiDiV3RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwGetFeatureTimeOut;
-    DWORD m_dwRetryTimeWhenFaliue;
+    DWORD m_dwGetFeatureTimeOut{};
+    DWORD m_dwRetryTimeWhenFaliue{};
 };

@@ -13,7 +13,7 @@ class WQSPCFG_API CSpPTRMotoScannerRegInfo : public CPTRRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strBeepFile;
-    bool m_bIDCMode;
-    DWORD m_dwNRMode;
-    DWORD m_dwPatience;
+    bool m_bIDCMode{};
+    DWORD m_dwNRMode{};
+    DWORD m_dwPatience{};
 };

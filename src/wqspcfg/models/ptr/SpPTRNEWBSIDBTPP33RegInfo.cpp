@@ -5,17 +5,18 @@
 #include "wqspcfg/parts/meanings/Shared.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRNEWBSIDBTPP33RegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"Port",        &C::m_dwPort,        1,    meaning::kPort, Saved},
-    {key::Comm,    L"BaudRate",    &C::m_dwBaudRate,    9600, meaning::kBaudRate, Saved},
-    {key::Control, L"PaperWidth",  &C::m_dwPaperWidth,  80,   meaning::printer::kPaperWidth, Saved},
-    {key::Control, L"PaperHeight", &C::m_dwPaperHeight, 297,  meaning::printer::kPaperHeight, Saved},
-    {key::Control, L"OffsetValid", &C::m_bOffsetValid,  0,    meaning::printer::kOffsetValid, Saved},
+    {key::Comm,    L"Port",        &C::m_dwPort,        1,    kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm,    L"BaudRate",    &C::m_dwBaudRate,    9600, kBaudRate, Saved},
+    {key::Control, L"PaperWidth",  &C::m_dwPaperWidth,  80,   printer::kPaperWidth, Saved},
+    {key::Control, L"PaperHeight", &C::m_dwPaperHeight, 297,  printer::kPaperHeight, Saved},
+    {key::Control, L"OffsetValid", &C::m_bOffsetValid,  0,    printer::kOffsetValid, Saved},
 };
 // clang-format on
 

@@ -12,9 +12,9 @@ class WQSPCFG_API CSpPTRNEWBSIDBTPP33RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPaperWidth;
-    DWORD m_dwPaperHeight;
-    bool m_bOffsetValid;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPaperWidth{};
+    DWORD m_dwPaperHeight{};
+    bool m_bOffsetValid{};
 };

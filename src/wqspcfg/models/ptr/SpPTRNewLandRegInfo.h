@@ -12,9 +12,9 @@ class WQSPCFG_API CSpPTRNewLandRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    bool m_bBroadMediainserted;
-    DWORD m_dwDevType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwGetdataTimes;
+    bool m_bBroadMediainserted{};
+    DWORD m_dwDevType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwGetdataTimes{};
 };

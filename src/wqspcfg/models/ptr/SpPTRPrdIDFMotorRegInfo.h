@@ -13,8 +13,8 @@ class WQSPCFG_API CSpPTRPrdIDFMotorRegInfo : public CPTRRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strDN_IDF_MOTOR;
-    DWORD m_dwOpenAction;
-    bool m_bIsEjectAfterScan;
-    DWORD m_dwEjectAfterScanTime;
+    DWORD m_dwOpenAction{};
+    bool m_bIsEjectAfterScan{};
+    DWORD m_dwEjectAfterScanTime{};
     CString m_strIDFFormat;
 };

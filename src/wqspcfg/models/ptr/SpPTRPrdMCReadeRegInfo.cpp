@@ -4,17 +4,19 @@
 #include "wqspcfg/parts/meanings/PTR.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRPrdMCReadeRegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Device,  L"DN.IDC_SWIPE",    &C::m_strDN_IDC_SWIPE,    L"",       L"device name of the driver of the swipe reader", Saved},
-    {key::Control, L"BrushWait",       &C::m_dwBrushWait,        30,        meaning::printer::kBrushWait, Saved},
-    {key::Device,  L"Track1TiledName", &C::m_strTrack1TiledName, L"Track1", meaning::printer::kTrack1TiledName, Saved},
-    {key::Device,  L"Track2TiledName", &C::m_strTrack2TiledName, L"Track2", meaning::printer::kTrack2TiledName, Saved},
-    {key::Device,  L"Track3TiledName", &C::m_strTrack3TiledName, L"Track3", meaning::printer::kTrack3TiledName, Saved},
+    {key::Device, L"DN.IDC_SWIPE", &C::m_strDN_IDC_SWIPE, L"",
+     L"name of the device driver module of the swipe card reader", Saved},
+    {key::Control, L"BrushWait",       &C::m_dwBrushWait,        30,        printer::kBrushWait, Saved},
+    {key::Device,  L"Track1TiledName", &C::m_strTrack1TiledName, L"Track1", printer::kTrack1TiledName, Saved},
+    {key::Device,  L"Track2TiledName", &C::m_strTrack2TiledName, L"Track2", printer::kTrack2TiledName, Saved},
+    {key::Device,  L"Track3TiledName", &C::m_strTrack3TiledName, L"Track3", printer::kTrack3TiledName, Saved},
 };
 // clang-format on
 

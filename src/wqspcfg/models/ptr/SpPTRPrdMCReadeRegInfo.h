@@ -13,7 +13,7 @@ class WQSPCFG_API CSpPTRPrdMCReadeRegInfo : public CPTRRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strDN_IDC_SWIPE;
-    DWORD m_dwBrushWait;
+    DWORD m_dwBrushWait{};
     CString m_strTrack1TiledName;
     CString m_strTrack2TiledName;
     CString m_strTrack3TiledName;

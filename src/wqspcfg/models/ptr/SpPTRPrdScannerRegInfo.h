@@ -12,8 +12,8 @@ class WQSPCFG_API CSpPTRPrdScannerRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    bool m_bBroadMediainserted;
+    bool m_bBroadMediainserted{};
     CString m_strDN_BCR_BARCODE;
     CString m_strBeepFile;
-    DWORD m_dwReEnableScannerWaitTime;
+    DWORD m_dwReEnableScannerWaitTime{};
 };

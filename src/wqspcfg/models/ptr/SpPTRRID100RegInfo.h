@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/PTRRegInfo.h"
+#include "wqspcfg/models/shared/RID100Printer.h"
 
 // The RID100 ticket printer with retain bin, supply bins and RFID reader.
-class WQSPCFG_API CSpPTRRID100RegInfo : public CPTRRegInfo
+class WQSPCFG_API CSpPTRRID100RegInfo : public wqspcfg::RID100Printer
 {
   public:
     CSpPTRRID100RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,55 +12,16 @@ class WQSPCFG_API CSpPTRRID100RegInfo : public CPTRRegInfo
 
     // Whether the field is printed as text: exactly one of the names of m_strFieldsPrintAsText.
     bool IsPrintAsTextField(const CString& strField) const;
-    // Reads what simulation is to feed in, m_strSimCheckNo and m_strSimRFIDData, from the subkey Sim, each with a line
-    // in the log. Load does not.
-    void LoadSimData(CLog* pLog);
     // Read and write the number of tickets in the retain bin (m_dwRetainBinCount), which has a key of its own and is no
     // part of Load and Save. Missing, it is 0.
     void LoadRetainBinCount();
     void SaveRetainBinCount();
-    // Writes the tickets left in the supply bin in use (m_dwPaperCount) to the subkey PaperCounts, at once.
+    // Writes the tickets left in the supply bin in use (m_dwPaperCount) to the subkey PaperCounts, at once. Load reads
+    // the count from the device key, where only Save writes it: call Save too, or the next start finds the old count.
     void SaveSetPaperCount();
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwMaxRetainCount;
-    DWORD m_dwHighRetainCount;
-    DWORD m_dwThickness;
-    DWORD m_dwAllOffsetX;
-    DWORD m_dwAllOffsetY;
-    DWORD m_dwLineSpace;
-    CString m_strFieldsPrintAsText;
-    DWORD m_dwRFIDPort;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwWaitEnteringAfterEject;
-    DWORD m_dwWaitMNPAfterRetract;
-    DWORD m_dwWaitMPAfterDispense;
-    DWORD m_dwResetMode;
-    DWORD m_dwWaitMediaTakenTime;
-    DWORD m_dwTextRotate;
-    DWORD m_dwPicRotate;
-    DWORD m_dwBlackColorRangeMax;
-    bool m_bMustBeBoldWhenDoubleHigh;
-    DWORD m_dwTryScanCount;
-    DWORD m_dwMaxPaperCount;
-    DWORD m_dwHighPaperCount;
-    bool m_bCompareCheckStartNo;
-    bool m_bPrintTwoDimCodePic;
-    DWORD m_dwSizeofQRCode;
-    DWORD m_dwPrintMagCode;
-    DWORD m_dwWhichBoxActive;
-    DWORD m_dwSaveImageTime;
-    DWORD m_dwSupplyBinCount;
-    DWORD m_dwPaperCount;
-    CString m_strPhotoPath;
-    bool m_bRawDataPrintTextAsBmp;
-    DWORD m_dwBankType;
-
-    // What LoadSimData reads.
-    CString m_strSimCheckNo;
-    CString m_strSimRFIDData;
-
-    DWORD m_dwRetainBinCount = 0;
+    DWORD m_dwBankType{};
+    DWORD m_dwRetainBinCount{};
 };

@@ -18,15 +18,15 @@ class WQSPCFG_API CSpPTRSK5015GRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwRetractCount;
-    DWORD m_dwMaxRetractCount;
-    bool m_bMustBeRetract;
-    DWORD m_dwScanResolution;
-    DWORD m_dwScanColor;
-    bool m_bMustScanJPG;
-    DWORD m_dwRetryCount;
-    DWORD m_dwRetrySleepTime;
-    bool m_bIsStartScan;
-    bool m_bIsScanBarCode;
-    bool m_bIsEjectPaperWhenJa;
+    DWORD m_dwRetractCount{};
+    DWORD m_dwMaxRetractCount{};
+    bool m_bMustBeRetract{};
+    DWORD m_dwScanResolution{};
+    DWORD m_dwScanColor{};
+    bool m_bMustScanJPG{};
+    DWORD m_dwRetryCount{};
+    DWORD m_dwRetrySleepTime{};
+    bool m_bIsStartScan{};
+    bool m_bIsScanBarCode{};
+    bool m_bIsEjectPaperWhenJa{};
 };

@@ -12,21 +12,21 @@ class WQSPCFG_API CSpPTRSNBCC6500MRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwCheckType;
-    bool m_bCheckOutBoxEmpty;
-    bool m_bUserOCRCheck;
-    DWORD m_dwCheckWidth;
-    DWORD m_dwCheckHeight;
-    DWORD m_dwTwoDimPicXPoxLeftOffset;
-    DWORD m_dwTwoDimPicXPoxRightOffset;
-    DWORD m_dwTwoDimPicYPoxUpOffset;
-    DWORD m_dwTwoDimPicYPoxDownOffset;
-    DWORD m_dwContentXPoxLeftOffset;
-    DWORD m_dwContentXPoxRightOffset;
-    DWORD m_dwContentYPoxUpOffset;
-    DWORD m_dwContentYPoxDownOffset;
-    bool m_bFirstGetCheckNoWhenPrintCheck;
-    bool m_bCompareCheckStartNo;
-    bool m_bPintTwoDimCodePic;
+    DWORD m_dwPort{};
+    DWORD m_dwCheckType{};
+    bool m_bCheckOutBoxEmpty{};
+    bool m_bUserOCRCheck{};
+    DWORD m_dwCheckWidth{};
+    DWORD m_dwCheckHeight{};
+    DWORD m_dwTwoDimPicXPoxLeftOffset{};
+    DWORD m_dwTwoDimPicXPoxRightOffset{};
+    DWORD m_dwTwoDimPicYPoxUpOffset{};
+    DWORD m_dwTwoDimPicYPoxDownOffset{};
+    DWORD m_dwContentXPoxLeftOffset{};
+    DWORD m_dwContentXPoxRightOffset{};
+    DWORD m_dwContentYPoxUpOffset{};
+    DWORD m_dwContentYPoxDownOffset{};
+    bool m_bFirstGetCheckNoWhenPrintCheck{};
+    bool m_bCompareCheckStartNo{};
+    bool m_bPintTwoDimCodePic{};
 };

@@ -12,11 +12,11 @@ class WQSPCFG_API CSpPTRSNBCD200MRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwMaxRetain;
-    DWORD m_dwHighRetainBin;
-    DWORD m_dwRetainBinCount;
-    DWORD m_dwMediaType;
-    DWORD m_dwOCRStyle;
-    DWORD m_dwDevType;
+    DWORD m_dwBaudRate{};
+    DWORD m_dwMaxRetain{};
+    DWORD m_dwHighRetainBin{};
+    DWORD m_dwRetainBinCount{};
+    DWORD m_dwMediaType{};
+    DWORD m_dwOCRStyle{};
+    DWORD m_dwDevType{};
 };

@@ -12,9 +12,9 @@ class WQSPCFG_API CSpPTRSNBCSC100PRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwMaxRetain;
-    DWORD m_dwHighRetainBin;
-    DWORD m_dwRetainBinCount;
+    DWORD m_dwMaxRetain{};
+    DWORD m_dwHighRetainBin{};
+    DWORD m_dwRetainBinCount{};
     CString m_strImageFilePath;
-    DWORD m_dwTimeWaitReadImage;
+    DWORD m_dwTimeWaitReadImage{};
 };

@@ -16,13 +16,13 @@ class WQSPCFG_API CSpPTRScanD412RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwRetractCount;
-    DWORD m_dwMaxRetractCount;
-    bool m_bMustBeRetract;
-    bool m_bHideErrA7;
-    bool m_bMustScanColorFULL;
-    bool m_bMustScanJPG;
-    DWORD m_dwScanResolution;
-    DWORD m_dwScanHight;
-    DWORD m_dwInsertMediaTryTimtOut;
+    DWORD m_dwRetractCount{};
+    DWORD m_dwMaxRetractCount{};
+    bool m_bMustBeRetract{};
+    bool m_bHideErrA7{};
+    bool m_bMustScanColorFULL{};
+    bool m_bMustScanJPG{};
+    DWORD m_dwScanResolution{};
+    DWORD m_dwScanHight{};
+    DWORD m_dwInsertMediaTryTimtOut{};
 };

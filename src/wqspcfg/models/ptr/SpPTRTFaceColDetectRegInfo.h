@@ -15,6 +15,6 @@ class WQSPCFG_API CSpPTRTFaceColDetectRegInfo : public CPTRRegInfo
     CString m_strCamName;
     CString m_strPicFile;
     CString m_strCamPIDVID;
-    DWORD m_dwWidth;
-    DWORD m_dwHeight;
+    DWORD m_dwWidth{};
+    DWORD m_dwHeight{};
 };

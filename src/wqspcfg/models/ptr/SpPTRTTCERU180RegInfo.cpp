@@ -4,13 +4,14 @@
 #include "wqspcfg/parts/meanings/PTR.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRTTCERU180RegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Control, L"BrushWait", &C::m_dwBrushWait, 30, meaning::printer::kBrushWait, Saved},
+    {key::Control, L"BrushWait", &C::m_dwBrushWait, 30, printer::kBrushWait, Saved},
 };
 // clang-format on
 

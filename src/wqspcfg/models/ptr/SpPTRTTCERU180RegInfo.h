@@ -12,5 +12,5 @@ class WQSPCFG_API CSpPTRTTCERU180RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBrushWait;
+    DWORD m_dwBrushWait{};
 };

@@ -12,10 +12,10 @@ class WQSPCFG_API CSpPTRTcsyRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwType;
-    bool m_bOnlyGetFeature;
-    DWORD m_dwFeatureTimeOut;
-    bool m_bStExtraRetFacInfo;
-    DWORD m_dwEventBroTime;
+    DWORD m_dwPort{};
+    DWORD m_dwType{};
+    bool m_bOnlyGetFeature{};
+    DWORD m_dwFeatureTimeOut{};
+    bool m_bStExtraRetFacInfo{};
+    DWORD m_dwEventBroTime{};
 };

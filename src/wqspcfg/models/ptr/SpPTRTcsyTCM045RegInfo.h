@@ -12,11 +12,11 @@ class WQSPCFG_API CSpPTRTcsyTCM045RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwMatchLev;
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBautRateIndex;
-    bool m_bSentMediatakenWaitFingerUp;
-    DWORD m_dwRetrunFinPicOrData;
-    DWORD m_dwRetrunWhat;
+    DWORD m_dwMatchLev{};
+    DWORD m_dwType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBautRateIndex{};
+    bool m_bSentMediatakenWaitFingerUp{};
+    DWORD m_dwRetrunFinPicOrData{};
+    DWORD m_dwRetrunWhat{};
 };

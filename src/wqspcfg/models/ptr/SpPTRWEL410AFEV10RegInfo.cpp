@@ -4,13 +4,14 @@
 #include "wqspcfg/parts/meanings/PTR.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRWEL410AFEV10RegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Control, L"DevType", &C::m_dwDevType, 0, meaning::printer::kDevType, Saved},
+    {key::Control, L"DevType", &C::m_dwDevType, 0, printer::kNotDocumented, Saved},
 };
 // clang-format on
 

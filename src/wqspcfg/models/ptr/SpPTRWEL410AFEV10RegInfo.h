@@ -12,5 +12,5 @@ class WQSPCFG_API CSpPTRWEL410AFEV10RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwDevType;
+    DWORD m_dwDevType{};
 };

@@ -14,11 +14,11 @@ class WQSPCFG_API CSpPTRYCTBP80RegInfo : public CPTRRegInfo
 
     CString m_strBluetoothName;
     CString m_strBluetoothPassword;
-    DWORD m_dwRawDataStyle;
-    DWORD m_dwFeedBeforePrint;
-    DWORD m_dwFeedAfterPrint;
-    DWORD m_dwPrintIntervalTime;
-    bool m_bSendFieldWarnningEvent;
-    DWORD m_dwLineSpace;
-    DWORD m_dwWordSpace;
+    DWORD m_dwRawDataStyle{};
+    DWORD m_dwFeedBeforePrint{};
+    DWORD m_dwFeedAfterPrint{};
+    DWORD m_dwPrintIntervalTime{};
+    bool m_bSendFieldWarnningEvent{};
+    DWORD m_dwLineSpace{};
+    DWORD m_dwWordSpace{};
 };

@@ -12,9 +12,9 @@ class WQSPCFG_API CSpPTRYK2201RegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwTimeOut;
-    DWORD m_dwBrushWait;
+    DWORD m_dwPort{};
+    DWORD m_dwTimeOut{};
+    DWORD m_dwBrushWait{};
     CString m_strTrack1TiledName;
     CString m_strTrack2TiledName;
     CString m_strTrack3TiledName;

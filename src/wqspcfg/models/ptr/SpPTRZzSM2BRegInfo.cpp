@@ -5,14 +5,15 @@
 #include "wqspcfg/parts/meanings/Shared.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRZzSM2BRegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Control, L"MatchLev", &C::m_dwMatchLev, 3, meaning::printer::kMatchLev, Saved},
-    {key::Comm,    L"Port",     &C::m_dwPort,     1, meaning::kPort, Saved},
+    {key::Control, L"MatchLev", &C::m_dwMatchLev, 3, printer::kMatchLev, Saved},
+    {key::Comm,    L"Port",     &C::m_dwPort,     1, kPort, Saved, RefersTo(Reference::SerialPort)},
 };
 // clang-format on
 

@@ -12,6 +12,6 @@ class WQSPCFG_API CSpPTRZzSM2BRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwMatchLev;
-    DWORD m_dwPort;
+    DWORD m_dwMatchLev{};
+    DWORD m_dwPort{};
 };

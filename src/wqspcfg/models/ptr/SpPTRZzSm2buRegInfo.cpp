@@ -4,14 +4,15 @@
 #include "wqspcfg/parts/meanings/PTR.h"
 
 using namespace wqspcfg;
+using namespace wqspcfg::meaning;
 using C = CSpPTRZzSm2buRegInfo;
 
 namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Control, L"DevType",        &C::m_dwDevType,        0, meaning::printer::kDevType, Saved},
-    {key::Control, L"ApProtocolType", &C::m_dwApProtocolType, 0, L"protocol of the application; 0 the standard one", Saved},
+    {key::Control, L"DevType",        &C::m_dwDevType,        0, printer::kNotDocumented, Saved},
+    {key::Control, L"ApProtocolType", &C::m_dwApProtocolType, 0, printer::kNotDocumented, Saved},
 };
 // clang-format on
 

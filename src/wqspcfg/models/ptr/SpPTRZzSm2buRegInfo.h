@@ -12,6 +12,6 @@ class WQSPCFG_API CSpPTRZzSm2buRegInfo : public CPTRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwDevType;
-    DWORD m_dwApProtocolType;
+    DWORD m_dwDevType{};
+    DWORD m_dwApProtocolType{};
 };

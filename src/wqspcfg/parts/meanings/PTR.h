@@ -3,6 +3,7 @@
 
 namespace wqspcfg::meaning::printer {
 
+inline constexpr wchar_t kNotDocumented[] = L"not documented";
 inline constexpr wchar_t kTimeOut[] = L"time-out in s";
 inline constexpr wchar_t kReturnWord[] =
     L"characters that start a new line; empty the carriage return and line feed of the data";
@@ -43,41 +44,15 @@ inline constexpr wchar_t kUseOneFormPrintManyKindsReceipt[] =
 inline constexpr wchar_t kAdjustPosY[] = L"adjustment of the vertical print position";
 inline constexpr wchar_t kRawDataStyle[] = L"style in which raw data are printed; 0 the device's standard";
 inline constexpr wchar_t kIgnoreInvalidData[] = L"invalid print data are ignored: 0 no; nonzero yes";
-inline constexpr wchar_t kOpenMediaJamCheck[] = L"the check for jammed media is on: 0 no; nonzero yes";
-inline constexpr wchar_t kAdobeToolPrint[] = L"PDF files are printed through the Adobe program: 0 no; nonzero yes";
-inline constexpr wchar_t kCheckTotalTime[] = L"longest time in s for checking the media of a print job";
-inline constexpr wchar_t kCheckNOMediaTime[] =
-    L"time in s without media after which a print job's media count as absent";
-inline constexpr wchar_t kPrintHtml[] = L"HTML files are printed: 0 no; nonzero yes";
-inline constexpr wchar_t kPrintHtmlType[] = L"way in which HTML files are printed; 0 the standard one";
 inline constexpr wchar_t kIsStamp[] = L"a stamping unit is fitted: 0 no; nonzero yes";
-inline constexpr wchar_t kStampPort[] = L"serial port number of the stamping unit";
-inline constexpr wchar_t kStampBaudRate[] = L"serial speed of the stamping unit in baud";
-inline constexpr wchar_t kPosYOfFirstStamp[] = L"vertical position of the first stamp on the page";
-inline constexpr wchar_t kPaperCount[] = L"number of sheets for the stamping unit";
-inline constexpr wchar_t kStampNumber[] = L"number of stamps";
-inline constexpr wchar_t kFirstYPos[] = L"vertical position of stamp 1";
-inline constexpr wchar_t kSecondYPos[] = L"vertical position of stamp 2";
-inline constexpr wchar_t kThirdYPos[] = L"vertical position of stamp 3";
-inline constexpr wchar_t kStampMode[] = L"mode of the stamping unit; 0 the standard one";
-inline constexpr wchar_t kOpenPaperOut[] = L"the paper output transport is used: 0 no; nonzero yes";
-inline constexpr wchar_t kPaperOutPort[] = L"serial port number of the paper output transport";
 inline constexpr wchar_t kRawDataParseID[] = L"profile by which raw data are parsed; 0 the standard one";
 inline constexpr wchar_t kCheckInputParam[] = L"check the input parameters of commands: 0 no; nonzero yes";
-inline constexpr wchar_t kSetTotalPagesBy[] = L"where the total number of pages is taken from; 0 the print job";
-inline constexpr wchar_t kPrintStyleWithMediaStatusSet[] = L"how printing sets the media status; 0 the standard way";
 inline constexpr wchar_t kWaitPrintJob[] = L"printing waits for the end of the print job: 0 no; nonzero yes";
 inline constexpr wchar_t kPaperStatusStartIndex[] = L"index of the first paper source in the paper status";
 inline constexpr wchar_t kMaxRetain[] = L"capacity of the retain bin";
 inline constexpr wchar_t kHighRetainBin[] = L"count at which the retain bin is nearly full";
 inline constexpr wchar_t kRetainBinCount[] = L"number of items in the retain bin";
 inline constexpr wchar_t kScanResolution[] = L"scan resolution in dots per inch";
-inline constexpr wchar_t kUsePrintLine[] = L"printing goes by line number: 0 no; nonzero yes";
-inline constexpr wchar_t kPageLen[] = L"length of a page; 0 as the form says";
-inline constexpr wchar_t kTopLen[] = L"length from the top of the page to the first line";
-inline constexpr wchar_t kBlankLen[] = L"length of the blank in the middle of a page";
-inline constexpr wchar_t kFirstOverLen[] = L"length by which the first page may be overrun";
-inline constexpr wchar_t kSecondOverLen[] = L"length by which the second page may be overrun";
 inline constexpr wchar_t kUseOneForm[] = L"one form serves for all pages: 0 no; nonzero yes";
 inline constexpr wchar_t kStartLineNum[] = L"number of the first line";
 inline constexpr wchar_t kMaxLineNum[] = L"number of lines on a page";
@@ -96,18 +71,10 @@ inline constexpr wchar_t kCharHeightFlag[] = L"height of characters; 0 normal";
 inline constexpr wchar_t kLeftMargin[] = L"left margin";
 inline constexpr wchar_t kCutMode[] = L"how the paper is cut; 0 the device's standard";
 inline constexpr wchar_t kCutPos[] = L"position at which the paper is cut";
-inline constexpr wchar_t kInitCount[] = L"attempts to initialise the device";
-inline constexpr wchar_t kUseBlackFace[] = L"print in bold face: 0 no; nonzero yes";
 inline constexpr wchar_t kInsertVertical[] = L"passbooks are inserted vertically: 0 no; nonzero yes";
 inline constexpr wchar_t kOpenOption[] = L"action when the SP opens: 0 none; 1 eject the media; 2 retract them";
 inline constexpr wchar_t kIsUseBlackMark[] = L"the black mark of the paper positions the cut: 0 no; nonzero yes";
-inline constexpr wchar_t kPrintPos[] = L"position at which printing starts";
-inline constexpr wchar_t kEnCharSpace[] = L"space between Latin characters";
-inline constexpr wchar_t kChCharSpaceLeft[] = L"space to the left of Chinese characters";
-inline constexpr wchar_t kChCharSpaceRight[] = L"space to the right of Chinese characters";
-inline constexpr wchar_t kPrintTimeOut[] = L"time-out of printing in s";
 inline constexpr wchar_t kRawDataFilePathStyle[] = L"how raw data name a file to be printed; 0 the standard way";
-inline constexpr wchar_t kDevType[] = L"device variant; 0 the standard one";
 inline constexpr wchar_t kFullCut[] = L"the paper is cut in full: 0 in part; nonzero in full";
 inline constexpr wchar_t kCurLastCount[] = L"number of receipts that can still be printed on low paper";
 inline constexpr wchar_t kUseCountWhenLow[] = L"receipts are counted while paper is low: 0 no; nonzero yes";
@@ -143,42 +110,11 @@ inline constexpr wchar_t kContinuePrintType[] = L"how consecutive print commands
 inline constexpr wchar_t kFieldPosYChange[] = L"change of the vertical position of fields";
 inline constexpr wchar_t kMaxRetainCount[] = L"maximum number of tickets in the retain bin";
 inline constexpr wchar_t kHighRetainCount[] = L"number at which the retain bin counts as nearly full";
-inline constexpr wchar_t kThickness[] = L"print density";
-inline constexpr wchar_t kAllOffsetX[] = L"horizontal offset of all form nodes";
-inline constexpr wchar_t kAllOffsetY[] = L"vertical offset of all form nodes";
-inline constexpr wchar_t kFieldsPrintAsText[] =
-    L"the form fields printed as text, separated by \";\"; all others are printed as images";
 inline constexpr wchar_t kRFIDPort[] = L"serial port number of the RFID reader";
-inline constexpr wchar_t kWaitEnteringAfterEject[] =
-    L"seconds to wait, after eject and opening the slot, for the exit to report entering";
-inline constexpr wchar_t kWaitMNPAfterRetract[] = L"seconds to wait after a successful retract for media not present";
-inline constexpr wchar_t kWaitMPAfterDispense[] = L"seconds to wait after a successful dispense for media present";
-inline constexpr wchar_t kResetMode[] = L"0 software reset without action; 1 soft reset that clears the path; 2 the "
-                                        L"device must be restarted after a successful reset";
-inline constexpr wchar_t kTextRotate[] = L"rotation of printed text in degrees: 0, 90, 180 or 270";
-inline constexpr wchar_t kPicRotate[] = L"rotation of printed pictures in degrees: 0, 90, 180 or 270";
-inline constexpr wchar_t kMustBeBoldWhenDoubleHigh[] = L"double height always prints bold: 0 no; 1 yes";
-inline constexpr wchar_t kTryScanCount[] = L"attempts to scan the front and back images";
-inline constexpr wchar_t kMaxPaperCount[] = L"maximum number of tickets in the supply bin";
-inline constexpr wchar_t kHighPaperCount[] = L"number at which the supply bin counts as nearly full";
-inline constexpr wchar_t kCompareCheckStartNo[] =
-    L"compare the starting ticket number given by the application while printing: 0 no; 1 yes";
-inline constexpr wchar_t kPrintTwoDimCodePic[] = L"print a two-dimensional code: 0 no; 1 yes";
-inline constexpr wchar_t kSizeofQRCode[] = L"size of the two-dimensional code";
-inline constexpr wchar_t kPrintMagCode[] = L"print the magnetic code: 0 no; 1 as a picture; 2 as text";
-inline constexpr wchar_t kWhichBoxActive[] = L"the active supply bin: 1, 2 or 3";
 inline constexpr wchar_t kSaveImageTime[] = L"days for which images are kept: 0 to 90";
-inline constexpr wchar_t kSupplyBinCount[] = L"number of supply bins: 2 new device; 3 old device";
-inline constexpr wchar_t kPhotoPath[] = L"folder of the photos taken for character recognition";
-inline constexpr wchar_t kRawDataPrintTextAsBmp[] = L"raw-data printing prints plain text as a picture: 0 no; 1 yes";
 inline constexpr wchar_t kBankType[] = L"bank profile: 1 Drodre; 2 Tograx; 3 Agricultural Bank of China Hebei";
-inline constexpr wchar_t kCloseActionType[] = L"action when the SP closes: 0 none; 1 eject the media; 2 retract them";
-inline constexpr wchar_t kResetActionType[] = L"action at a reset: 0 none; 1 eject the media; 2 retract them";
 inline constexpr wchar_t kMustBeRetract[] = L"media left in the device are always retracted: 0 no; nonzero yes";
 inline constexpr wchar_t kMustScanJPG[] = L"scanned pictures are always JPG files: 0 no; nonzero yes";
 inline constexpr wchar_t kMatchLev[] = L"level of the fingerprint match";
-inline constexpr wchar_t kPowerOffOption[] = L"action at power off: 0 none; 1 eject the media; 2 retract them";
-inline constexpr wchar_t kSimCheckNo[] = L"ticket number to simulate";
-inline constexpr wchar_t kSimRFIDData[] = L"RFID data to simulate";
 
 } // namespace wqspcfg::meaning::printer
