@@ -202,13 +202,15 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
     void Class::Save()                                                                                                 \
     {                                                                                                                  \
         wqspcfg::Saving saving(*this);                                                                                 \
-        Base::Save();                                                                                                  \
+        if (Class::Settings().savesBase) {                                                                             \
+            Base::Save();                                                                                              \
+        }                                                                                                              \
         saving.Write(Class::Settings());                                                                               \
     }                                                                                                                  \
     WQSPCFG_CATALOGUE_ENTRY(Class)
 
-// Everything that such a class needs besides its table `rows`. An order of saving that is not the table's ({} where it
-// is) and the settings of its operations follow as further arguments.
+// Everything that such a class needs besides its table `rows`. The fields of Table from the order of saving on follow
+// as further arguments.
 #define WQSPCFG_SETTINGS(Class, Base, rows, ...)                                                                       \
     const wqspcfg::Table& Class::Settings() noexcept                                                                   \
     {                                                                                                                  \
