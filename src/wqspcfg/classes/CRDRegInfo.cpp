@@ -15,7 +15,6 @@ using C = CCRDRegInfo;
 namespace {
 
 constexpr Key kCardUnits = key::Below(L"CardUnit");
-constexpr Key kCardUnit = key::Below(L"CardUnit\\%s");
 
 // clang-format off
 constexpr Setting kControl[] = {
@@ -47,10 +46,7 @@ constexpr Setting kSettings[] = {
 constexpr auto kCardUnitRows = [] {
     std::array<Setting, std::size(kCardUnitFields)> rows{};
     std::size_t n = 0;
-    ForEachStoredField([&](const CardUnitField& field) {
-        rows[n++] = field.IsText() ? Setting(kCardUnit, field.name, StringValue, L"", field.meaning, NotLogged, Saved)
-                                   : Setting(kCardUnit, field.name, DwordValue, 0, field.meaning, NotLogged, Saved);
-    });
+    ForEachStoredField([&](const CardUnitField& field) { rows[n++] = field.row; });
     return rows;
 }();
 constexpr OperationSettings kOperations[] = {{L"Load", L"FlushCardUnit", kCardUnitRows}};
@@ -96,8 +92,10 @@ bool CCRDRegInfo::LoadCardUnits(Loading& loading)
     if (!EnumSubKeyName(arNames, L"%s%s\\%s", kDeviceRoot, GetExeDllMother(1, nullptr), kCardUnits.subkey)) {
         return false;
     }
+    Iteration iteration; // its index is the unit's number, under which the unit is saved
     for (const auto& strName : arNames) {
-        const auto subkey = FormatString(kCardUnit.subkey, strName);
+        iteration.name = strName;
+        iteration.index = 0;
         tagCardUnitEx unit;
         ForEachStoredField([&](const CardUnitField& field) {
             if (&field != kCardUnitFields && unit.usNumber == 0) {
@@ -106,11 +104,12 @@ bool CCRDRegInfo::LoadCardUnits(Loading& loading)
             DWORD dwValue = 0;
             CString strText;
             if (!field.IsText()) {
-                loading.Query(key::Below(subkey.c_str()), field.name, dwValue);
+                loading.Query(field.row, iteration, dwValue);
                 field.setNumber(unit, dwValue);
-            } else if (loading.Query(key::Below(subkey.c_str()), field.name, strText)) {
+            } else if (loading.Query(field.row, iteration, strText)) {
                 (unit.*field.setText)(WideToNarrow(strText.View()).c_str());
             }
+            iteration.index = unit.usNumber;
         });
         if (unit.usNumber != 0) {
             m_arCardUnit.Add(unit);
@@ -135,12 +134,13 @@ void CCRDRegInfo::FlushCardUnit()
     const auto nCount = m_arCardUnit.GetSize();
     for (INT_PTR i = 0; i < nCount; ++i) {
         const tagCardUnitEx& unit = m_arCardUnit[i];
-        const auto subkey = FormatString(kCardUnit.subkey, FormatString(L"CardUnitInfo%d", +unit.usNumber));
+        const auto name = FormatString(L"CardUnitInfo%d", +unit.usNumber);
+        const Iteration iteration{name.c_str(), unit.usNumber, unit.usNumber};
         const auto put = [&](const CardUnitField& field) {
             if (field.IsText()) {
-                saving.Put(key::Below(subkey.c_str()), field.name, WideText(field.text(unit)));
+                saving.Put(field.row, iteration, WideText(field.text(unit)));
             } else {
-                saving.Put(key::Below(subkey.c_str()), field.name, field.number(unit));
+                saving.Put(field.row, iteration, field.number(unit));
             }
         };
         const CardUnitField* again = nullptr;

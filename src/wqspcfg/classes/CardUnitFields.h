@@ -1,23 +1,36 @@
-// The fields of a card unit, each with the registry value that holds it.
+// The fields of a card unit, each with the setting that holds it.
 #pragma once
 
 #include "wqspcfg/classes/CardUnitEx.h"
+#include "wqspcfg/core/settings/Setting.h"
 
 namespace wqspcfg {
 
 // A number or a text of a card unit.
 struct CardUnitField
 {
-    const wchar_t* name; // of the value and of the column in the log's table
-    const wchar_t* meaning;
-    DWORD (*number)(const tagCardUnitEx&);
-    void (*setNumber)(tagCardUnitEx&, DWORD);
-    bool writtenAgain = false;                           // once more after the next number
-    const char* (*text)(const tagCardUnitEx&) = nullptr; // set where the field is a text
+    Setting row;
+    const wchar_t* column; // of the log's table
+    DWORD (*number)(const tagCardUnitEx&) = nullptr;
+    void (*setNumber)(tagCardUnitEx&, DWORD) = nullptr;
+    bool writtenAgain = false; // once more after the next number
+    const char* (*text)(const tagCardUnitEx&) = nullptr;
     void (tagCardUnitEx::*setText)(const char*) = nullptr;
-    const wchar_t* column = name;
+
+    constexpr CardUnitField(const wchar_t* name, const wchar_t* meaning, DWORD (*get)(const tagCardUnitEx&),
+                            void (*set)(tagCardUnitEx&, DWORD), bool again = false)
+        : row(kKey, name, DwordValue, 0, meaning, NotLogged, Saved), column(name), number(get), setNumber(set),
+          writtenAgain(again)
+    {}
+    constexpr CardUnitField(const wchar_t* name, const wchar_t* meaning, const char* (*get)(const tagCardUnitEx&),
+                            void (tagCardUnitEx::*set)(const char*), const wchar_t* heading = nullptr)
+        : row(kKey, name, StringValue, L"", meaning, NotLogged, Saved), column(heading != nullptr ? heading : name),
+          text(get), setText(set)
+    {}
 
     constexpr bool IsText() const { return text != nullptr; }
+
+    static constexpr Key kKey = key::Below(L"CardUnit\\%s");
 };
 
 // Members of a packed record have no references; a number keeps the bits that its field has.
@@ -25,7 +38,7 @@ struct CardUnitField
     [](const tagCardUnitEx& unit) { return static_cast<DWORD>(unit.field); },                                          \
         [](tagCardUnitEx& unit, DWORD value) { unit.field = static_cast<decltype(unit.field)>(value); }
 #define WQSPCFG_TEXT(field, set)                                                                                       \
-    nullptr, nullptr, false, [](const tagCardUnitEx& unit) -> const char* { return unit.field; }, &tagCardUnitEx::set
+    [](const tagCardUnitEx& unit) -> const char* { return unit.field; }, &tagCardUnitEx::set
 
 // clang-format off
 inline constexpr CardUnitField kCardUnitFields[] = {

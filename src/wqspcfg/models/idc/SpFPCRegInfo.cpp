@@ -1,6 +1,7 @@
 #include "wqspcfg/models/idc/SpFPCRegInfo.h"
 
 #include "wqspcfg/core/RegInfo.h"
+#include "wqspcfg/core/settings/OwnChanges.h"
 #include "wqspcfg/core/settings/Settings.h"
 #include "wqspcfg/parts/meanings/IDC.h"
 
@@ -18,7 +19,7 @@ constexpr Setting kTemplates[] = {
      L"not valid it is not saved", Saved, QualifiedLabel, RefersTo(Reference::File)},
 };
 
-constexpr Setting kSettings[] = {
+constexpr Setting kCollector[] = {
     {key::Device, L"DN.FPC_NORMAL", &C::m_strDN_FPC_NORMAL, L"WQDrFPCWEL410AFE",
      L"name of the device driver module of the fingerprint collector", Saved},
     {kCollect, L"IntervalOfTemplate", &C::m_dwIntervalOfTemplate, 0,
@@ -44,6 +45,10 @@ constexpr Setting kSettings[] = {
      L"key name under which the firmware version is reported", Saved},
     {key::Device, L"VendorDrverKeyName", &C::m_strVendorDrverKeyName, L"VendorDrver",
      L"key name under which the driver version is reported", Saved},
+};
+
+constexpr Setting kSettings[] = {
+    Group(kCollector),
     {key::Device, L"ProtocolType", &C::m_dwProtocolType, 0,
      L"protocol with the application, which the model loads", Preloaded, NotLogged, Saved},
 };
@@ -68,13 +73,22 @@ CSpFPCRegInfo::CSpFPCRegInfo(const CRegInfo& owner) : m_owner(owner)
     Construct(*this, kSettings);
 }
 
-CSpFPCRegInfo::~CSpFPCRegInfo() = default;
+CSpFPCRegInfo::~CSpFPCRegInfo()
+{
+    ForgetLoaded(*this);
+}
 
 bool CSpFPCRegInfo::Load(CLog* pLog)
 {
     m_strKeyName = m_owner.GetExeDllMother(1, nullptr);
     Loading loading(*this, m_strKeyName, pLog);
-    return loading.Read(Settings());
+    return loading.Read(Settings(), kCollector);
+}
+
+void CSpFPCRegInfo::ProtocolTypeLoaded(CLog* pLog)
+{
+    Loading loading(*this, m_strKeyName, pLog);
+    loading.Read(Settings(), RowOf(kSettings, L"ProtocolType"));
 }
 
 void CSpFPCRegInfo::Save()

@@ -44,6 +44,10 @@ class WQSPCFG_API CSpFPCRegInfo : public CRegKeyEx
     DWORD m_dwProtocolType = 0; // the deriving model's setting
     CString m_strKeyName;       // of the owner's device key, at the last Load or Save
 
+  protected:
+    // The model has loaded m_dwProtocolType: this Save is to know what it held.
+    void ProtocolTypeLoaded(CLog* pLog);
+
   private:
     const CRegInfo& m_owner;
 };

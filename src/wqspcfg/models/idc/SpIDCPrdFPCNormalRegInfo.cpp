@@ -13,8 +13,7 @@ constexpr Setting kSettings[] = {
      L"protocol with the application: 0 ReadRawData; nonzero chip I/O"},
     // The line has a number's conversion, which prints the text all the same.
     {key::Below(L"Collect"), L"FingerPicPath", &C::m_strFingerPicPath, L"",
-     L"path that captured fingerprint images are saved to",
-     Saved, QualifiedLabel, Format(L"%d"), RefersTo(Reference::Directory)},
+     L"path that captured fingerprint images are saved to", Saved, QualifiedLabel, Format(L"%d")},
 };
 // clang-format on
 

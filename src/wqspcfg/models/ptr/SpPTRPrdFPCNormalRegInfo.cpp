@@ -44,7 +44,9 @@ bool CSpPTRPrdFPCNormalRegInfo::Load(CLog* pLog)
     Loading loading(*this, pLog);
     const bool bResult = CPTRRegInfo::Load(pLog);
     CSpFPCRegInfo::Load(pLog);
-    return loading.Read(Settings()) && bResult;
+    const bool bRead = loading.Read(Settings());
+    ProtocolTypeLoaded(pLog);
+    return bRead && bResult;
 }
 
 void CSpPTRPrdFPCNormalRegInfo::Save()
