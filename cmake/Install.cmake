@@ -10,6 +10,8 @@ install(
     FILES_MATCHING
     PATTERN "*.h"
     PATTERN "RegInfoSettings.h" EXCLUDE
+    PATTERN "*Rows.h" EXCLUDE
+    PATTERN "CardUnitFields.h" EXCLUDE
     PATTERN "meanings" EXCLUDE
     PATTERN "*Rows.h" EXCLUDE
     PATTERN "tools" EXCLUDE

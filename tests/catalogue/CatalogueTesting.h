@@ -103,13 +103,6 @@ inline DescribedValue Held(const DescribedSetting& setting, CRegKeyEx& object)
     return {};
 }
 
-// Models whose Save leaves out what their bases save.
-inline bool SavesOnlyItsOwn(const ClassEntry& entry)
-{
-    static const std::set<std::wstring_view> kNames{L"CSpMCRCF66RegInfo", L"CSpIDCPrdFPCNormalRegInfo"};
-    return kNames.contains(entry.table().className);
-}
-
 inline bool IsText(Type type)
 {
     return type == Type::String || type == Type::Char;

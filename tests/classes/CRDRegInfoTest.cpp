@@ -1,10 +1,12 @@
 #include "wqspcfg/classes/CRDRegInfo.h"
 
 #include "support/ConfigTest.h"
+#include "wqspcfg/core/settings/Reference.h"
 
 #include <algorithm>
 #include <chrono>
 #include <future>
+#include <set>
 
 namespace {
 
@@ -121,6 +123,14 @@ TEST_F(CRDRegInfoTest, SaveWritesTheUnitsInTheirFixedOrderUnderTheirNumbers)
               (std::vector<std::wstring>{L"Number", L"Type", L"InitialCount", L"Count", L"RetainCount", L"Threshold",
                                          L"Status", L"HardwareSensor", L"Status", L"MaxCount", L"MinCount", L"CardName",
                                          L"Hopper"}));
+    // The reference names each of them, and so much only.
+    std::set<std::wstring> documented;
+    for (const auto& setting : wqspcfg::DescribeOperations(CCRDRegInfo::Settings())) {
+        EXPECT_EQ(setting.key, L"CardUnit\\%s");
+        EXPECT_TRUE(documented.insert(setting.name).second);
+    }
+    const auto names = WritesOf(L"CardUnitInfo2");
+    EXPECT_EQ(documented, std::set<std::wstring>(names.begin(), names.end()));
     EXPECT_EQ(Text(Unit(L"CardUnitInfo2"), L"CardName"), L"silver");
     EXPECT_EQ(Text(Unit(L"CardUnitInfo2"), L"Hopper"), L"");
 

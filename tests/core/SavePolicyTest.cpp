@@ -4,6 +4,7 @@
 #include "wqspcfg/classes/IDCRegInfo.h"
 #include "wqspcfg/classes/PINRegInfo.h"
 #include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
+#include "wqspcfg/models/ptr/SpPTRPrdFPCNormalRegInfo.h"
 #include "wqspcfg/platform/store/Session.h"
 
 #include <algorithm>
@@ -64,6 +65,37 @@ TEST_F(SavePolicyTest, TwoObjectsOnOneDeviceKeyKeepEachOthersChanges)
     second.Save();
     EXPECT_EQ(Number(m_comm, L"Port"), 7U);
     EXPECT_EQ(Number(m_comm, L"BaudRate"), 38400U);
+}
+
+TEST_F(SavePolicyTest, ACardUnitsValuesStayToo)
+{
+    const auto unit = Device(L"CardUnit\\CardUnitInfo2");
+    Set(unit, L"Number", 2);
+    Set(unit, L"Count", 10);
+    Set(unit, L"Threshold", 5);
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    Set(unit, L"Threshold", 8);
+    config.m_arCardUnit[0].ulCount = 9;
+    config.m_arCardUnit[0].SetCardName("gold");
+    config.Save();
+    EXPECT_EQ(Number(unit, L"Count"), 9U);
+    EXPECT_EQ(Text(unit, L"CardName"), L"gold");
+    EXPECT_EQ(Number(unit, L"Threshold"), 8U);
+}
+
+TEST_F(SavePolicyTest, AValueThatAnotherBaseSavesStaysToo)
+{
+    Set(Device(), L"ProtocolType", 1);
+    CSpPTRPrdFPCNormalRegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    Set(Device(), L"ProtocolType", 2);
+    config.Save();
+    EXPECT_EQ(Number(Device(), L"ProtocolType"), 2U);
+    config.m_dwProtocolType = 0;
+    Set(Device(), L"ProtocolType", 1);
+    config.Save();
+    EXPECT_EQ(Number(Device(), L"ProtocolType"), 0U);
 }
 
 TEST_F(SavePolicyTest, AConflictIsTheObjectsAndIsLogged)

@@ -3,6 +3,7 @@
 #include "wqspcfg/models/crd/SpCRDACTF55540RegInfo.h"
 #include "wqspcfg/models/crd/SpCRDKoreaTLD1000RegInfo.h"
 #include "wqspcfg/models/crd/SpCRDTD2001GetRegInfo.h"
+#include "wqspcfg/models/crd/SpCRDTTCED16X0RegInfo.h"
 #include "wqspcfg/models/crd/SpCRDWQTKoreaTLD1000RegInfo.h"
 #include "wqspcfg/models/crd/SpCRDWQTSankyo3A7230RegInfo.h"
 #include "wqspcfg/models/crd/SpCRDWQTYRM3800RegInfo.h"
@@ -39,6 +40,22 @@ TEST_F(CardDispenserModelsTest, TheUKeyDispenserSharesADispenseSwitchWithItsBase
     EXPECT_NE(Line(L"DispenseAfterRetainBinFull").find(L" : 5["), std::wstring::npos);
     config.Save();
     EXPECT_EQ(Number(Device(L"Control"), L"DispenseAfterRetainBinFull"), 1U);
+}
+
+TEST_F(CardDispenserModelsTest, TypeAndProtocolBelongToTheCommunication)
+{
+    for (const auto* name : {L"DevType", L"ApProtocolType"}) {
+        Set(Device(L"Comm"), name, 3);
+        Set(Device(L"Control"), name, 4);
+    }
+    CSpCRDACT3UKeyRegInfo act(L"Svc", false);
+    CSpCRDTTCED16X0RegInfo ttce(L"Svc", false);
+    act.Load(nullptr);
+    ttce.Load(nullptr);
+    EXPECT_EQ(act.m_dwDevType, 3U);
+    EXPECT_EQ(act.m_dwApProtocolType, 3U);
+    EXPECT_EQ(ttce.m_dwDevType, 3U);
+    EXPECT_EQ(ttce.m_dwApProtocolType, 3U);
 }
 
 TEST_F(CardDispenserModelsTest, TheF55540HasItsOwnNamesForPortAndSpeed)

@@ -2,6 +2,7 @@
 #include "wqspcfg/core/settings/Settings.h"
 #include "wqspcfg/models/idc/SpIDCDCT10NRegInfo.h"
 #include "wqspcfg/models/idc/SpIDCMT4DPR312RegInfo.h"
+#include "wqspcfg/models/idc/SpIDCOmronV2GRegInfo.h"
 #include "wqspcfg/models/idc/SpIDCPrdFPCNormalRegInfo.h"
 #include "wqspcfg/models/idc/SpIDCTTD2001RegInfo.h"
 #include "wqspcfg/models/idc/SpRCMDlpRegInfo.h"
@@ -61,6 +62,17 @@ TEST_F(CardReadersTest, TheClassBaseIsLoadedAndWrittenBeforeTheModel)
     EXPECT_EQ(writes[44], Device(L"TimeSet") + L"|TimesOfGetStIfSwitchLed");
 }
 
+TEST_F(CardReadersTest, WhatIsConfiguredForAPowerLossIsReadOnly)
+{
+    Set(Device(L"Control"), L"PowerOffOption", 2);
+    CSpIDCOmronV2GRegInfo config(L"Svc", false);
+    config.Load(nullptr);
+    EXPECT_EQ(config.m_dwPowerOffOption, 2U);
+    config.m_dwPowerOffOption = 1;
+    config.Save();
+    EXPECT_EQ(Number(Device(L"Control"), L"PowerOffOption"), 2U);
+}
+
 TEST_F(CardReadersTest, TheirOwnSpellingsAndKeys)
 {
     Set(Device(L"Comm"), L"BaudRate", 1);
@@ -118,8 +130,8 @@ TEST_F(CardReadersTest, AFingerprintCollectorServedAsACardReaderWritesOnePathOnl
 
 TEST_F(CardReadersTest, ACollectorWritesItsOwnersProtocolBehindTheDriver)
 {
-    CSpFPCRegInfo collector;
-    collector.m_strKeyName = L"Dev";
+    const CRegInfo owner(L"Svc", false);
+    CSpFPCRegInfo collector(owner);
     ASSERT_TRUE(collector.Load(nullptr));
     collector.m_dwProtocolType = 1;
     collector.m_strFeatureFilePathForTemplet[2] = L"C:\\third.jpg";

@@ -26,16 +26,17 @@ class WQSPCFG_API CCRDRegInfo : public CRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwCurNumber;
+    DWORD m_dwCurNumber{};
     CardUnits m_arCardUnit;
-    bool m_bUseLogicCountOfSupplyBinStatus;
-    bool m_bUseLogicCountOfRetainBinStatus;
-    bool m_bDispenseErrorRetain;
-    bool m_bWaitCardReMoveBeforeComplete;
-    DWORD m_dwDispenseAfterRetainBinFull;
+    bool m_bUseLogicCountOfSupplyBinStatus{};
+    bool m_bUseLogicCountOfRetainBinStatus{};
+    bool m_bDispenseErrorRetain{};
+    bool m_bWaitCardReMoveBeforeComplete{};
+    DWORD m_dwDispenseAfterRetainBinFull{};
     CString m_strSendCardUnitEvntAfterExeComplete;
-    DWORD m_dwTemporaryRetainBin;
+    DWORD m_dwTemporaryRetainBin{};
 
   private:
-    void LoadCardUnits(CLog* pLog);
+    // False when the units cannot be listed.
+    bool LoadCardUnits(wqspcfg::Loading& loading);
 };

@@ -1,5 +1,8 @@
 #include "wqspcfg/classes/CardUnitEx.h"
 
+#include "wqspcfg/classes/CardUnitFields.h"
+
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -93,9 +96,8 @@ void tagCardUnitEx::SetHopper(const char* lpszName)
 
 bool tagCardUnitEx::operator==(const tagCardUnitEx& other) const noexcept
 {
-    return usNumber == other.usNumber && usType == other.usType && ulInitialCount == other.ulInitialCount &&
-           ulCount == other.ulCount && ulRetainCount == other.ulRetainCount && ulThreshold == other.ulThreshold &&
-           usStatus == other.usStatus && bHardwareSensor == other.bHardwareSensor && ulMaxCount == other.ulMaxCount &&
-           ulMinCount == other.ulMinCount && SameText(lpszCardName, other.lpszCardName) &&
-           SameText(lpszHopper, other.lpszHopper);
+    return std::ranges::all_of(wqspcfg::kCardUnitFields, [&](const wqspcfg::CardUnitField& field) {
+        return field.IsText() ? SameText(field.text(*this), field.text(other))
+                              : field.number(*this) == field.number(other);
+    });
 }

@@ -13,9 +13,9 @@ class WQSPCFG_API CMCRRegInfo : public CRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwWaitCardTaken; // milliseconds, never 0
-    DWORD m_dwCardSlotCn;
-    DWORD m_dwCountOfRetained;
-    DWORD m_dwMaxRetainCard;
-    DWORD m_dwRetainBinHigh;
+    DWORD m_dwWaitCardTaken{}; // milliseconds, never 0
+    DWORD m_dwCardSlotCn{};
+    DWORD m_dwCountOfRetained{};
+    DWORD m_dwMaxRetainCard{};
+    DWORD m_dwRetainBinHigh{};
 };

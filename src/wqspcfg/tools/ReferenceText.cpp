@@ -70,6 +70,9 @@ std::string SavedText(const DescribedSetting& setting)
 
 std::string DefaultText(const DescribedSetting& setting)
 {
+    if (setting.computed || setting.computedDefault) {
+        return "computed";
+    }
     auto text = ToText(setting.type, setting.defaultValue);
     if (setting.constructed) {
         text += " (constructed " + ToText(setting.type, *setting.constructed) + ")";
@@ -169,6 +172,7 @@ void AddRemarks(const DescribedSetting& setting, ordered_json& row)
     flag(setting.required, "required");
     flag(setting.corrected, "corrected");
     flag(setting.computed, "computed");
+    flag(setting.computedDefault, "computedDefault");
     flag(setting.conditional, "condition");
     flag(setting.wholeKey, "map");
     if (!setting.emptySavedAs.empty()) {

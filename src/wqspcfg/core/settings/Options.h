@@ -80,6 +80,7 @@ enum class Flags : std::uint32_t
     OneOf = 1U << 8,           // the meaning lists every allowed value: "...: 0 eject; 1 retain"
     Computed = 1U << 9,        // made by the class, and never in the registry
     SubkeyNames = 1U << 10,    // a whole key: its subkeys' names are entries too, with an empty text
+    DefaultByClass = 1U << 11, // the class makes the default of a missing value
 };
 template <Flags Flag>
 struct FlagOption
@@ -95,6 +96,7 @@ inline constexpr FlagOption<Flags::QualifiedLabel> QualifiedLabel{};
 inline constexpr FlagOption<Flags::OneOf> OneOf{};
 inline constexpr FlagOption<Flags::Computed> Computed{};
 inline constexpr FlagOption<Flags::SubkeyNames> SubkeyNames{};
+inline constexpr FlagOption<Flags::DefaultByClass> DefaultByClass{};
 
 template <auto Which, class T>
 struct TextOption

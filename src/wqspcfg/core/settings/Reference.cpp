@@ -97,6 +97,7 @@ DescribedSetting DescribeRow(const Setting& row, const Iteration* iteration)
     described.required = row.requiredLine != 0;
     described.corrected = row.normalize != nullptr || row.normalizeText != nullptr;
     described.computed = row.Has(Flags::Computed);
+    described.computedDefault = row.Has(Flags::DefaultByClass);
     described.refersTo = row.reference;
     described.row = &row;
     described.iteration = iteration != nullptr ? iteration->index : 0;

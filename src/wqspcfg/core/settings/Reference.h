@@ -59,6 +59,7 @@ struct DescribedSetting
     bool required = false;        // a missing value is reported with an error line
     bool corrected = false;       // the class may replace what is stored
     bool computed = false;        // made by the class, and never in the registry
+    bool computedDefault = false; // the class makes the default of a missing value
     bool wholeKey = false;        // every value of the key is read
     bool conditional = false;     // stands in a group that a Load may skip
     Reference refersTo = Reference::None;

@@ -420,8 +420,9 @@ void Loading::ReadValue(const Setting& row, const Iteration* iteration)
         }
     }
     if (remember) {
+        // What other code has loaded counts as stored.
         RememberLoaded(m_object, row, index,
-                       {loaded.origin == Origin::Key ? std::optional(ContentOf(read)) : std::nullopt,
+                       {given || loaded.origin == Origin::Key ? std::optional(ContentOf(read)) : std::nullopt,
                         ContentOf(HeldOf<T>(row, m_object, index))},
                        Log());
     }
@@ -494,6 +495,27 @@ void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
         loaded.origin = found ? Origin::Key : Origin::Missing;
         m_observer->Loaded(loaded);
     }
+}
+
+template <class T>
+bool Loading::QueryIteration(const Setting& row, const Iteration& iteration, T& value)
+{
+    const bool found = Find(row, &iteration, value) == Origin::Key;
+    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+        RememberLoaded(m_object, row, iteration.index,
+                       {found ? std::optional(ContentOf(value)) : std::nullopt, ContentOf(value)}, Log());
+    }
+    return found;
+}
+
+bool Loading::Query(const Setting& row, const Iteration& iteration, DWORD& value)
+{
+    return QueryIteration(row, iteration, value);
+}
+
+bool Loading::Query(const Setting& row, const Iteration& iteration, CString& value)
+{
+    return QueryIteration(row, iteration, value);
 }
 
 bool Loading::Query(Key key, const CString& strName, DWORD& value)
@@ -684,6 +706,24 @@ void Saving::WriteWholeKey(const Setting& row, unsigned index, const std::wstrin
         }
     }
     RememberLoaded(m_object, row, index, {ContentOf(map), ContentOf(map)}, LogOfLoad(m_object));
+}
+
+void Saving::Put(const Setting& row, const Iteration& iteration, DWORD value)
+{
+    const auto key = m_keys.Open(*m_scope, row.key, &iteration);
+    const std::wstring name(row.name);
+    if (IsToBeWritten(row, iteration.index, key, name, value, value)) {
+        m_scope->Set(key, name, DwordBytes(value).View());
+    }
+}
+
+void Saving::Put(const Setting& row, const Iteration& iteration, const CString& value)
+{
+    const auto key = m_keys.Open(*m_scope, row.key, &iteration);
+    const std::wstring name(row.name);
+    if (IsToBeWritten(row, iteration.index, key, name, value, value)) {
+        SetText(*m_scope, key, name, value.View());
+    }
 }
 
 void Saving::Put(Key key, const CString& strName, DWORD value)

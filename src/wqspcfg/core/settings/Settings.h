@@ -97,6 +97,10 @@ class WQSPCFG_API Loading
     bool Query(Key key, const CString& strName, CString& value);
     bool Query(const Setting& row, DWORD& value) { return Query(row.key, CString(row.name), value); }
     bool Query(const Setting& row, CString& value) { return Query(row.key, CString(row.name), value); }
+    // Of an iteration that only the code knows. A default or a correction is the code's business; what was found is
+    // remembered under the iteration's index for Saving::Put.
+    bool Query(const Setting& row, const Iteration& iteration, DWORD& value);
+    bool Query(const Setting& row, const Iteration& iteration, CString& value);
     // The line of one row, with a number or a text in place of the member.
     void Print(const Setting& row, DWORD value);
     void Print(const Setting& row, const CString& value);
@@ -115,6 +119,8 @@ class WQSPCFG_API Loading
     void ReadValue(const Setting& row, const Iteration* iteration);
     template <class T>
     Origin Find(const Setting& row, const Iteration* iteration, T& value);
+    template <class T>
+    bool QueryIteration(const Setting& row, const Iteration& iteration, T& value);
 
     ReadScope m_scope;
     CRegKeyEx& m_object;
@@ -142,6 +148,10 @@ class WQSPCFG_API Saving
     // Writes one setting, for an operation.
     void Write(const Setting& row) { Write(std::span(&row, 1)); }
 
+    // Writes what code holds of one iteration of a setting. The iteration's number or the address of its name tells it
+    // from the one before.
+    void Put(const Setting& row, const Iteration& iteration, DWORD value);
+    void Put(const Setting& row, const Iteration& iteration, const CString& value);
     void Put(Key key, const CString& strName, DWORD value);
     void Put(Key key, const CString& strName, const CString& value);
 
@@ -202,13 +212,15 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
     void Class::Save()                                                                                                 \
     {                                                                                                                  \
         wqspcfg::Saving saving(*this);                                                                                 \
-        Base::Save();                                                                                                  \
+        if (Class::Settings().savesBase) {                                                                             \
+            Base::Save();                                                                                              \
+        }                                                                                                              \
         saving.Write(Class::Settings());                                                                               \
     }                                                                                                                  \
     WQSPCFG_CATALOGUE_ENTRY(Class)
 
-// Everything that such a class needs besides its table `rows`. An order of saving that is not the table's ({} where it
-// is) and the settings of its operations follow as further arguments.
+// Everything that such a class needs besides its table `rows`. The fields of Table from the order of saving on follow
+// as further arguments.
 #define WQSPCFG_SETTINGS(Class, Base, rows, ...)                                                                       \
     const wqspcfg::Table& Class::Settings() noexcept                                                                   \
     {                                                                                                                  \

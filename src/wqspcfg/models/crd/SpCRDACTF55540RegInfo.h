@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/CRDRegInfo.h"
+#include "wqspcfg/models/shared/CardDispenserParts.h"
 
 // The ACT F5-5540 card dispenser.
-class WQSPCFG_API CSpCRDACTF55540RegInfo : public CCRDRegInfo
+class WQSPCFG_API CSpCRDACTF55540RegInfo : public wqspcfg::ThreeBinDispenser
 {
   public:
     CSpCRDACTF55540RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,31 +12,20 @@ class WQSPCFG_API CSpCRDACTF55540RegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort5540;
-    DWORD m_dwBaudRate5540;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwCloseOption;
-    DWORD m_dwDispenseBin1;
-    DWORD m_dwDispenseBin2;
-    DWORD m_dwDispenseBin3;
-    DWORD m_dwRetainBin;
-    DWORD m_dwMaxSupplyCard;
-    DWORD m_dwSupplyBinLow;
-    bool m_bAllowRetainOfRetainBinErr;
-    DWORD m_dwMoveTansPortCardOptionWhenRest;
-    DWORD m_dwMoveTansPortCardOptionWhenIDCDispense;
-    bool m_bNeedSupportMediaLatched;
+    DWORD m_dwPort5540{};
+    DWORD m_dwBaudRate5540{};
+    bool m_bNeedSupportMediaLatched{};
     CString m_strLogicalNameOfIDCReader;
-    DWORD m_dwSendBin1Param;
-    DWORD m_dwSendBin2Param;
-    DWORD m_dwWaitDispenseCardTime;
-    bool m_bCanCacelOrTimeOutAfterDispense;
-    DWORD m_dwWaitBackInsertTime;
-    DWORD m_dwSendBin1CardAgainTime;
-    DWORD m_dwSendBin2CardAgainTime;
-    DWORD m_dwCardHookPosition;
-    DWORD m_dwRetainBinStatus;
-    DWORD m_dwAfterDispensBin1WaitTime;
-    DWORD m_dwAfterDispensBin2WaitTime;
-    bool m_bUseLogicCountOfRetainBinPhyFull;
+    DWORD m_dwSendBin1Param{};
+    DWORD m_dwSendBin2Param{};
+    DWORD m_dwWaitDispenseCardTime{};
+    bool m_bCanCacelOrTimeOutAfterDispense{};
+    DWORD m_dwWaitBackInsertTime{};
+    DWORD m_dwSendBin1CardAgainTime{};
+    DWORD m_dwSendBin2CardAgainTime{};
+    DWORD m_dwCardHookPosition{};
+    DWORD m_dwRetainBinStatus{};
+    DWORD m_dwAfterDispensBin1WaitTime{};
+    DWORD m_dwAfterDispensBin2WaitTime{};
+    bool m_bUseLogicCountOfRetainBinPhyFull{};
 };

@@ -1,37 +1,25 @@
 #include "wqspcfg/models/crd/SpCRDKoreaTLD1000RegInfo.h"
 
 #include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/shared/CardDispenserPartsRows.h"
 #include "wqspcfg/parts/CardRetention.h"
-#include "wqspcfg/parts/meanings/CRD.h"
-#include "wqspcfg/parts/meanings/Shared.h"
 
 using namespace wqspcfg;
 using C = CSpCRDKoreaTLD1000RegInfo;
 
 namespace {
 
-constexpr Key kRetainCardSet = key::Below(L"RetainCardSet");
-
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,      L"Type",                  &C::m_dwType,                  0,    meaning::crd::kType, Saved},
-    {key::Comm,      L"Port",                  &C::m_dwPort,                  1,    meaning::kPort, Saved},
-    {key::Comm,      L"BaudRate",              &C::m_dwBaudRate,              9600, meaning::kBaudRate, Saved},
-    {key::Control,   L"PowerOffOption",        &C::m_dwPowerOffOption,        0,    meaning::kPowerOffOption, OneOf},
-    {key::Control,   L"PowerOnOption",         &C::m_dwPowerOnOption,         1,    meaning::kPowerOnOption, Saved, OneOf},
-    {kRetainCardSet, L"MaxRetainCard",         &C::m_dwMaxRetainCard,         20,   meaning::crd::kMaxRetainCard, Saved, Preloaded},
-    {kRetainCardSet, L"RetainBinHigh",         &C::m_dwRetainBinHigh,         15,   meaning::kRetainBinHighOfMaxRetainCard, Saved, Preloaded},
-    {key::Control,   L"SkimOfInsertCard",      &C::m_dwSkimOfInsertCard,      0,    meaning::crd::kSkimOfInsertCard, Saved},
-    {key::Control,   L"ZEntryOfInsertCard",    &C::m_dwZEntryOfInsertCard,    0,    meaning::crd::kZEntryOfInsertCard, Saved},
-    {key::Control,   L"CheckModeOfInsertCard", &C::m_dwCheckModeOfInsertCard, 0,    meaning::crd::kCheckModeOfInsertCard, Saved},
-    {key::Control,   L"CheckMode",             &C::m_dwCheckMode,             0,    meaning::crd::kCheckMode, Saved},
-    {key::Control,   L"ShutterActionOfInit",   &C::m_dwShutterActionOfInit,   0,    meaning::crd::kShutterActionOfInit, Saved},
-    {key::Control,   L"ConnectAfterHWError",   &C::m_bConnectAfterHWError,    0,    meaning::crd::kConnectAfterHWError, Saved},
-    {key::Control,   L"CloseOption",           &C::m_dwCloseOption,           2,    meaning::kCloseOption, Saved, OneOf},
-    {key::Control,   L"DispenseCardStyle",     &C::m_dwDispenseCardStyle,     0,    L"style of dispensing a card", Saved},
+    Group(kTLD1000LinkRows<CIDCRegInfo>),
+    {kRetainCardSet, L"MaxRetainCard", &C::m_dwMaxRetainCard, 20, meaning::kMaxRetainCard, Saved, Preloaded},
+    {kRetainCardSet, L"RetainBinHigh", &C::m_dwRetainBinHigh, 15,
+     meaning::kRetainBinHighOfMaxRetainCard, Saved, Preloaded},
+    Group(kTLD1000CardRows<CIDCRegInfo>),
+    {key::Control, L"DispenseCardStyle", &C::m_dwDispenseCardStyle, 0, L"style of dispensing a card", Saved},
 };
 // clang-format on
 
 } // namespace
 
-WQSPCFG_SETTINGS(CSpCRDKoreaTLD1000RegInfo, CIDCRegInfo, kSettings)
+WQSPCFG_SETTINGS(CSpCRDKoreaTLD1000RegInfo, TLD1000Dispenser<CIDCRegInfo>, kSettings)

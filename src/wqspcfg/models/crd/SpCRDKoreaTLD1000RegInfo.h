@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardDispenserParts.h"
 
 // The Korean TLD1000 card dispenser, run as a card reader with a dispensing unit.
-class WQSPCFG_API CSpCRDKoreaTLD1000RegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpCRDKoreaTLD1000RegInfo : public wqspcfg::TLD1000Dispenser<CIDCRegInfo>
 {
   public:
     CSpCRDKoreaTLD1000RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,17 +13,5 @@ class WQSPCFG_API CSpCRDKoreaTLD1000RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwSkimOfInsertCard;
-    DWORD m_dwZEntryOfInsertCard;
-    DWORD m_dwCheckModeOfInsertCard;
-    DWORD m_dwCheckMode;
-    DWORD m_dwShutterActionOfInit;
-    bool m_bConnectAfterHWError;
-    DWORD m_dwCloseOption;
-    DWORD m_dwDispenseCardStyle;
+    DWORD m_dwDispenseCardStyle{};
 };

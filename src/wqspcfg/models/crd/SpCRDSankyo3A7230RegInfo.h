@@ -12,17 +12,17 @@ class WQSPCFG_API CSpCRDSankyo3A7230RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwSkimOfInsertCard;
-    DWORD m_dwIDCRetainBinStatus;
-    DWORD m_dwISCRetainBinStatus;
-    DWORD m_dwISCPowerOffOption;
-    DWORD m_dwISCPowerOnOption;
-    bool m_bInitBeforeDispenseCard;
-    bool m_bInitBeforeReadCard;
-    DWORD m_dwDevType;
+    DWORD m_dwType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPowerOffOption{};
+    DWORD m_dwPowerOnOption{};
+    DWORD m_dwSkimOfInsertCard{};
+    DWORD m_dwIDCRetainBinStatus{};
+    DWORD m_dwISCRetainBinStatus{};
+    DWORD m_dwISCPowerOffOption{};
+    DWORD m_dwISCPowerOnOption{};
+    bool m_bInitBeforeDispenseCard{};
+    bool m_bInitBeforeReadCard{};
+    DWORD m_dwDevType{};
 };

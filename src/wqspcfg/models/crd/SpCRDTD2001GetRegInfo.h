@@ -15,8 +15,8 @@ class WQSPCFG_API CSpCRDTD2001GetRegInfo : public CCRDRegInfo
     CString m_strBluetoothPassWord;
     CString m_strBluetoothTypicalityName;
     CString m_strCurrentCardBoxName;
-    DWORD m_dwWaitCardTime;
-    DWORD m_dwIdleRefreshStatusOption;
-    bool m_bRemoveDispenseCardUnit;
-    DWORD m_dwMaxCount;
+    DWORD m_dwWaitCardTime{};
+    DWORD m_dwIdleRefreshStatusOption{};
+    bool m_bRemoveDispenseCardUnit{};
+    DWORD m_dwMaxCount{};
 };

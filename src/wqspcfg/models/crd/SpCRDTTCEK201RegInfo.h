@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/CRDRegInfo.h"
+#include "wqspcfg/models/shared/CardDispenserParts.h"
 
 // The TTCE K201 card dispenser.
-class WQSPCFG_API CSpCRDTTCEK201RegInfo : public CCRDRegInfo
+class WQSPCFG_API CSpCRDTTCEK201RegInfo : public wqspcfg::NumberedBinDispenser
 {
   public:
     CSpCRDTTCEK201RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,12 +12,6 @@ class WQSPCFG_API CSpCRDTTCEK201RegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwRetainBinNumber;
-    DWORD m_dwRetainBin;
-    DWORD m_dwSupplyBin1Number;
-    DWORD m_dwDispenseBin1Number;
-    DWORD m_dwSupplyBinLow;
-    DWORD m_dwMaxSupplyCard;
+    DWORD m_dwSupplyBinLow{};
+    DWORD m_dwMaxSupplyCard{};
 };

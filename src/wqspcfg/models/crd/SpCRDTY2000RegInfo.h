@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/CRDRegInfo.h"
+#include "wqspcfg/models/shared/CardDispenserParts.h"
 
 // The Tianyi 2000 card dispenser.
-class WQSPCFG_API CSpCRDTY2000RegInfo : public CCRDRegInfo
+class WQSPCFG_API CSpCRDTY2000RegInfo : public wqspcfg::NumberedBinDispenser
 {
   public:
     CSpCRDTY2000RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,14 +12,8 @@ class WQSPCFG_API CSpCRDTY2000RegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwRetainBinNumber;
-    DWORD m_dwRetainBin;
-    DWORD m_dwSupplyBin1Number;
-    DWORD m_dwDispenseBin1Number;
-    DWORD m_dwSupplyBinLow;
-    DWORD m_dwMaxSupplyCard;
-    DWORD m_dwTreatyOfAp;
-    DWORD m_dwPowerOnOffAction;
+    DWORD m_dwSupplyBinLow{};
+    DWORD m_dwMaxSupplyCard{};
+    DWORD m_dwTreatyOfAp{};
+    DWORD m_dwPowerOnOffAction{};
 };

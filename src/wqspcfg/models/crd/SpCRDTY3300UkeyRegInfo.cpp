@@ -11,7 +11,8 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"Port",               &C::m_dwPort,               1,    meaning::kPort, Saved},
+    {key::Comm, L"Port", &C::m_dwPort, 1,
+     meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm,    L"BaudRate",           &C::m_dwBaudRate,           9600, meaning::kBaudRate, Saved},
     {key::Control, L"TimesToTryWhenFail", &C::m_dwTimesToTryWhenFail, 3,    meaning::crd::kTimesToTryWhenFail, Saved},
     {key::Control, L"NumDispenseBin",     &C::m_dwNumDispenseBin,     2,    L"number of the dispense bin", Saved},

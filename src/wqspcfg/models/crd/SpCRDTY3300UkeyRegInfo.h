@@ -12,13 +12,13 @@ class WQSPCFG_API CSpCRDTY3300UkeyRegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwTimesToTryWhenFail;
-    DWORD m_dwNumDispenseBin;
-    DWORD m_dwNumRetainBin;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwOpenOption;
-    DWORD m_dwCloseOption;
-    DWORD m_dwApProtocolType;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwTimesToTryWhenFail{};
+    DWORD m_dwNumDispenseBin{};
+    DWORD m_dwNumRetainBin{};
+    DWORD m_dwPowerOffOption{};
+    DWORD m_dwOpenOption{};
+    DWORD m_dwCloseOption{};
+    DWORD m_dwApProtocolType{};
 };

@@ -12,14 +12,14 @@ class WQSPCFG_API CSpCRDUKeyRegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwMaxUKeyCount;
-    DWORD m_dwNumOfConfUKey;
-    DWORD m_dwUKeyType;
-    DWORD m_dwWaitUKeyTakenTime;
-    DWORD m_dwSupplyBinLow;
-    DWORD m_dwSupplyBinMax;
-    DWORD m_dwSupplyBinIniCount;
-    bool m_bCardIsSupply;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwMaxUKeyCount{};
+    DWORD m_dwNumOfConfUKey{};
+    DWORD m_dwUKeyType{};
+    DWORD m_dwWaitUKeyTakenTime{};
+    DWORD m_dwSupplyBinLow{};
+    DWORD m_dwSupplyBinMax{};
+    DWORD m_dwSupplyBinIniCount{};
+    bool m_bCardIsSupply{};
 };

@@ -12,16 +12,16 @@ class WQSPCFG_API CSpCRDWQ0501RegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwWholeBoxCount;
-    DWORD m_dwSingelBoxCount;
-    DWORD m_dwSupplyBinLow;
-    DWORD m_dwRetainCount;
-    DWORD m_dwRetainBinHigh;
-    DWORD m_dwRetainBinFull;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwWholeBoxCount{};
+    DWORD m_dwSingelBoxCount{};
+    DWORD m_dwSupplyBinLow{};
+    DWORD m_dwRetainCount{};
+    DWORD m_dwRetainBinHigh{};
+    DWORD m_dwRetainBinFull{};
     CString m_strCheckNOSaveDir;
     CString m_strCheckNOPicSaveDir;
     CString m_strCheckNOLocalSaveDir;
-    DWORD m_dwSupplyBinMax;
+    DWORD m_dwSupplyBinMax{};
 };

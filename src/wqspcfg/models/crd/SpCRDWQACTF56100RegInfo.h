@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/CRDRegInfo.h"
+#include "wqspcfg/models/shared/CardDispenserParts.h"
 
 // The ACT F5-6100 card dispenser.
-class WQSPCFG_API CSpCRDWQACTF56100RegInfo : public CCRDRegInfo
+class WQSPCFG_API CSpCRDWQACTF56100RegInfo : public wqspcfg::ThreeBinDispenser
 {
   public:
     CSpCRDWQACTF56100RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,30 +12,19 @@ class WQSPCFG_API CSpCRDWQACTF56100RegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwCloseOption;
-    DWORD m_dwDispenseBin1;
-    DWORD m_dwDispenseBin2;
-    DWORD m_dwDispenseBin3;
-    DWORD m_dwRetainBin;
-    DWORD m_dwMaxSupplyCard;
-    DWORD m_dwSupplyBinLow;
-    bool m_bAllowRetainOfRetainBinErr;
-    DWORD m_dwMoveTansPortCardOptionWhenRest;
-    DWORD m_dwMoveTansPortCardOptionWhenIDCDispense;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
     CString m_strErrorCodeToHardwareError;
-    DWORD m_dwReturnHardErrWhenSuppBinMiss;
-    DWORD m_dwChangeIDCStatusToBusy;
-    bool m_bMoveTransPortToSuppBin1WhenRetain;
-    bool m_bNeedSupportMediaLatched;
+    DWORD m_dwReturnHardErrWhenSuppBinMiss{};
+    DWORD m_dwChangeIDCStatusToBusy{};
+    bool m_bMoveTransPortToSuppBin1WhenRetain{};
+    bool m_bNeedSupportMediaLatched{};
     CString m_strLogicalNameOfIDCReader;
-    bool m_bShutterFailNeedRetainWhenEjectCard;
-    bool m_bCheckShutterOpenHwErr;
-    bool m_bIsSupTEMPORARY;
-    DWORD m_dwNumRetainBin2;
-    DWORD m_dwRetainBin2Count;
-    DWORD m_dwRetainBin2High;
-    DWORD m_dwRetainBin2Full;
+    bool m_bShutterFailNeedRetainWhenEjectCard{};
+    bool m_bCheckShutterOpenHwErr{};
+    bool m_bIsSupTEMPORARY{};
+    DWORD m_dwNumRetainBin2{};
+    DWORD m_dwRetainBin2Count{};
+    DWORD m_dwRetainBin2High{};
+    DWORD m_dwRetainBin2Full{};
 };

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/CRDRegInfo.h"
+#include "wqspcfg/models/shared/CardDispenserParts.h"
 
 // The Korean TLD1000 card dispenser.
-class WQSPCFG_API CSpCRDWQTKoreaTLD1000RegInfo : public CCRDRegInfo
+class WQSPCFG_API CSpCRDWQTKoreaTLD1000RegInfo : public wqspcfg::TLD1000Dispenser<CCRDRegInfo>
 {
   public:
     CSpCRDWQTKoreaTLD1000RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,19 +12,7 @@ class WQSPCFG_API CSpCRDWQTKoreaTLD1000RegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwSupplyThreshold;
-    DWORD m_dwMaxRetainCard;
-    DWORD m_dwRetainBinHigh;
-    DWORD m_dwSkimOfInsertCard;
-    DWORD m_dwZEntryOfInsertCard;
-    DWORD m_dwCheckModeOfInsertCard;
-    DWORD m_dwCheckMode;
-    DWORD m_dwShutterActionOfInit;
-    bool m_bConnectAfterHWError;
-    DWORD m_dwCloseOption;
+    DWORD m_dwSupplyThreshold{};
+    DWORD m_dwMaxRetainCard{};
+    DWORD m_dwRetainBinHigh{};
 };

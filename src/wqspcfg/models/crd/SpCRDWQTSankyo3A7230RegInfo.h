@@ -12,21 +12,21 @@ class WQSPCFG_API CSpCRDWQTSankyo3A7230RegInfo : public CCRDRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwCloseOption;
-    DWORD m_dwDispenseBin;
-    DWORD m_dwRetainBin;
-    DWORD m_dwDispenseTo;
-    DWORD m_dwSkimOfInsertCard;
-    DWORD m_dwMaxSupplyCard;
-    DWORD m_dwSupplyBinLow;
-    DWORD m_dwDevType;
-    DWORD m_dwCardUnitAssemble;
-    bool m_bNeedSupportMediaLatched;
-    bool m_bSendThresholdEvt;
-    bool m_bDisabledReInsertCard;
+    DWORD m_dwType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPowerOffOption{};
+    DWORD m_dwPowerOnOption{};
+    DWORD m_dwCloseOption{};
+    DWORD m_dwDispenseBin{};
+    DWORD m_dwRetainBin{};
+    DWORD m_dwDispenseTo{};
+    DWORD m_dwSkimOfInsertCard{};
+    DWORD m_dwMaxSupplyCard{};
+    DWORD m_dwSupplyBinLow{};
+    DWORD m_dwDevType{};
+    DWORD m_dwCardUnitAssemble{};
+    bool m_bNeedSupportMediaLatched{};
+    bool m_bSendThresholdEvt{};
+    bool m_bDisabledReInsertCard{};
 };

@@ -14,12 +14,12 @@ class WQSPCFG_API CSpIDCpPrdIDCMotorRegInfo : public CCRDRegInfo
 
     CString m_strDN_IDC_MOTOR;
     CString m_strDN_CRD_MOTOR;
-    DWORD m_dwAdaptor;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwMoveTansPortCardOptionWhenRest;
-    DWORD m_dwMoveTansPortCardOptionWhenDispense;
-    DWORD m_dwStatusOptionWhenCardInTansPort;
-    DWORD m_dwStatusOptionWhenDispenserStop;
-    DWORD m_dwISCDispenseCardParam;
+    DWORD m_dwAdaptor{};
+    DWORD m_dwPowerOnOption{};
+    DWORD m_dwPowerOffOption{};
+    DWORD m_dwMoveTansPortCardOptionWhenRest{};
+    DWORD m_dwMoveTansPortCardOptionWhenDispense{};
+    DWORD m_dwStatusOptionWhenCardInTansPort{};
+    DWORD m_dwStatusOptionWhenDispenserStop{};
+    DWORD m_dwISCDispenseCardParam{};
 };

@@ -13,8 +13,8 @@ class WQSPCFG_API CSpIDCD5USTNFCRegInfo : public CIDCRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strCardNameOfConn;
-    bool m_bHandleRepeatCard;
-    bool m_bRtnInvalidMediaOfRepeatCard;
-    bool m_bSupportChipPower;
-    bool m_bCheckCardInsertOfIdle;
+    bool m_bHandleRepeatCard{};
+    bool m_bRtnInvalidMediaOfRepeatCard{};
+    bool m_bSupportChipPower{};
+    bool m_bCheckCardInsertOfIdle{};
 };

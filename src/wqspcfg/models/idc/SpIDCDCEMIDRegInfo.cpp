@@ -1,8 +1,8 @@
 #include "wqspcfg/models/idc/SpIDCDCEMIDRegInfo.h"
 
 #include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/shared/CardReaderPartsRows.h"
 #include "wqspcfg/parts/meanings/IDC.h"
-#include "wqspcfg/parts/meanings/Shared.h"
 
 using namespace wqspcfg;
 using C = CSpIDCDCEMIDRegInfo;
@@ -13,16 +13,14 @@ constexpr Key kTimeSet = key::Below(L"TimeSet");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"BaudRate",                &C::m_dwBaudRate,                9600, meaning::kBaudRate, Saved},
-    {key::Comm,    L"Port",                    &C::m_dwPort,                    1,    meaning::kPort, Saved},
-    {key::Device,  L"CpuCardType",             &C::m_dwCpuCardType,             0,    meaning::kCpuCardType, Saved},
-    {kTimeSet,     L"TimesOfGetStIfSwitchLed", &C::m_dwTimesOfGetStIfSwitchLed, 1,    meaning::kTimesOfGetStIfSwitchLed, Saved},
-    {key::Control, L"HandleRepeatCardPolicy",  &C::m_dwHandleRepeatCardPolicy,  0,    meaning::kHandleRepeatCardPolicy, Saved},
-    {key::Control, L"CheckCardInsertOfIdle",   &C::m_bCheckCardInsertOfIdle,    0,    meaning::kCheckCardInsertOfIdle, Saved},
-    {key::Control, L"ReadTracks",              &C::m_dwReadTracks,              7,    meaning::kReadTracks, Saved},
+    Group(kDcReaderRows),
+    {key::Control, L"HandleRepeatCardPolicy", &C::m_dwHandleRepeatCardPolicy, 0,
+     meaning::kHandleRepeatCardPolicy, Saved},
+    {key::Control, L"CheckCardInsertOfIdle", &C::m_bCheckCardInsertOfIdle, 0, meaning::kCheckCardInsertOfIdle, Saved},
+    {key::Control, L"ReadTracks",            &C::m_dwReadTracks,           7, meaning::kReadTracks, Saved},
 };
 // clang-format on
 
 } // namespace
 
-WQSPCFG_SETTINGS(CSpIDCDCEMIDRegInfo, CIDCRegInfo, kSettings)
+WQSPCFG_SETTINGS(CSpIDCDCEMIDRegInfo, DcReader, kSettings)

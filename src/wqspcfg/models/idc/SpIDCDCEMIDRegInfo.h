@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardReaderParts.h"
 
 // The DC EMID card reader.
-class WQSPCFG_API CSpIDCDCEMIDRegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpIDCDCEMIDRegInfo : public wqspcfg::DcReader
 {
   public:
     CSpIDCDCEMIDRegInfo(const CString& strName, bool bPhysicalName);
@@ -12,11 +12,7 @@ class WQSPCFG_API CSpIDCDCEMIDRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwPort;
-    DWORD m_dwCpuCardType;
-    DWORD m_dwTimesOfGetStIfSwitchLed;
-    DWORD m_dwHandleRepeatCardPolicy;
-    bool m_bCheckCardInsertOfIdle;
-    DWORD m_dwReadTracks;
+    DWORD m_dwHandleRepeatCardPolicy{};
+    bool m_bCheckCardInsertOfIdle{};
+    DWORD m_dwReadTracks{};
 };

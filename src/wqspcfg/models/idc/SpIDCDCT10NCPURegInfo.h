@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardReaderParts.h"
 
 // The CPU card reader of the DC T10N.
-class WQSPCFG_API CSpIDCDCT10NCPURegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpIDCDCT10NCPURegInfo : public wqspcfg::DcReader
 {
   public:
     CSpIDCDCT10NCPURegInfo(const CString& strName, bool bPhysicalName);
@@ -12,11 +12,7 @@ class WQSPCFG_API CSpIDCDCT10NCPURegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwPort;
-    DWORD m_dwCpuCardType;
-    DWORD m_dwTimesOfGetStIfSwitchLed;
-    DWORD m_dwHandleRepeatCardPolicy;
-    bool m_bCheckCardInsertOfIdle;
-    bool m_bTranformIC2Hex;
+    DWORD m_dwHandleRepeatCardPolicy{};
+    bool m_bCheckCardInsertOfIdle{};
+    bool m_bTranformIC2Hex{};
 };

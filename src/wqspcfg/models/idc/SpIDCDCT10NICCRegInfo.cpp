@@ -13,10 +13,11 @@ constexpr Key kTimeSet = key::Below(L"TimeSet");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"BaudRate",                &C::m_dwBaudRate,                9600, meaning::kBaudRate, Saved},
-    {key::Comm,    L"Port",                    &C::m_dwPort,                    1,    meaning::kPort, Saved},
-    {kTimeSet,     L"TimesOfGetStIfSwitchLed", &C::m_dwTimesOfGetStIfSwitchLed, 1,    meaning::kTimesOfGetStIfSwitchLed, Saved},
-    {key::Control, L"TranformIC2Hex",          &C::m_bTranformIC2Hex,           0,    meaning::kTranformIC2Hex, Saved},
+    {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
+    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
+    {kTimeSet, L"TimesOfGetStIfSwitchLed", &C::m_dwTimesOfGetStIfSwitchLed, 1,
+     meaning::kTimesOfGetStIfSwitchLed, Saved},
+    {key::Control, L"TranformIC2Hex", &C::m_bTranformIC2Hex, 0, meaning::kTranformIC2Hex, Saved},
 };
 // clang-format on
 

@@ -12,8 +12,8 @@ class WQSPCFG_API CSpIDCDCT10NICCRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwPort;
-    DWORD m_dwTimesOfGetStIfSwitchLed;
-    bool m_bTranformIC2Hex;
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPort{};
+    DWORD m_dwTimesOfGetStIfSwitchLed{};
+    bool m_bTranformIC2Hex{};
 };

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardReaderParts.h"
 
 // The identity card reader of the DC T10N.
-class WQSPCFG_API CSpIDCDCT10NIDFRegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpIDCDCT10NIDFRegInfo : public wqspcfg::DcReader
 {
   public:
     CSpIDCDCT10NIDFRegInfo(const CString& strName, bool bPhysicalName);
@@ -12,15 +12,11 @@ class WQSPCFG_API CSpIDCDCT10NIDFRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwPort;
-    DWORD m_dwCpuCardType;
-    DWORD m_dwTimesOfGetStIfSwitchLed;
     CString m_strIDCardImagePath;
     CString m_strIDCardImagePathBeCopyed;
-    bool m_bIsUnContactFailed;
-    bool m_bGetImageFrontAndBack;
+    bool m_bIsUnContactFailed{};
+    bool m_bGetImageFrontAndBack{};
     CString m_strImageFrontPath;
     CString m_strImageBackPath;
-    bool m_bCheckCardInsertOfIdle;
+    bool m_bCheckCardInsertOfIdle{};
 };

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardReaderParts.h"
 
 // The magnetic-stripe card reader of the DC T10N.
-class WQSPCFG_API CSpIDCDCT10NMAGRegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpIDCDCT10NMAGRegInfo : public wqspcfg::DcReader
 {
   public:
     CSpIDCDCT10NMAGRegInfo(const CString& strName, bool bPhysicalName);
@@ -12,9 +12,5 @@ class WQSPCFG_API CSpIDCDCT10NMAGRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwPort;
-    DWORD m_dwCpuCardType;
-    DWORD m_dwTimesOfGetStIfSwitchLed;
-    DWORD m_dwTimeOutOfReadMagCard; // seconds
+    DWORD m_dwTimeOutOfReadMagCard{}; // seconds
 };

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardReaderParts.h"
 
 // The DC T10N, a reader of CPU, chip, magnetic-stripe and identity cards in one device. Each kind of card may be served
 // under a logical name of its own.
-class WQSPCFG_API CSpIDCDCT10NRegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpIDCDCT10NRegInfo : public wqspcfg::CombinedReader<wqspcfg::DcReader>
 {
   public:
     CSpIDCDCT10NRegInfo(const CString& strName, bool bPhysicalName);
@@ -13,42 +13,30 @@ class WQSPCFG_API CSpIDCDCT10NRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwPort;
-    DWORD m_dwCpuCardType;
-    DWORD m_dwTimesOfGetStIfSwitchLed;
-    DWORD m_dwICBaudRate;
-    DWORD m_dwICVolt;
-    DWORD m_dwTimeOutOfReadMagCard; // seconds
-    DWORD m_dwPcdRate;
-    CString m_strCPUCardLogicName;
-    CString m_strSimReader;
-    CString m_strIDCardLogicName;
-    CString m_strCertRead;
-    CString m_strMagCardLogicName;
-    CString m_strCardReader;
-    CString m_strICCardLogicName;
-    CString m_strICCardReader;
+    DWORD m_dwICBaudRate{};
+    DWORD m_dwICVolt{};
+    DWORD m_dwTimeOutOfReadMagCard{}; // seconds
+    DWORD m_dwPcdRate{};
     CString m_strIDCardImagePath;
     CString m_strIDCardImagePathBeCopyed;
-    bool m_bIsUnContactFailed;
-    DWORD m_dwCardReaderType;
+    bool m_bIsUnContactFailed{};
+    DWORD m_dwCardReaderType{};
     CString m_strCardNameOfConn;
-    bool m_bGetImageFrontAndBack;
+    bool m_bGetImageFrontAndBack{};
     CString m_strImageFrontPath;
     CString m_strImageBackPath;
-    DWORD m_dwReadIDCardPattern;
-    DWORD m_dwHandleRepeatCardPolicy;
-    DWORD m_dwFindCardPolicy;
-    bool m_bSupportChipPower;
-    bool m_bCheckCardInsertOfIdle;
-    bool m_bIsSaveIDCardPhoto;
-    bool m_bTranformIC2Hex;
-    bool m_bSendSrveDevStChanges;
-    bool m_bIsUseRemoteTransFile;
-    DWORD m_dwFileHostPort;
+    DWORD m_dwReadIDCardPattern{};
+    DWORD m_dwHandleRepeatCardPolicy{};
+    DWORD m_dwFindCardPolicy{};
+    bool m_bSupportChipPower{};
+    bool m_bCheckCardInsertOfIdle{};
+    bool m_bIsSaveIDCardPhoto{};
+    bool m_bTranformIC2Hex{};
+    bool m_bSendSrveDevStChanges{};
+    bool m_bIsUseRemoteTransFile{};
+    DWORD m_dwFileHostPort{};
     CString m_strFileHostIP;
-    bool m_bIsSaveNationCompleInfo;
-    bool m_bSetPcdRate;
-    DWORD m_dwInforReturnFormat;
+    bool m_bIsSaveNationCompleInfo{};
+    bool m_bSetPcdRate{};
+    DWORD m_dwInforReturnFormat{};
 };

@@ -10,8 +10,8 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"Type", &C::m_dwType, 0, meaning::crd::kType, Saved},
-    {key::Comm, L"Port", &C::m_dwPort, 1, meaning::kPort, Saved},
+    {key::Comm, L"Type", &C::m_dwType, 0, meaning::kNotDocumented, Saved},
+    {key::Comm, L"Port", &C::m_dwPort, 1, meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
 };
 // clang-format on
 

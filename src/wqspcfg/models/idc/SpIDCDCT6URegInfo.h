@@ -12,6 +12,6 @@ class WQSPCFG_API CSpIDCDCT6URegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwType;
-    DWORD m_dwPort;
+    DWORD m_dwType{};
+    DWORD m_dwPort{};
 };

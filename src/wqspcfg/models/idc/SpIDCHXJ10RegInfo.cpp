@@ -11,11 +11,13 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,   L"Port",            &C::m_dwPort,             1,   meaning::kPort, Saved},
-    {key::Device, L"Format",          &C::m_dwFormat,           0,   L"format, as the device's driver numbers it", Saved},
-    {key::Device, L"ImageSavePath",   &C::m_strImageSavePath,   L"", meaning::kImageSavePath, Saved},
-    {key::Device, L"IDCardLogicName", &C::m_strIDCardLogicName, L"", meaning::kIDCardLogicName, Saved},
-    {key::Device, L"CertRead",        &C::m_strCertRead,        L"", meaning::kCertRead, Saved},
+    {key::Comm, L"Port", &C::m_dwPort, 1,
+     meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Device, L"Format",        &C::m_dwFormat,         0,   meaning::kNotDocumented, Saved},
+    {key::Device, L"ImageSavePath", &C::m_strImageSavePath, L"", meaning::kImageSavePath, Saved},
+    {key::Device, L"IDCardLogicName", &C::m_strIDCardLogicName, L"",
+     meaning::kIDCardLogicName, Saved, RefersTo(Reference::LogicalService)},
+    {key::Device, L"CertRead", &C::m_strCertRead, L"", meaning::kCertRead, Saved},
 };
 // clang-format on
 

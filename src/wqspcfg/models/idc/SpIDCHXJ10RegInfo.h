@@ -12,8 +12,8 @@ class WQSPCFG_API CSpIDCHXJ10RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwFormat;
+    DWORD m_dwPort{};
+    DWORD m_dwFormat{};
     CString m_strImageSavePath;
     CString m_strIDCardLogicName;
     CString m_strCertRead;

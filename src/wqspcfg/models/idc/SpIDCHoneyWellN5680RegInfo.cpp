@@ -10,10 +10,11 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,   L"Type",           &C::m_dwType,           0,    L"communication type: 0 serial; 1 USB", Saved, OneOf},
-    {key::Comm,   L"Port",           &C::m_dwPort,           1,    meaning::kPort, Saved},
-    {key::Comm,   L"BaudRate",       &C::m_dwBaudRate,       9600, meaning::kBaudRate, Saved},
-    {key::Device, L"UseTrackWMRead", &C::m_dwUseTrackWMRead, 0,    L"QR codes are read through the XFS card-reader track WFS_IDC_TRACK_WM: 0 no; nonzero yes", Saved},
+    {key::Comm, L"Type",     &C::m_dwType,     0,    L"communication type: 0 serial; 1 USB", Saved, OneOf},
+    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
+    {key::Device, L"UseTrackWMRead", &C::m_dwUseTrackWMRead, 0,
+     L"QR codes are read through the XFS card-reader track WFS_IDC_TRACK_WM: 0 no; nonzero yes", Saved},
 };
 // clang-format on
 

@@ -12,8 +12,8 @@ class WQSPCFG_API CSpIDCHoneyWellN5680RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwUseTrackWMRead;
+    DWORD m_dwType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwUseTrackWMRead{};
 };

@@ -14,8 +14,8 @@ class WQSPCFG_API CSpIDCJW10TRegInfo : public CIDCRegInfo
 
     CString m_strCameraName;
     CString m_strCamPIDVID;
-    DWORD m_dwXPos;
-    DWORD m_dwYPos;
-    DWORD m_dwVideoWidth;
-    DWORD m_dwVideoHeight;
+    DWORD m_dwXPos{};
+    DWORD m_dwYPos{};
+    DWORD m_dwVideoWidth{};
+    DWORD m_dwVideoHeight{};
 };

@@ -10,7 +10,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved},
+    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm, L"Baudrate", &C::m_dwBaudrate, 9600, meaning::kBaudRate, Saved},
 };
 // clang-format on

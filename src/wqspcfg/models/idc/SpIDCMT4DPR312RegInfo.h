@@ -12,6 +12,6 @@ class WQSPCFG_API CSpIDCMT4DPR312RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudrate;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudrate{};
 };

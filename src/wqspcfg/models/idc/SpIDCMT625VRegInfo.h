@@ -12,7 +12,7 @@ class WQSPCFG_API CSpIDCMT625VRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwCpuCardType;
+    DWORD m_dwCpuCardType{};
     CString m_strCPUCardLogicName;
     CString m_strSimReader;
     CString m_strIDCardLogicName;
@@ -21,9 +21,9 @@ class WQSPCFG_API CSpIDCMT625VRegInfo : public CIDCRegInfo
     CString m_strIDInfoFormat;
     CString m_strFrontIDPicPath;
     CString m_strBackIDPicPath;
-    bool m_bIsSaveIDPic;
-    bool m_bSupportChipPower;
-    bool m_bIsMediaChangeBeep;
-    DWORD m_dwBeepFre;
-    DWORD m_dwBeepKeepTime; // milliseconds
+    bool m_bIsSaveIDPic{};
+    bool m_bSupportChipPower{};
+    bool m_bIsMediaChangeBeep{};
+    DWORD m_dwBeepFre{};
+    DWORD m_dwBeepKeepTime{}; // milliseconds
 };

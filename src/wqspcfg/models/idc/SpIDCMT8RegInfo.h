@@ -1,10 +1,10 @@
 #pragma once
 
-#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardReaderParts.h"
 
 // The MT8, a reader of CPU, chip, magnetic-stripe and identity cards in one device. Each kind of card may be served
 // under a logical name of its own.
-class WQSPCFG_API CSpIDCMT8RegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpIDCMT8RegInfo : public wqspcfg::CombinedReader<CIDCRegInfo>
 {
   public:
     CSpIDCMT8RegInfo(const CString& strName, bool bPhysicalName);
@@ -13,34 +13,26 @@ class WQSPCFG_API CSpIDCMT8RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwPort;
-    DWORD m_dwType;
-    DWORD m_dwTimeOutOfReadMagCard; // seconds
-    CString m_strCPUCardLogicName;
-    CString m_strSimReader;
-    CString m_strIDCardLogicName;
-    CString m_strCertRead;
-    CString m_strMagCardLogicName;
-    CString m_strCardReader;
-    CString m_strICCardLogicName;
-    CString m_strICCardReader;
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPort{};
+    DWORD m_dwType{};
+    DWORD m_dwTimeOutOfReadMagCard{}; // seconds
     CString m_strIDCardImagePath;
     CString m_strIDCardImageName;
     CString m_strIDCardImagePathBeCopyed;
-    DWORD m_dwReadIDStandard;
-    bool m_bIsUnContactFailed;
-    bool m_bGetImageFrontAndBack;
+    DWORD m_dwReadIDStandard{};
+    bool m_bIsUnContactFailed{};
+    bool m_bGetImageFrontAndBack{};
     CString m_strImageFrontPath;
     CString m_strImageBackPath;
     CString m_strImagePhotoPath;
-    bool m_bSendSrveDevStChanges;
-    bool m_bSetMediaNotPresent;
-    bool m_bCheckCardInsertOfIdle;
-    bool m_bTranformIC2Hex;
-    bool m_bIDPhotoNamedById;
-    DWORD m_dwHandleRepeatCardPolicy;
-    bool m_bGetFingerData;
-    bool m_bGetForeignData;
-    bool m_bIsSaveNationCompleInfo;
+    bool m_bSendSrveDevStChanges{};
+    bool m_bSetMediaNotPresent{};
+    bool m_bCheckCardInsertOfIdle{};
+    bool m_bTranformIC2Hex{};
+    bool m_bIDPhotoNamedById{};
+    DWORD m_dwHandleRepeatCardPolicy{};
+    bool m_bGetFingerData{};
+    bool m_bGetForeignData{};
+    bool m_bIsSaveNationCompleInfo{};
 };

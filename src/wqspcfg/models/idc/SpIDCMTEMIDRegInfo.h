@@ -12,7 +12,7 @@ class WQSPCFG_API CSpIDCMTEMIDRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwBaudRate;
-    DWORD m_dwPort;
-    DWORD m_dwType;
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPort{};
+    DWORD m_dwType{};
 };

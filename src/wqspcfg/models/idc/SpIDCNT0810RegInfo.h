@@ -12,6 +12,6 @@ class WQSPCFG_API CSpIDCNT0810RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
 };

@@ -14,8 +14,8 @@ class WQSPCFG_API CSpIDCNewBST3300RegInfo : public CIDCRegInfo
 
     CString m_strIDCardImagePath;
     CString m_strIDScanImagePath;
-    DWORD m_dwIDSaveScanImageForm;
-    bool m_bIsSavePictureGroup;
-    bool m_bIsSavePictureOrig;
-    bool m_bIsSavePictureDirection;
+    DWORD m_dwIDSaveScanImageForm{};
+    bool m_bIsSavePictureGroup{};
+    bool m_bIsSavePictureOrig{};
+    bool m_bIsSavePictureDirection{};
 };

@@ -12,19 +12,19 @@ class WQSPCFG_API CSpIDCOmronV2GRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwVendorID;
-    DWORD m_dwProductID;
-    DWORD m_dwSkimOfInsertCard;
-    bool m_bNeedResetOfRecoverSkimmerSt;
-    bool m_bIsUseSLE4442;
-    DWORD m_dwPolicyOfSetMediaEntering;
-    bool m_bUnPresentOfMoveCardManual;
-    bool m_bToReadPositionIfNoActionReset;
-    DWORD m_dwTimeDelayOnline; // seconds
-    DWORD m_dwInitRelationEjectVolume;
+    DWORD m_dwPowerOffOption{};
+    DWORD m_dwPowerOnOption{};
+    DWORD m_dwType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwVendorID{};
+    DWORD m_dwProductID{};
+    DWORD m_dwSkimOfInsertCard{};
+    bool m_bNeedResetOfRecoverSkimmerSt{};
+    bool m_bIsUseSLE4442{};
+    DWORD m_dwPolicyOfSetMediaEntering{};
+    bool m_bUnPresentOfMoveCardManual{};
+    bool m_bToReadPositionIfNoActionReset{};
+    DWORD m_dwTimeDelayOnline{}; // seconds
+    DWORD m_dwInitRelationEjectVolume{};
 };

@@ -13,12 +13,12 @@ class WQSPCFG_API CSpIDCPrdCardReaderRegInfo : public CIDCRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strDN_IDC_MOTOR;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwSpCloseOption;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwSkimOfInsertCard;
-    bool m_bUnPresentOfMoveCardManual;
-    bool m_bNeedResetOfRecoverSkimmerSt;
-    bool m_bToReadPositionIfNoActionReset;
-    DWORD m_dwTimeDelayOnline; // seconds
+    DWORD m_dwPowerOffOption{};
+    DWORD m_dwSpCloseOption{};
+    DWORD m_dwPowerOnOption{};
+    DWORD m_dwSkimOfInsertCard{};
+    bool m_bUnPresentOfMoveCardManual{};
+    bool m_bNeedResetOfRecoverSkimmerSt{};
+    bool m_bToReadPositionIfNoActionReset{};
+    DWORD m_dwTimeDelayOnline{}; // seconds
 };

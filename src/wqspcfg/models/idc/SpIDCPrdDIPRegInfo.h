@@ -13,6 +13,6 @@ class WQSPCFG_API CSpIDCPrdDIPRegInfo : public CIDCRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strDN_IDC_DIP;
-    bool m_bTranformIC2Hex;
-    bool m_bRawDataToChipIO;
+    bool m_bTranformIC2Hex{};
+    bool m_bRawDataToChipIO{};
 };

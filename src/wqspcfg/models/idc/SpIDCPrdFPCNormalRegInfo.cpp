@@ -9,9 +9,11 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Device,            L"ProtocolType",  [](C& c, unsigned) -> DWORD& { return c.m_dwProtocolType; }, 0,   L"protocol with the application: 0 ReadRawData; nonzero chip I/O"},
+    {key::Device, L"ProtocolType", [](C& c, unsigned) -> DWORD& { return c.m_dwProtocolType; }, 0,
+     L"protocol with the application: 0 ReadRawData; nonzero chip I/O"},
     // The line has a number's conversion, which prints the text all the same.
-    {key::Below(L"Collect"), L"FingerPicPath", &C::m_strFingerPicPath, L"", L"path that captured fingerprint images are saved to", Saved, QualifiedLabel, Format(L"%d")},
+    {key::Below(L"Collect"), L"FingerPicPath", &C::m_strFingerPicPath, L"",
+     L"path that captured fingerprint images are saved to", Saved, QualifiedLabel, Format(L"%d")},
 };
 // clang-format on
 
@@ -19,22 +21,25 @@ constexpr Setting kSettings[] = {
 
 const Table& CSpIDCPrdFPCNormalRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSpIDCPrdFPCNormalRegInfo", &CIDCRegInfo::Settings, nullptr, kSettings};
+    static constexpr Table kTable{.className = L"CSpIDCPrdFPCNormalRegInfo",
+                                  .base = &CIDCRegInfo::Settings,
+                                  .deviceClass = nullptr,
+                                  .rows = kSettings,
+                                  .mixin = &CSpFPCRegInfo::Settings,
+                                  .savesBase = false};
     return kTable;
 }
 
 CSpIDCPrdFPCNormalRegInfo::CSpIDCPrdFPCNormalRegInfo(const CString& strName, bool bPhysicalName)
-    : CIDCRegInfo(strName, bPhysicalName)
+    : CIDCRegInfo(strName, bPhysicalName), CSpFPCRegInfo(static_cast<const CRegInfo&>(*this))
 {
     Construct(static_cast<CRegInfo&>(*this), kSettings);
-    m_strKeyName = GetExeDllMother(1, nullptr);
 }
 
 bool CSpIDCPrdFPCNormalRegInfo::Load(CLog* pLog)
 {
     Loading loading(*this, pLog);
     const bool bResult = CIDCRegInfo::Load(pLog);
-    m_strKeyName = GetExeDllMother(1, nullptr);
     CSpFPCRegInfo::Load(pLog);
     return loading.Read(Settings()) && bResult;
 }

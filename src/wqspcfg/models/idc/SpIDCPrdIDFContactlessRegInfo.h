@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardReaderParts.h"
 
 // A contactless identity card reader behind a device driver module.
-class WQSPCFG_API CSpIDCPrdIDFContactlessRegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpIDCPrdIDFContactlessRegInfo : public wqspcfg::IdentityCardReader
 {
   public:
     CSpIDCPrdIDFContactlessRegInfo(const CString& strName, bool bPhysicalName);
@@ -13,19 +13,9 @@ class WQSPCFG_API CSpIDCPrdIDFContactlessRegInfo : public CIDCRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strDN_IDF_CONTACTLESS;
-    CString m_strTrack1Format;
-    CString m_strTrack2Format;
-    CString m_strTrack3Format;
-    CString m_strChipFormat;
-    CString m_strFrontImageFormat;
-    CString m_strBackImageFormat;
-    CString m_strTrackWMFormat;
-    CString m_strHeadPicPath;
-    CString m_strFrontPicPath;
-    CString m_strBackPicPath;
-    DWORD m_dwReadTracks;
-    DWORD m_dwWidthOfFrontBack;
-    DWORD m_dwHeightOfFrontBack;
-    bool m_bIsExeComReturnFailofContactless;
-    bool m_bIsUpdateMediaInOnIdle;
+    DWORD m_dwReadTracks{};
+    DWORD m_dwWidthOfFrontBack{};
+    DWORD m_dwHeightOfFrontBack{};
+    bool m_bIsExeComReturnFailofContactless{};
+    bool m_bIsUpdateMediaInOnIdle{};
 };

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/IDCRegInfo.h"
+#include "wqspcfg/models/shared/CardReaderParts.h"
 
 // A motorised identity card reader behind a device driver module.
-class WQSPCFG_API CSpIDCPrdIDFMotorRegInfo : public CIDCRegInfo
+class WQSPCFG_API CSpIDCPrdIDFMotorRegInfo : public wqspcfg::IdentityCardReader
 {
   public:
     CSpIDCPrdIDFMotorRegInfo(const CString& strName, bool bPhysicalName);
@@ -13,22 +13,12 @@ class WQSPCFG_API CSpIDCPrdIDFMotorRegInfo : public CIDCRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strDN_IDF_MOTOR;
-    CString m_strTrack1Format;
-    CString m_strTrack2Format;
-    CString m_strTrack3Format;
-    CString m_strChipFormat;
-    CString m_strFrontImageFormat;
-    CString m_strBackImageFormat;
-    CString m_strTrackWMFormat;
-    CString m_strHeadPicPath;
-    CString m_strFrontPicPath;
-    CString m_strBackPicPath;
-    DWORD m_dwOpenAction;
-    DWORD m_dwReadTracks;
-    bool m_bIsPermitRetain;
-    bool m_bIsSupRetain;
-    DWORD m_dwWidthOfFrontBack;
-    DWORD m_dwHeightOfFrontBack;
-    bool m_bIsEjectAfterScan;
-    DWORD m_dwEjectAfterScanTime; // seconds
+    DWORD m_dwOpenAction{};
+    DWORD m_dwReadTracks{};
+    bool m_bIsPermitRetain{};
+    bool m_bIsSupRetain{};
+    DWORD m_dwWidthOfFrontBack{};
+    DWORD m_dwHeightOfFrontBack{};
+    bool m_bIsEjectAfterScan{};
+    DWORD m_dwEjectAfterScanTime{}; // seconds
 };

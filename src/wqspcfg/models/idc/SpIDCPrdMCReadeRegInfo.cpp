@@ -9,7 +9,8 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Device, L"DN.IDC_SWIPE", &C::m_strDN_IDC_SWIPE, L"", L"name of the device driver module of the swipe card reader", Saved},
+    {key::Device, L"DN.IDC_SWIPE", &C::m_strDN_IDC_SWIPE, L"",
+     L"name of the device driver module of the swipe card reader", Saved},
 };
 // clang-format on
 

@@ -14,6 +14,6 @@ class WQSPCFG_API CSpIDCPrdScannerRegInfo : public CIDCRegInfo
 
     CString m_strDN_BCR_BARCODE;
     CString m_strBeepFile;
-    DWORD m_dwReEnableScannerWaitTime; // milliseconds
-    DWORD m_dwReadTracks;
+    DWORD m_dwReEnableScannerWaitTime{}; // milliseconds
+    DWORD m_dwReadTracks{};
 };

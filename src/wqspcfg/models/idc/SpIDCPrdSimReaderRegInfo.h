@@ -13,8 +13,8 @@ class WQSPCFG_API CSpIDCPrdSimReaderRegInfo : public CIDCRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strDN_IDC_CONTACTLESS;
-    bool m_bCheckCardInsertOfIdle;
-    DWORD m_dwFindCardPolicy;
-    DWORD m_dwHandleRepeatCardPolicy;
-    bool m_bSetMediaNotPresent;
+    bool m_bCheckCardInsertOfIdle{};
+    DWORD m_dwFindCardPolicy{};
+    DWORD m_dwHandleRepeatCardPolicy{};
+    bool m_bSetMediaNotPresent{};
 };

@@ -11,7 +11,8 @@ namespace {
 // clang-format off
 constexpr Setting kSettings[] = {
     {key::Device, L"IDCardImagePath", &C::m_strIDCardImagePath, L"", meaning::kIDCardImagePath, Saved},
-    {key::Device, L"AutoEject",       &C::m_bAutoEject,         0,   L"the card is ejected automatically: 0 no; nonzero yes", Saved},
+    {key::Device, L"AutoEject", &C::m_bAutoEject, 0,
+     L"the card is ejected automatically: 0 no; nonzero yes", Saved},
 };
 // clang-format on
 

@@ -13,5 +13,5 @@ class WQSPCFG_API CSpIDCSysCanA8RegInfo : public CIDCRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strIDCardImagePath;
-    bool m_bAutoEject;
+    bool m_bAutoEject{};
 };

@@ -11,12 +11,13 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"Port",                     &C::m_dwPort,                     1,    meaning::kPort, Saved},
-    {key::Comm,    L"BaudRate",                 &C::m_dwBaudRate,                 9600, meaning::kBaudRate, Saved},
-    {key::Control, L"PolicyOfSetMediaEntering", &C::m_dwPolicyOfSetMediaEntering, 0,    meaning::kPolicyOfSetMediaEntering, Saved},
-    {key::Control, L"SkimOfInsertCard",         &C::m_dwSkimOfInsertCard,         0,    meaning::crd::kSkimOfInsertCard, Saved},
-    {key::Control, L"PowerOffOption",           &C::m_dwPowerOffOption,           0,    meaning::kPowerOffOption, Saved, OneOf},
-    {key::Control, L"PowerOnOption",            &C::m_dwPowerOnOption,            1,    meaning::kPowerOnOption, Saved, OneOf},
+    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
+    {key::Control, L"PolicyOfSetMediaEntering", &C::m_dwPolicyOfSetMediaEntering, 0,
+     meaning::kPolicyOfSetMediaEntering, Saved},
+    {key::Control, L"SkimOfInsertCard", &C::m_dwSkimOfInsertCard, 0, meaning::kSkimOfInsertCard, Saved},
+    {key::Control, L"PowerOffOption",   &C::m_dwPowerOffOption,   0, meaning::kPowerOffOption, OneOf},
+    {key::Control, L"PowerOnOption",    &C::m_dwPowerOnOption,    1, meaning::kPowerOnOption, Saved, OneOf},
 };
 // clang-format on
 

@@ -12,10 +12,10 @@ class WQSPCFG_API CSpIDCTTCEM100RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPolicyOfSetMediaEntering;
-    DWORD m_dwSkimOfInsertCard;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwPowerOnOption;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPolicyOfSetMediaEntering{};
+    DWORD m_dwSkimOfInsertCard{};
+    DWORD m_dwPowerOffOption{};
+    DWORD m_dwPowerOnOption{};
 };

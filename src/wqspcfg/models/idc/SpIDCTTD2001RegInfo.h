@@ -12,10 +12,10 @@ class WQSPCFG_API CSpIDCTTD2001RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBautRate;
-    DWORD m_dwCloseShutterTime; // seconds
-    DWORD m_dwDevType;
+    DWORD m_dwPort{};
+    DWORD m_dwBautRate{};
+    DWORD m_dwCloseShutterTime{}; // seconds
+    DWORD m_dwDevType{};
     CString m_strIniPath;
-    bool m_bLowPowerAlarm;
+    bool m_bLowPowerAlarm{};
 };

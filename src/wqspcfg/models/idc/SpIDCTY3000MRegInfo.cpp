@@ -11,14 +11,18 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"Port",                          &C::m_dwPort,                         1,    meaning::kPort, Saved},
-    {key::Comm,    L"BaudRate",                      &C::m_dwBaudRate,                     9600, meaning::kBaudRate, Saved},
-    {key::Control, L"PowerOffOption",                &C::m_dwPowerOffOption,               0,    meaning::kPowerOffOption, Saved, OneOf},
-    {key::Control, L"PowerOnOption",                 &C::m_dwPowerOnOption,                1,    meaning::kPowerOnOption, Saved, OneOf},
-    {key::Control, L"PolicyOfSetMediaEntering",      &C::m_dwPolicyOfSetMediaEntering,     0,    meaning::kPolicyOfSetMediaEntering, Saved},
-    {key::Control, L"UnPresentOfMoveCardManual",     &C::m_bUnPresentOfMoveCardManual,     0,    meaning::kUnPresentOfMoveCardManual, Saved},
-    {key::Control, L"ToReadPositionIfNoActionReset", &C::m_bToReadPositionIfNoActionReset, 0,    meaning::kToReadPositionIfNoActionReset, Saved},
-    {key::Control, L"TimeDelayOnline",               &C::m_dwTimeDelayOnline,              0,    meaning::kTimeDelayOnline, Saved},
+    {key::Comm, L"Port", &C::m_dwPort, 1,
+     meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm,    L"BaudRate",       &C::m_dwBaudRate,       9600, meaning::kBaudRate, Saved},
+    {key::Control, L"PowerOffOption", &C::m_dwPowerOffOption, 0,    meaning::kPowerOffOption, OneOf},
+    {key::Control, L"PowerOnOption",  &C::m_dwPowerOnOption,  1,    meaning::kPowerOnOption, Saved, OneOf},
+    {key::Control, L"PolicyOfSetMediaEntering", &C::m_dwPolicyOfSetMediaEntering, 0,
+     meaning::kPolicyOfSetMediaEntering, Saved},
+    {key::Control, L"UnPresentOfMoveCardManual", &C::m_bUnPresentOfMoveCardManual, 0,
+     meaning::kUnPresentOfMoveCardManual, Saved},
+    {key::Control, L"ToReadPositionIfNoActionReset", &C::m_bToReadPositionIfNoActionReset, 0,
+     meaning::kToReadPositionIfNoActionReset, Saved},
+    {key::Control, L"TimeDelayOnline", &C::m_dwTimeDelayOnline, 0, meaning::kTimeDelayOnline, Saved},
 };
 // clang-format on
 

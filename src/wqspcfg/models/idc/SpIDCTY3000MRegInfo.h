@@ -12,12 +12,12 @@ class WQSPCFG_API CSpIDCTY3000MRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPowerOffOption;
-    DWORD m_dwPowerOnOption;
-    DWORD m_dwPolicyOfSetMediaEntering;
-    bool m_bUnPresentOfMoveCardManual;
-    bool m_bToReadPositionIfNoActionReset;
-    DWORD m_dwTimeDelayOnline; // seconds
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPowerOffOption{};
+    DWORD m_dwPowerOnOption{};
+    DWORD m_dwPolicyOfSetMediaEntering{};
+    bool m_bUnPresentOfMoveCardManual{};
+    bool m_bToReadPositionIfNoActionReset{};
+    DWORD m_dwTimeDelayOnline{}; // seconds
 };

@@ -10,9 +10,10 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"Port",                             &C::m_dwPort,                            1,    meaning::kPort, Saved},
-    {key::Comm,    L"BaudRate",                         &C::m_dwBaudRate,                        9600, meaning::kBaudRate, Saved},
-    {key::Control, L"ReturnSuccessWhenDeActiveNoMedia", &C::m_bReturnSuccessWhenDeActiveNoMedia, 0,    L"deactivating the chip with no card returns success: 0 no; nonzero yes", Saved},
+    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
+    {key::Control, L"ReturnSuccessWhenDeActiveNoMedia", &C::m_bReturnSuccessWhenDeActiveNoMedia, 0,
+     L"deactivating the chip with no card returns success: 0 no; nonzero yes", Saved},
 };
 // clang-format on
 

@@ -12,7 +12,7 @@ class WQSPCFG_API CSpIDCTYRM8PSAMRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    bool m_bReturnSuccessWhenDeActiveNoMedia;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    bool m_bReturnSuccessWhenDeActiveNoMedia{};
 };

@@ -10,7 +10,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"Port", &C::m_dwPort, 1, meaning::kPort, Saved},
+    {key::Comm, L"Port", &C::m_dwPort, 1, meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
 };
 // clang-format on
 

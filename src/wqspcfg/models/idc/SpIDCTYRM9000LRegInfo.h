@@ -12,5 +12,5 @@ class WQSPCFG_API CSpIDCTYRM9000LRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
+    DWORD m_dwPort{};
 };

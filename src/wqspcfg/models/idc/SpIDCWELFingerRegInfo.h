@@ -12,9 +12,9 @@ class WQSPCFG_API CSpIDCWELFingerRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwDevType;
+    DWORD m_dwDevType{};
     CString m_strFingerPicDir;
-    DWORD m_dwGetFingerFetureTimeOut;   // seconds
-    DWORD m_dwGetFingerTemplateTimeOut; // seconds
+    DWORD m_dwGetFingerFetureTimeOut{};   // seconds
+    DWORD m_dwGetFingerTemplateTimeOut{}; // seconds
     CString m_strT4PicDir;
 };

@@ -10,7 +10,8 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm,    L"Port",           &C::m_dwPort,           1,   meaning::kPort, Saved},
+    {key::Comm, L"Port", &C::m_dwPort, 1,
+     meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Control, L"WaitTimeOfOnce", &C::m_dwWaitTimeOfOnce, 300, L"duration of one wait in ms", Saved},
 };
 // clang-format on

@@ -12,6 +12,6 @@ class WQSPCFG_API CSpIDCYK2201RegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwWaitTimeOfOnce; // milliseconds
+    DWORD m_dwPort{};
+    DWORD m_dwWaitTimeOfOnce{}; // milliseconds
 };

@@ -12,8 +12,8 @@ class WQSPCFG_API CSpIDCZzSm2buRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    bool m_bInvialMediaContinueWait;
-    DWORD m_dwDevTimeOut; // seconds
-    bool m_bSPDBAddVenid;
-    DWORD m_dwDevType;
+    bool m_bInvialMediaContinueWait{};
+    DWORD m_dwDevTimeOut{}; // seconds
+    bool m_bSPDBAddVenid{};
+    DWORD m_dwDevType{};
 };

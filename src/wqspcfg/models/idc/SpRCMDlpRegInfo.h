@@ -12,5 +12,5 @@ class WQSPCFG_API CSpRCMDlpRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwReconnectCount;
+    DWORD m_dwReconnectCount{};
 };

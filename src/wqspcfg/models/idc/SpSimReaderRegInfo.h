@@ -13,9 +13,9 @@ class WQSPCFG_API CSpSimReaderRegInfo : public CIDCRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strCardNameOfConn;
-    bool m_bHandleRepeatCard;
-    bool m_bRtnInvalidMediaOfRepeatCard;
-    bool m_bSupportChipPower;
-    bool m_bCheckCardInsertOfIdle;
-    DWORD m_dwCardReaderType;
+    bool m_bHandleRepeatCard{};
+    bool m_bRtnInvalidMediaOfRepeatCard{};
+    bool m_bSupportChipPower{};
+    bool m_bCheckCardInsertOfIdle{};
+    DWORD m_dwCardReaderType{};
 };

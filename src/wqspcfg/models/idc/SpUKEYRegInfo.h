@@ -12,9 +12,9 @@ class WQSPCFG_API CSpUKEYRegInfo : public CIDCRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwMaxUKeyCount;
-    DWORD m_dwNumOfConfUKey;
-    DWORD m_dwUKeyType;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwMaxUKeyCount{};
+    DWORD m_dwNumOfConfUKey{};
+    DWORD m_dwUKeyType{};
 };

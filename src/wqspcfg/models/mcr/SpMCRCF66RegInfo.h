@@ -13,7 +13,7 @@ class WQSPCFG_API CSpMCRCF66RegInfo : public CMCRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwType; // as stored: a number other than 1 and 2 is not corrected
-    DWORD m_dwPort;
-    DWORD m_dwSyncEjectCard;
+    DWORD m_dwType{}; // as stored: a number other than 1 and 2 is not corrected
+    DWORD m_dwPort{};
+    DWORD m_dwSyncEjectCard{};
 };

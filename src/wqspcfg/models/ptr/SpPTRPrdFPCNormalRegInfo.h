@@ -19,6 +19,6 @@ class WQSPCFG_API CSpPTRPrdFPCNormalRegInfo : public CPTRRegInfo, public CSpFPCR
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    bool m_bDelDataAfterMatchFinger;
+    bool m_bDelDataAfterMatchFinger{};
     CMapStringToString m_mapReadImageRule;
 };

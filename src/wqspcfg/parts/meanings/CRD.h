@@ -17,7 +17,6 @@ inline constexpr wchar_t kLogicalNameOfIDCReader[] =
 
 namespace wqspcfg::meaning::crd {
 
-inline constexpr wchar_t kDevType[] = L"device type";
 inline constexpr wchar_t kApProtocolType[] = L"type of the application protocol";
 inline constexpr wchar_t kSupplyBinCount[] = L"number of supply bins";
 inline constexpr wchar_t kRetainBinCount[] = L"number of retain bins";
@@ -25,20 +24,9 @@ inline constexpr wchar_t kSupplyBinMax[] = L"count at which a supply bin is full
 inline constexpr wchar_t kTimesToTryWhenFail[] = L"number of attempts when an operation fails";
 inline constexpr wchar_t kAllowResetWithRetainOnFull[] =
     L"a reset that retains is allowed while the retain bin is full: 0 no; nonzero yes";
-inline constexpr wchar_t kDispenseBin3[] = L"card-unit number of physical bin 3";
 inline constexpr wchar_t kAllowRetainOfRetainBinErr[] =
     L"retaining allowed while the retain bin is faulty: 0 no; nonzero yes";
 inline constexpr wchar_t kMoveTransPortCardOptionWhenReset[] = L"where a card in the transport goes at a reset";
-inline constexpr wchar_t kMoveTransPortCardOptionWhenIDCDispense[] =
-    L"where a card in the transport goes when dispensing through the card reader";
-inline constexpr wchar_t kMaxRetainCard[] = L"capacity of the retain bin, in cards";
-inline constexpr wchar_t kRetainBinHigh[] = L"retain count at which the retain bin is nearly full";
-inline constexpr wchar_t kZEntryOfInsertCard[] = L"Z entry option when a card is inserted";
-inline constexpr wchar_t kCheckModeOfInsertCard[] = L"check mode when a card is inserted";
-inline constexpr wchar_t kCheckMode[] = L"check mode";
-inline constexpr wchar_t kShutterActionOfInit[] = L"action of the shutter at initialisation";
-inline constexpr wchar_t kConnectAfterHWError[] =
-    L"the connection is made again after a hardware error: 0 no; nonzero yes";
 inline constexpr wchar_t kOpenOption[] = L"what happens to a card in the device when the SP opens";
 inline constexpr wchar_t kPolicyOfExtraSuppBinST[] = L"policy of the extra supply-bin status";
 inline constexpr wchar_t kResetAndAgain[] = L"the device is reset and the operation tried again: 0 no; nonzero yes";
@@ -49,14 +37,12 @@ inline constexpr wchar_t kAllowDisWithRetainBinLogicFull[] =
     L"dispensing allowed while the retain bin is full by its logical count: 0 no; nonzero yes";
 inline constexpr wchar_t kSupplyBinIniCount[] = L"initial count of a supply bin";
 inline constexpr wchar_t kRetainBinNumber[] = L"number of the retain bin";
-inline constexpr wchar_t kSupplyBin1Number[] = L"number of supply bin 1";
-inline constexpr wchar_t kDispenseBin1Number[] = L"number of dispense bin 1";
 inline constexpr wchar_t kTreatyOfAp[] = L"protocol of the application";
 inline constexpr wchar_t kDispenseTo[] = L"where a card is dispensed to";
 inline constexpr wchar_t kReConnectSuccessOption[] =
     L"card in the reader after a successful reconnection: 0 eject; 1 retain; 2 leave";
-inline constexpr wchar_t kAllowDispenseOfRetainBinErr[] =
-    L"dispensing allowed while the retain bin is faulty: 0 no; nonzero yes";
+inline constexpr wchar_t kDispenseAfterRetainBinFull[] =
+    L"dispensing continues while the retain bin is full: 0 no; nonzero yes";
 inline constexpr wchar_t kReturnHardErrWhenSuppBinMiss[] =
     L"a missing supply bin: 0 gives the real result; 1 is reported as a hardware error";
 inline constexpr wchar_t kChangeIDCStatusToBusy[] =
