@@ -63,8 +63,9 @@ inline bool IsHeld(const DescribedSetting& setting)
     return setting.row->bound && !setting.wholeKey;
 }
 
-inline const void* MemberOf(const DescribedSetting& setting, CRegKeyEx& object)
+inline const void* MemberOf(const DescribedSetting& setting, CRegKeyEx& owner)
 {
+    auto& object = setting.part != nullptr ? setting.part(owner) : owner;
     const auto& row = *setting.row;
     if (row.locate != nullptr) {
         return row.locate(object, setting.iteration);
@@ -108,6 +109,20 @@ inline bool SavesOnlyItsOwn(const ClassEntry& entry)
 {
     static const std::set<std::wstring_view> kNames{L"CSpMCRCF66RegInfo", L"CSpIDCPrdFPCNormalRegInfo"};
     return kNames.contains(entry.table().className);
+}
+
+// Whether the class's Save writes what `owner`, the class or one of its bases, saves.
+inline bool Saves(const ClassEntry& entry, const Table& owner)
+{
+    if (SavesOnlyItsOwn(entry)) {
+        return &owner == &entry.table();
+    }
+    for (const auto* table = &entry.table(); table != &owner; table = &table->base()) {
+        if (!table->savesBase) {
+            return false;
+        }
+    }
+    return true;
 }
 
 inline bool IsText(Type type)
