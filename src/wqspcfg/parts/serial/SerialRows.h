@@ -109,7 +109,7 @@ inline constexpr Setting kBillSNRows[] = {
      L"index file: key of a note's version", Saved},
     {kSnrData, L"szNoteIDTitle", &tagBillSNRegInfo::szNoteIDTitle, L"NoteID", L"index file: key of a note's ID", Saved},
     {kSnrData, L"dwAPID", &tagBillSNRegInfo::dwAPID, 0,
-     L"application profile of the serial-number feature: 0, 2 to 7, 100 or 101", Saved},
+     L"application profile of the serial-number feature: 0, 2 to 7, 100 or 101", Saved, OneOf},
     {kSnrData, L"dwMakeSNOfVerify", &tagBillSNRegInfo::dwMakeSNOfVerify, 0,
      L"serial numbers are made on note validation: 0 no; nonzero yes", Saved},
     {kSnrData, L"dwMakeSNOfStore", &tagBillSNRegInfo::dwMakeSNOfStore, 0,
