@@ -63,8 +63,9 @@ inline bool IsHeld(const DescribedSetting& setting)
     return setting.row->bound && !setting.wholeKey;
 }
 
-inline const void* MemberOf(const DescribedSetting& setting, CRegKeyEx& object)
+inline const void* MemberOf(const DescribedSetting& setting, CRegKeyEx& owner)
 {
+    auto& object = setting.part != nullptr ? setting.part(owner) : owner;
     const auto& row = *setting.row;
     if (row.locate != nullptr) {
         return row.locate(object, setting.iteration);
@@ -101,6 +102,17 @@ inline DescribedValue Held(const DescribedSetting& setting, CRegKeyEx& object)
         break;
     }
     return {};
+}
+
+// Whether the class's Save writes what `owner`, the class or one of its bases, saves.
+inline bool Saves(const ClassEntry& entry, const Table& owner)
+{
+    for (const auto* table = &entry.table(); table != &owner; table = &table->base()) {
+        if (!table->savesBase) {
+            return false;
+        }
+    }
+    return true;
 }
 
 inline bool IsText(Type type)

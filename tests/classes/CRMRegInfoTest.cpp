@@ -1,6 +1,7 @@
 #include "wqspcfg/classes/CRMRegInfo.h"
 
 #include "support/ConfigTest.h"
+#include "wqspcfg/platform/store/KeyHandle.h"
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/xfs/XfsResult.h"
 
@@ -178,7 +179,7 @@ TEST_F(CRMRegInfoTest, WordsAndOccasionsHaveLinesOfTheirOwn)
     EXPECT_NE(Line(L"LOWORD(dwMakeFullImage)").find(L" : 0x0001["), std::wstring::npos);
     EXPECT_NE(Line(L"HIWORD(dwMakeFullImage)").find(L" : 0x0002["), std::wstring::npos);
     EXPECT_EQ(LinesLike(L" AddCashInCountAtCIMRetract : "), 2U);
-    EXPECT_EQ(LinesLike(L" AddCashInCountAtCIMRetract : 0x024[occasions"), 1U);
+    EXPECT_EQ(LinesLike(L" AddCashInCountAtCIMRetract : 36[occasions"), 1U);
     EXPECT_EQ(LinesLike(L" AddCashInCountAtCDMRetract : "), 2U);
     EXPECT_TRUE(config.NeedAddCashInCountAtCIM(4));
     EXPECT_TRUE(config.NeedAddCashInCountAtCIM(0x21));
@@ -387,13 +388,17 @@ TEST_F(CRMRegInfoTest, SaveWritesInItsOrderInOneCommit)
     CCRMRegInfo config(L"Svc", false);
     ASSERT_TRUE(config.Load(nullptr));
     config.m_bCheckInputParamOfCDM = false;
+    config.m_sBillSNRegInfo.szPhotoPath = L"P";
+    config.m_sBillFSNRegInfo.FSNFilePath = L"F";
+    config.m_sBillBLRegInfo.dwUseExternalBL = 2;
+    config.m_sBillFAIRegInfo.szFAIApRegSet = L"A";
     ClearRecord();
     config.Save();
     EXPECT_EQ(Commits(), 1U);
     const auto writes = Writes();
     const auto capability = [](const wchar_t* name) { return Device(L"CAPABILITIES") + L"|" + name; };
-    ExpectInOrder(writes, {Device(L"Policy") + L"|IsDeleteSensetiveInfo", capability(L"ForceResetToRTCASInCIM"),
-                           capability(L"DelExtraStatus"),
+    EXPECT_EQ(writes.front(), capability(L"ForceResetToRTCASInCIM"));
+    ExpectInOrder(writes, {capability(L"ForceResetToRTCASInCIM"), capability(L"DelExtraStatus"),
                            Device(L"Cassette\\Limit") + L"|StopCIMIfAllNonMixBoxFullAndHavecyclebox",
                            Device(L"Cassette") + L"|ReportFullOfNoMixCasInCasAndRecycleCas",
                            Device(L"Cassette") + L"|OptAcceptorStaWhenAllNonMixBoxFullAndHavecyclebox",
@@ -411,6 +416,8 @@ TEST_F(CRMRegInfoTest, SaveWritesInItsOrderInOneCommit)
     }
     EXPECT_EQ(Number(Device(L"CAPABILITIES"), L"CheckInputParamOfCDM"), 0U);
     EXPECT_EQ(Number(Device(L"CAPABILITIES"), L"RandSpecMixOrder"), 3142U);
+    // What the root saves is another object's to write.
+    EXPECT_EQ(Number(Device(L"Policy"), L"IsDeleteSensetiveInfo"), std::nullopt);
 }
 
 TEST_F(CRMRegInfoTest, RandSpecMixOrderIsOnlySavedWhereItIsInUse)
@@ -484,6 +491,69 @@ TEST_F(CRMRegInfoTest, NamePartsAreReadUntilTheFirstMissingOneAndLogged)
     config.Save();
     ASSERT_TRUE(config.Load(nullptr));
     EXPECT_EQ(parts.GetSize(), 1);
+}
+
+TEST_F(CRMRegInfoTest, SerialNumberRecordsKeepWhatIsStored)
+{
+    const auto key = Device(L"SNRData");
+    Set(key, L"dwAPID", L"7"); // of another type than ours
+    Set(key, L"dwPhotoSaveMonth", 7);
+    Set(key, L"FSNFileName", L"notes.dat");
+    Set(key, L"BankCodeMaxLen", 6);
+    Set(key, L"IsUseTermType", 5);
+    Set(key, L"FSNFilePath", L"");
+    Set(key + L"\\FSNFolderParts\\Data1", L"Type", 2);
+    Set(key + L"\\FSNFolderParts\\Data1", L"Value", 8);
+    CCRMRegInfo config(L"Svc", false);
+    ASSERT_TRUE(config.Load(nullptr));
+    EXPECT_EQ(config.m_sBillSNRegInfo.dwPhotoSaveMonth, 7U);
+    EXPECT_EQ(config.m_sBillFSNRegInfo.FSNFileName, CString(L"notes.dat"));
+    EXPECT_EQ(config.m_sBillFSNRegInfo.BankCodeMaxLen, 6U);
+    EXPECT_EQ(config.m_sBillFSNRegInfo.IsUseTermType, 5U);
+    ClearRecord();
+    config.Save();
+    for (const auto& write : Writes()) {
+        EXPECT_EQ(write.find(L"SNRData"), std::wstring::npos);
+    }
+    // What the provider changes is written, and nothing beside it.
+    config.m_sBillSNRegInfo.dwAPID = 5;
+    config.m_sBillFSNRegInfo.FSNFilePath = L"E:\\FSN";
+    config.m_sBillFSNRegInfo.FolderParts[0].Link = L"-";
+    ClearRecord();
+    config.Save();
+    EXPECT_EQ(Number(key, L"dwAPID"), 5U);
+    EXPECT_EQ(Text(key, L"FSNFilePath"), L"E:\\FSN");
+    EXPECT_EQ(Text(key + L"\\FSNFolderParts\\Data1", L"Link"), L"-");
+    EXPECT_EQ(Number(key + L"\\FSNFolderParts\\Data1", L"Value"), 8U);
+    EXPECT_EQ(Text(key, L"szTotalTitle"), std::nullopt);
+}
+
+TEST_F(CRMRegInfoTest, SerialNumberRecordsLoadAndSaveByAnOpenKey)
+{
+    Set(Device(L"SNRData"), L"IsUseTermType", DWORD{0});
+    wqspcfg::KeyHandle handle;
+    ASSERT_TRUE(handle.Open(Device(L"SNRData")));
+    tagBillFSNRegInfo fsn;
+    EXPECT_EQ(fsn.IsUseTermType, 1U);
+    ASSERT_TRUE(fsn.Load(handle.Get()));
+    EXPECT_EQ(fsn.IsUseTermType, 0U);
+    fsn.BankCode = L"0308";
+    tagFSNNamePart part;
+    part.Type = 4;
+    fsn.FileNameParts.Add(part);
+    ClearRecord();
+    EXPECT_TRUE(fsn.Save(handle.Get()));
+    EXPECT_EQ(Commits(), 1U);
+    tagBillFSNRegInfo same;
+    ASSERT_TRUE(same.Load(handle.Get()));
+    EXPECT_EQ(same.BankCode, CString(L"0308"));
+    EXPECT_EQ(same.FileNameParts, fsn.FileNameParts);
+
+    // Without an open key, everything is default.
+    EXPECT_FALSE(same.Load(nullptr));
+    EXPECT_EQ(same.IsUseTermType, 1U);
+    EXPECT_EQ(same.FileNameParts.GetSize(), 0);
+    EXPECT_FALSE(same.Save(nullptr));
 }
 
 } // namespace

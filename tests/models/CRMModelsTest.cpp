@@ -127,6 +127,31 @@ TEST_F(CRMModelsTest, CoinAndTellerModelsNameTheirSlots)
     EXPECT_EQ(teller.m_arSlot[2].dwCasValues, 20U);
 }
 
+TEST_F(CRMModelsTest, NumbersAreGivenBackAsTheyWereStoredAndSwitchesAsZeroOrOne)
+{
+    const auto capabilities = Device(L"CAPABILITIES");
+    for (const auto* name : {L"TryRetract2CasE", L"CheckEmptyOnOutSht", L"CashOutAPI", L"DisplayRJEveryCountInfo",
+                             L"RJBillMustStack", L"DepositRejectType"}) {
+        Set(capabilities, name, 5);
+    }
+    CSPCRMWQ07RegInfo recycler(L"Svc", false);
+    CSpCcadRegInfo ccad(L"Svc", false);
+    CSpCRMTCRRegInfo teller(L"Svc", false);
+    CSpCRMFujitsuCRF3RegInfo coins(L"Svc", false);
+    for (CRegInfo* config : {static_cast<CRegInfo*>(&recycler), static_cast<CRegInfo*>(&ccad),
+                             static_cast<CRegInfo*>(&teller), static_cast<CRegInfo*>(&coins)}) {
+        ASSERT_TRUE(config->Load(nullptr));
+        config->Save();
+    }
+    for (const auto* name :
+         {L"TryRetract2CasE", L"CheckEmptyOnOutSht", L"DisplayRJEveryCountInfo", L"RJBillMustStack"}) {
+        EXPECT_EQ(Number(capabilities, name), 5U) << std::wstring(name).c_str();
+    }
+    EXPECT_TRUE(teller.m_bCashOutAPI);
+    EXPECT_EQ(Number(capabilities, L"CashOutAPI"), 1U);
+    EXPECT_EQ(Number(capabilities, L"DepositRejectType"), 1U);
+}
+
 class CRMWithoutSerialNumbersTest : public ConfigTest
 {};
 

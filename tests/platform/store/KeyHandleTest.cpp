@@ -1,8 +1,6 @@
 #include "wqspcfg/platform/store/KeyHandle.h"
 
 #include "support/ConfigTest.h"
-#include "wqspcfg/parts/serial/BillFSNRegInfo.h"
-#include "wqspcfg/parts/serial/BillSNRegInfo.h"
 
 namespace {
 
@@ -57,35 +55,6 @@ TEST_F(KeyHandleTest, ReadsTheStateOfTheScopeAroundItAndJoinsItsWrites)
     }
     EXPECT_EQ(Commits(), 1U);
     EXPECT_EQ(Text(Device(L"Some\\Sub"), L"Text"), L"x");
-}
-
-TEST_F(KeyHandleTest, SerialNumberRecordsCorrectWhatNoTerminalCouldUse)
-{
-    Set(Device(L"SNRData"), L"dwPhotoSaveMonth", 7);
-    Set(Device(L"SNRData"), L"BankCodeMaxLen", 5);
-    Set(Device(L"SNRData"), L"FSNFileName", L"my.FsN");
-    Set(Device(L"SNRData"), L"IsUseTermType", DWORD{0});
-    KeyHandle handle;
-    ASSERT_TRUE(handle.Open(Device(L"SNRData")));
-    tagBillSNRegInfo serial;
-    tagBillFSNRegInfo fsn;
-    EXPECT_TRUE(fsn.IsUseTermType);
-    ASSERT_TRUE(serial.Load(handle.Get()));
-    ASSERT_TRUE(fsn.Load(handle.Get()));
-    EXPECT_EQ(serial.dwPhotoSaveMonth, 3U);
-    EXPECT_EQ(fsn.BankCodeMaxLen, 5U);
-    EXPECT_EQ(fsn.FSNFileName, CString(L"my.FsN"));
-    EXPECT_FALSE(fsn.IsUseTermType);
-    Set(Device(L"SNRData"), L"BankCodeMaxLen", 6);
-    Set(Device(L"SNRData"), L"FSNFileName", L"fsn");
-    fsn.Load(handle.Get());
-    EXPECT_EQ(fsn.BankCodeMaxLen, 4U);
-    EXPECT_EQ(fsn.FSNFileName, CString(L"CNYGZHM.FSN"));
-
-    // Without an open key, everything is default.
-    EXPECT_FALSE(fsn.Load(nullptr));
-    EXPECT_TRUE(fsn.IsUseTermType);
-    EXPECT_FALSE(fsn.Save(nullptr));
 }
 
 } // namespace

@@ -54,28 +54,49 @@ constexpr bool TakeNumber(std::wstring_view& text, DWORD& number)
     return any && (text.empty() || text.front() == L' ' || text.front() == L',' || text.front() == L';');
 }
 
-// The numbers at the beginning of an item, such as "2 and 3" or "0, 90 or 180", each with the words that follow them.
+// A number, or a few of them: "2 to 7".
+constexpr bool TakeNumbers(std::wstring_view& text, DWORD& first, DWORD& last)
+{
+    constexpr DWORD kMost = 256;
+    if (!TakeNumber(text, first)) {
+        return false;
+    }
+    std::wstring_view rest = text;
+    if (TakeText(rest, L" to ") && TakeNumber(rest, last) && last > first && last - first < kMost) {
+        text = rest;
+    } else {
+        last = first;
+    }
+    return true;
+}
+
+constexpr bool TakeSeparator(std::wstring_view& text)
+{
+    return TakeText(text, L", ") || TakeText(text, L" or ") || TakeText(text, L" and ");
+}
+
+// The numbers at the beginning of an item, such as "2 and 3" or "0, 2 to 7 or 100", each with the words that follow
+// them.
 template <class F>
 constexpr bool VisitItem(std::wstring_view item, F visit)
 {
-    DWORD number = 0;
+    DWORD first = 0;
+    DWORD last = 0;
     std::wstring_view words = item;
-    for (bool more = true; more;) {
-        if (!TakeNumber(words, number)) {
-            return false;
-        }
-        std::wstring_view next = words;
-        more =
-            (TakeText(next, L", ") || TakeText(next, L" or ") || TakeText(next, L" and ")) && TakeNumber(next, number);
-        if (more) {
-            TakeText(words, L", ") || TakeText(words, L" or ") || TakeText(words, L" and ");
-        }
+    if (!TakeNumbers(words, first, last)) {
+        return false;
     }
+    for (std::wstring_view next = words; TakeSeparator(next) && TakeNumbers(next, first, last);) {
+        words = next;
+    }
+    const std::wstring_view numbers = item.substr(0, item.size() - words.size());
     TakeText(words, L" ");
-    for (std::wstring_view rest = item; TakeNumber(rest, number);) {
-        visit(number, words);
-        if (!(TakeText(rest, L", ") || TakeText(rest, L" or ") || TakeText(rest, L" and "))) {
-            break;
+    for (std::wstring_view rest = numbers; TakeNumbers(rest, first, last) && (TakeSeparator(rest) || rest.empty());) {
+        for (DWORD number = first;; ++number) {
+            visit(number, words);
+            if (number == last) {
+                break;
+            }
         }
     }
     return true;

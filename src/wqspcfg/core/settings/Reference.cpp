@@ -126,8 +126,11 @@ void Append(std::span<const Setting> rows, std::vector<DescribedSetting>& out, b
 {
     for (const auto& row : rows) {
         const auto first = out.size();
-        if (row.kind == Kind::Group) {
+        if (row.kind == Kind::Group || row.kind == Kind::Step) {
             Append(row.rows, out, conditional || row.condition != nullptr);
+            for (auto i = first; i < out.size() && row.part != nullptr; ++i) {
+                out[i].part = row.part;
+            }
             continue;
         }
         Walk(std::span(&row, 1), nullptr, EnterAll, [&](const Setting& each, const Iteration* iteration) {

@@ -50,6 +50,7 @@ struct DescribedSetting
     std::optional<DescribedRange> range;
     std::wstring_view meaning;
     bool saved = false;
+    CRegKeyEx& (*part)(CRegKeyEx& object) = nullptr; // the record that has the member, where it is one's
     std::wstring readAs;                    // the name that its own key is asked for, where that is not the setting's
     std::wstring savedName;                 // where it differs from the value name
     std::wstring_view emptySavedAs;         // what Save writes in place of an empty text

@@ -3,6 +3,7 @@
 
 #include "wqspcfg/core/settings/Setting.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -79,6 +80,28 @@ consteval std::array<const Setting*, N> SaveOrder(std::span<const Setting> rows,
     }
     if (whole && count != CountSaved(rows)) {
         throw "a saved setting is missing from the order";
+    }
+    return order;
+}
+
+// The N saved rows that `others` leaves, key by key. Does not compile when there are more or less of them in these
+// keys.
+template <std::size_t N, std::size_t Keys, std::size_t Others>
+consteval std::array<const Setting*, N> SaveOrderByKey(std::span<const Setting> rows, const Key (&keys)[Keys],
+                                                       const std::array<const Setting*, Others>& others)
+{
+    std::array<const Setting*, N> order{};
+    std::size_t count = 0;
+    for (const auto& key : keys) {
+        for (const auto& row : rows) {
+            const bool here = row.key.root == key.root && std::wstring_view(row.key.subkey) == key.subkey;
+            if (row.saved && here && std::find(others.begin(), others.end(), &row) == others.end()) {
+                order.at(count++) = &row;
+            }
+        }
+    }
+    if (count != N) {
+        throw "a saved setting is in none of the keys";
     }
     return order;
 }

@@ -146,11 +146,13 @@ struct Setting
     int (*query)(void* map, const wchar_t* path) = nullptr;
     std::span<const DefaultEntry> entries;
 
-    // A group or a repetition: its rows, and the names or numbers of its iterations.
+    // A group or a repetition: its rows, and the names or numbers of its iterations. A step: the rows that it loads,
+    // of a record where `part` finds one.
     std::span<const Setting> rows;
     const wchar_t* const* iterationNames = nullptr;
     unsigned firstIteration = 0;
     unsigned iterations = 0;
+    CRegKeyEx& (*part)(CRegKeyEx& object) = nullptr;
 
     constexpr Setting() = default;
 
@@ -350,6 +352,26 @@ constexpr Setting Step(F)
     Setting step;
     step.kind = Kind::Step;
     step.step = Setting::StepOf<F>();
+    return step;
+}
+
+// The same for code that loads and logs the settings of `rows`, which the reference shows at this place.
+template <class F>
+constexpr Setting Step(F code, std::span<const Setting> rows)
+{
+    Setting step = Step(code);
+    step.rows = rows;
+    return step;
+}
+
+// The same for the settings of a record, a member that loads and saves itself.
+template <auto Record, class F>
+constexpr Setting Step(F code, std::span<const Setting> rows)
+{
+    Setting step = Step(code, rows);
+    step.part = [](CRegKeyEx& object) -> CRegKeyEx& {
+        return Down<typename OwnerOfMember<decltype(Record)>::type>(object).*Record;
+    };
     return step;
 }
 

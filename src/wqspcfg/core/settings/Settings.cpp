@@ -325,6 +325,13 @@ Loading::Loading(CRegKeyEx& object, const CString& strDeviceKeyName, CLog* pLog)
       m_outer(std::exchange(t_loading, this))
 {}
 
+Loading::Loading(CRegKeyEx& record, HKEY key)
+    : m_object(record), m_keys({}, {}, {}), m_lines(t_loading != nullptr ? t_loading->Log() : nullptr),
+      m_observer(t_observer), m_outer(std::exchange(t_loading, this)), m_recordKey(key)
+{
+    m_record.emplace(key);
+}
+
 Loading::~Loading()
 {
     t_loading = m_outer;
@@ -350,6 +357,13 @@ bool Loading::Read(const Table& table, std::span<const Setting> rows)
         ReadRow(row, iteration);
         return true;
     });
+}
+
+bool Loading::Read(std::span<const Setting> rows)
+{
+    static constexpr Table kRecord{L"", nullptr, nullptr, {}};
+    Read(kRecord, rows);
+    return m_record->Exists();
 }
 
 void Loading::ReadRow(const Setting& row, const Iteration* iteration)
@@ -436,12 +450,19 @@ Origin Loading::Find(const Setting& row, const Iteration* iteration, T& value)
 {
     auto origin = Origin::Missing;
     const auto ask = [&](Key key, std::wstring_view name) {
-        const auto opened = m_keys.Open(*m_scope, key, iteration);
         ValueView view;
-        const auto outcome = iteration != nullptr ? m_scope->Query(opened, ForIteration(name.data(), iteration), view)
-                                                  : m_scope->Query(opened, name, view);
-        if (outcome != Outcome::Found) {
-            return false;
+        if (m_record) {
+            if (!m_record->Find(name, view)) {
+                return false;
+            }
+        } else {
+            const auto opened = m_keys.Open(*m_scope, key, iteration);
+            const auto outcome = iteration != nullptr
+                                     ? m_scope->Query(opened, ForIteration(name.data(), iteration), view)
+                                     : m_scope->Query(opened, name, view);
+            if (outcome != Outcome::Found) {
+                return false;
+            }
         }
         if (!ToValue(view, value)) {
             origin = Origin::WrongType;
@@ -530,14 +551,14 @@ bool Loading::Query(Key key, const CString& strName, CString& value)
     return m_scope->QueryAt(m_keys.PathOf(key), strName.View(), view) == Outcome::Found && ToValue(view, value);
 }
 
-void Loading::Print(const Setting& row, DWORD value)
+void Loading::Print(const Setting& row, DWORD value, const Iteration* iteration)
 {
-    m_lines.Print(row, nullptr, value);
+    m_lines.Print(row, iteration, value);
 }
 
-void Loading::Print(const Setting& row, const CString& value)
+void Loading::Print(const Setting& row, const CString& value, const Iteration* iteration)
 {
-    m_lines.Print(row, nullptr, value);
+    m_lines.Print(row, iteration, value);
 }
 
 void Loading::PrintHeld(const Setting& row)
@@ -735,6 +756,33 @@ void Saving::Put(Key key, const CString& strName, DWORD value)
 void Saving::Put(Key key, const CString& strName, const CString& value)
 {
     SetText(*m_scope, m_scope->Open(m_keys.PathOf(key)), strName.View(), value.View());
+}
+
+namespace {
+
+template <class T>
+void WriteChanged(CRegKeyEx& record, const Setting& row, KeyReader& reader, KeyWriter& writer)
+{
+    T stored = FromValue<T>(row, row.defaultValue, 0);
+    const bool found = reader.Query(row.name, stored);
+    Correct(row, record, stored, found);
+    if (const T held = HeldOf<T>(row, record, 0); held != stored) {
+        writer.Set(row.name, held);
+    }
+}
+
+} // namespace
+
+void WriteRecord(CRegKeyEx& record, std::span<const Setting> rows, HKEY key, KeyWriter& writer)
+{
+    KeyReader reader(key);
+    Walk(rows, nullptr, EnterAll, [&](const Setting& row, const Iteration*) {
+        if (row.saved && row.bound) {
+            IsNumber(row) ? WriteChanged<DWORD>(record, row, reader, writer)
+                          : WriteChanged<CString>(record, row, reader, writer);
+        }
+        return true;
+    });
 }
 
 } // namespace wqspcfg

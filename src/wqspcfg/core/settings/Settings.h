@@ -5,8 +5,10 @@
 #include "wqspcfg/core/settings/Observer.h"
 #include "wqspcfg/core/settings/SaveOrder.h"
 #include "wqspcfg/core/settings/Setting.h"
+#include "wqspcfg/platform/store/KeyHandle.h"
 #include "wqspcfg/platform/store/Session.h"
 
+#include <optional>
 #include <span>
 #include <string>
 
@@ -82,6 +84,8 @@ class WQSPCFG_API Loading
     Loading(CRegInfo& object, CLog* pLog);
     // For an object that is not of the tree, with the name of its device key.
     Loading(CRegKeyEx& object, const CString& strDeviceKeyName, CLog* pLog);
+    // For a record: all rows are read from this open key. Within another Load, its lines go into the log of that.
+    Loading(CRegKeyEx& record, HKEY key);
     ~Loading();
     Loading(const Loading&) = delete;
     Loading& operator=(const Loading&) = delete;
@@ -91,6 +95,8 @@ class WQSPCFG_API Loading
     // Some of the table's rows.
     bool Read(const Table& table, std::span<const Setting> rows);
     bool Read(const Table& table, const Setting& row) { return Read(table, std::span(&row, 1)); }
+    // All rows of a record. False when its key is not open, so that everything is default.
+    bool Read(std::span<const Setting> rows);
 
     // For code between rows. A missing value gives false and leaves `value` untouched.
     bool Query(Key key, const CString& strName, DWORD& value);
@@ -102,11 +108,13 @@ class WQSPCFG_API Loading
     bool Query(const Setting& row, const Iteration& iteration, DWORD& value);
     bool Query(const Setting& row, const Iteration& iteration, CString& value);
     // The line of one row, with a number or a text in place of the member.
-    void Print(const Setting& row, DWORD value);
-    void Print(const Setting& row, const CString& value);
+    void Print(const Setting& row, DWORD value, const Iteration* iteration = nullptr);
+    void Print(const Setting& row, const CString& value, const Iteration* iteration = nullptr);
     // The line of one row with what its member holds.
     void PrintHeld(const Setting& row);
     CLog* Log() const noexcept { return m_lines.Log(); }
+    // The open key of a record.
+    HKEY RecordKey() const noexcept { return m_recordKey; }
     // The store could not be read, so that what is loaded are defaults.
     bool HasFailed() const noexcept { return static_cast<bool>(m_scope->Failure()); }
     // The name of the object's device key, when this thread is loading that object; else null.
@@ -129,6 +137,8 @@ class WQSPCFG_API Loading
     LoadObserver* m_observer;
     const Table* m_table = nullptr;
     Loading* m_outer;
+    HKEY m_recordKey = nullptr;
+    std::optional<KeyReader> m_record; // of a record
 };
 
 // One Save: everything written within it becomes durable together, or nothing does. An object without a device key (a
@@ -166,6 +176,11 @@ class WQSPCFG_API Saving
     CRegKeyEx& m_object;
     SettingKeys m_keys;
 };
+
+// Writes the saved settings of a record to the open key that `writer` is for. A value that a Load would take from there
+// as the record holds it is not written: what is missing or of another type stays as it is until somebody changes the
+// member.
+WQSPCFG_API void WriteRecord(CRegKeyEx& record, std::span<const Setting> rows, HKEY key, KeyWriter& writer);
 
 // Reads one setting from its key or its fallback key; where neither holds it, `value` becomes the default, and the
 // result is false. What is corrected while loading is not corrected here.

@@ -12,7 +12,7 @@ class WQSPCFG_API CSpCIMiVIZION100SSRegInfo : public CCRMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwUseEscrow;
-    DWORD m_dwCasVolume;
-    DWORD m_dwCasFull;
+    DWORD m_dwUseEscrow{};
+    DWORD m_dwCasVolume{};
+    DWORD m_dwCasFull{};
 };

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "wqspcfg/classes/CRMRegInfo.h"
-#include "wqspcfg/parts/CassetteSlot.h"
+#include "wqspcfg/models/shared/CoinRecycler.h"
 
 // The Fujitsu CRF3 coin recycler with the hoppers A (1 yuan), B (5 jiao), C (1 jiao) and R (retract).
-class WQSPCFG_API CSpCRMFujitsuCRF3RegInfo : public CCRMRegInfo
+class WQSPCFG_API CSpCRMFujitsuCRF3RegInfo : public wqspcfg::CoinRecycler
 {
   public:
     CSpCRMFujitsuCRF3RegInfo(const CString& strName, bool bPhysicalName);
@@ -13,18 +12,16 @@ class WQSPCFG_API CSpCRMFujitsuCRF3RegInfo : public CCRMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwUnitPhyPosName;
-    tagCoinRecycleHopper m_arSlot[4];
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwOnlyDepositTimeOut;
-    DWORD m_dwOnlyDispenseTimeOut;
-    DWORD m_dwDepositRejectType;
-    DWORD m_dwActionWhenSpStart;
-    DWORD m_dwAutoRecoverCount;
-    DWORD m_dw100VerifyLevel;
-    DWORD m_dw50VerifyLevel;
-    DWORD m_dwNew10VerifyLevel;
-    DWORD m_dw10VerifyLevel;
-    DWORD m_dwOld10VerifyLevel;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwOnlyDepositTimeOut{};
+    DWORD m_dwOnlyDispenseTimeOut{};
+    bool m_bDepositRejectType{};
+    DWORD m_dwActionWhenSpStart{};
+    DWORD m_dwAutoRecoverCount{};
+    DWORD m_dw100VerifyLevel{};
+    DWORD m_dw50VerifyLevel{};
+    DWORD m_dwNew10VerifyLevel{};
+    DWORD m_dw10VerifyLevel{};
+    DWORD m_dwOld10VerifyLevel{};
 };

@@ -13,10 +13,10 @@ class WQSPCFG_API CSpCRMSBBHopperMk2RegInfo : public CCRMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwUnitPhyPosName;
-    tagCoinHopper m_arSlot[3];
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwDispenseTimeOut;
-    DWORD m_dwAutoRecoverCount;
+    DWORD m_dwUnitPhyPosName{};
+    tagCoinHopper m_arSlot[3]{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwDispenseTimeOut{};
+    DWORD m_dwAutoRecoverCount{};
 };

@@ -12,15 +12,15 @@ class WQSPCFG_API CSpCRMSBBHopperRegInfo : public CCRMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwUnitPhyPosName;
-    DWORD m_dwCurrentCasCount;
-    DWORD m_dwType;
-    DWORD m_dwCasFull;
-    DWORD m_dwCasNearFull;
-    DWORD m_dwCasEmpty;
-    DWORD m_dwCasNearEmpty;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwOnlyDispenseTimeOut;
-    DWORD m_dwAutoRecoverCount;
+    DWORD m_dwUnitPhyPosName{};
+    DWORD m_dwCurrentCasCount{};
+    DWORD m_dwType{};
+    DWORD m_dwCasFull{};
+    DWORD m_dwCasNearFull{};
+    DWORD m_dwCasEmpty{};
+    DWORD m_dwCasNearEmpty{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwOnlyDispenseTimeOut{};
+    DWORD m_dwAutoRecoverCount{};
 };

@@ -19,10 +19,10 @@ class WQSPCFG_API CSpCRMTCRRegInfo : public CCRMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    tagSlot m_arSlot[6];
-    DWORD m_dwDriverCommandTimeOut;
-    DWORD m_dwDispNotEnoughRet;
-    DWORD m_dwCashOutAPI;
-    bool m_bDisplayRJEveryCountInfo;
-    bool m_bBlankRunIfLastCashInStatusErr;
+    tagSlot m_arSlot[6]{};
+    DWORD m_dwDriverCommandTimeOut{};
+    DWORD m_dwDispNotEnoughRet{};
+    bool m_bCashOutAPI{};
+    DWORD m_dwDisplayRJEveryCountInfo{};
+    DWORD m_dwBlankRunIfLastCashInStatusErr{};
 };

@@ -20,24 +20,32 @@ constexpr DWORD kTypes[] = {0x00040030, 0x00040030, 0x00040030, 0x00040030, 0x40
 
 // clang-format off
 constexpr Setting kSlotRows[] = {
-    {kSlot, L"Type",         Element<&C::m_arSlot, &tagCassetteSlot::dwType>,         0, meaning::kSlotType, Saved, PerIteration(kTypes), Format(L"0x%08X"), Label(L"%s.Type")},
-    {kSlot, L"CasFull",      Element<&C::m_arSlot, &tagCassetteSlot::dwCasFull>,      2, L"distance to full as a code: 0 to 4 mean 100 x (code + 1) notes", Saved, Range(0, 4), Label(L"%s.CasFull")},
-    {kSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCassetteSlot::dwCasNearEmpty>, 0, L"distance to nearly empty as a code: 0 to 4 mean 100 x (code + 1) notes", Saved, Range(0, 4), Label(L"%s.CasNearEmpty")},
+    {kSlot, L"Type", Element<&C::m_arSlot, &tagCassetteSlot::dwType>,
+     0, meaning::kSlotType, Saved, PerIteration(kTypes), Format(L"0x%08X"), Label(L"%s.Type")},
+    {kSlot, L"CasFull", Element<&C::m_arSlot, &tagCassetteSlot::dwCasFull>,
+     2, L"distance to full as a code: 0 to 4 mean 100 x (code + 1) notes", Saved, Range(0, 4), Label(L"%s.CasFull")},
+    {kSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCassetteSlot::dwCasNearEmpty>,
+     0, L"distance to nearly empty as a code: 0 to 4 mean 100 x (code + 1) notes", Saved, Range(0, 4),
+     Label(L"%s.CasNearEmpty")},
 };
 
 constexpr Setting kSettings[] = {
-    {key::Capabilities, L"ActionOfInnerShutterCantCloseInCIM", &C::m_dwActionOfInnerShutterCantCloseInCIM, 1, meaning::kInnerShutterCantClose, Saved},
-    {key::Capabilities, L"RJBillMustStack",                    &C::m_bRJBillMustStack,                     0, L"rejected notes must be stacked: 0 no; nonzero yes", Saved},
-    {key::Capabilities, L"HwInitCount",                        &C::m_dwHwInitCount,                        0, meaning::kHwInitCount, Saved},
-    {kHopper,           L"CasTypeFollowSlot",                  &C::m_dwCasTypeFollowSlot,                  1, meaning::kCasTypeFollowSlot, Saved, OneOf},
-    {kHopperRJ,         L"UseCassetteRJ",                      &C::m_bUseCassetteRJ,                       1, L"cassette RJ is used: 0 no; nonzero yes", Saved},
-    {kHopperE,          L"UseCassetteEAsRJCAS",                &C::m_bUseCassetteEAsRJCAS,                 0, meaning::kUseCassetteE, Saved},
+    {key::Capabilities, L"ActionOfInnerShutterCantCloseInCIM", &C::m_dwActionOfInnerShutterCantCloseInCIM, 1,
+     meaning::kInnerShutterCantClose, Saved},
+    {key::Capabilities, L"RJBillMustStack", &C::m_dwRJBillMustStack, 0,
+     L"rejected notes must be stacked", Saved},
+    {key::Capabilities, L"HwInitCount", &C::m_dwHwInitCount, 0, meaning::kHwInitCount, Saved},
+    {kHopper, L"CasTypeFollowSlot", &C::m_dwCasTypeFollowSlot, 1,
+     meaning::kCasTypeFollowSlot, Saved, OneOf},
+    {kHopperRJ, L"UseCassetteRJ",       &C::m_dwUseCassetteRJ,       1, L"cassette RJ is used", Saved},
+    {kHopperE,  L"UseCassetteEAsRJCAS", &C::m_dwUseCassetteEAsRJCAS, 0, meaning::kUseCassetteE, Saved},
     Repeat(kSlots, kSlotRows),
-    {kCassette,     L"UseBarcodeAsTrackData", &C::m_bUseBarcodeAsTrackData, 0, L"the barcode is used as track data: 0 no; nonzero yes", Saved},
-    {kCassetteType, L"dwAType",               &C::m_dwAType,                1, L"physical type of cassette A: 0 dispense only; 1 recycle", OneOf},
-    {kCassetteType, L"dwBType",               &C::m_dwBType,                1, L"physical type of cassette B: 0 dispense only; 1 recycle", OneOf},
-    {kCassetteType, L"dwCType",               &C::m_dwCType,                1, L"physical type of cassette C: 0 dispense only; 1 recycle", OneOf},
-    {kCassetteType, L"dwDType",               &C::m_dwDType,                1, L"physical type of cassette D: 0 dispense only; 1 recycle", OneOf},
+    {kCassette, L"UseBarcodeAsTrackData", &C::m_dwUseBarcodeAsTrackData, 0,
+     L"the barcode is used as track data", Saved},
+    {kCassetteType, L"dwAType", &C::m_dwAType, 1, L"physical type of cassette A: 0 dispense only; 1 recycle", OneOf},
+    {kCassetteType, L"dwBType", &C::m_dwBType, 1, L"physical type of cassette B: 0 dispense only; 1 recycle", OneOf},
+    {kCassetteType, L"dwCType", &C::m_dwCType, 1, L"physical type of cassette C: 0 dispense only; 1 recycle", OneOf},
+    {kCassetteType, L"dwDType", &C::m_dwDType, 1, L"physical type of cassette D: 0 dispense only; 1 recycle", OneOf},
 };
 // clang-format on
 

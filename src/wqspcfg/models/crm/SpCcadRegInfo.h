@@ -14,16 +14,16 @@ class WQSPCFG_API CSpCcadRegInfo : public CCRMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwActionOfInnerShutterCantCloseInCIM;
-    bool m_bRJBillMustStack;
-    DWORD m_dwHwInitCount;
-    DWORD m_dwCasTypeFollowSlot;
-    bool m_bUseCassetteRJ;
-    bool m_bUseCassetteEAsRJCAS;
-    tagCassetteSlot m_arSlot[6];
-    bool m_bUseBarcodeAsTrackData;
-    DWORD m_dwAType;
-    DWORD m_dwBType;
-    DWORD m_dwCType;
-    DWORD m_dwDType;
+    DWORD m_dwActionOfInnerShutterCantCloseInCIM{};
+    DWORD m_dwRJBillMustStack{};
+    DWORD m_dwHwInitCount{};
+    DWORD m_dwCasTypeFollowSlot{};
+    DWORD m_dwUseCassetteRJ{};
+    DWORD m_dwUseCassetteEAsRJCAS{};
+    tagCassetteSlot m_arSlot[6]{};
+    DWORD m_dwUseBarcodeAsTrackData{};
+    DWORD m_dwAType{};
+    DWORD m_dwBType{};
+    DWORD m_dwCType{};
+    DWORD m_dwDType{};
 };

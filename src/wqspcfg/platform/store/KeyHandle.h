@@ -47,10 +47,10 @@ class WQSPCFG_API KeyReader
     bool Exists() const noexcept { return m_exists; }
     bool Query(std::wstring_view name, DWORD& value);
     bool Query(std::wstring_view name, CString& value);
-
-  private:
+    // A value of any type; `view` is valid until the next query.
     bool Find(std::wstring_view name, ValueView& view);
 
+  private:
     std::optional<ReadScope> m_scope; // none for a key of the Windows registry
     Session::Key m_key = 0;
     bool m_exists = false;

@@ -1,0 +1,156 @@
+#include "wqspcfg/parts/serial/SerialRows.h"
+
+#include <iterator>
+
+using namespace wqspcfg;
+
+namespace {
+
+using NameParts = CArray<tagFSNNamePart>;
+
+template <class R>
+bool LoadRecord(R& record, HKEY hKey, std::span<const Setting> rows)
+{
+    Loading loading(record, hKey);
+    return loading.Read(rows);
+}
+
+template <class R>
+bool SaveRecord(const R& record, HKEY hKey, std::span<const Setting> rows)
+{
+    KeyWriter writer(hKey);
+    auto copy = record; // hooks of rows take an object that they may change
+    WriteRecord(copy, rows, hKey, writer);
+    return writer.Commit();
+}
+
+// The key of a name part below that of the record.
+std::wstring PartKey(std::span<const Setting> rows, const Iteration& part)
+{
+    return ForIteration(rows[0].key.subkey + std::size(L"SNRData"), &part);
+}
+
+Iteration PartAt(INT_PTR nIndex)
+{
+    return {nullptr, static_cast<unsigned>(nIndex) + 1, static_cast<unsigned>(nIndex)};
+}
+
+// A part as it is stored; its type is 0 when the list ends before it.
+tagFSNNamePart ReadPart(HKEY hKey, const std::wstring& strKey, std::span<const Setting> rows)
+{
+    KeyReader reader(hKey, strKey);
+    tagFSNNamePart part;
+    reader.Query(rows[0].name, part.Type);
+    if (part.Type == 0 || part.Type > 9) {
+        return {};
+    }
+    reader.Query(rows[1].name, part.Value);
+    reader.Query(rows[2].name, part.Link);
+    return part;
+}
+
+bool SaveNameParts(HKEY hKey, const NameParts& parts, std::span<const Setting> rows)
+{
+    bool bDone = true;
+    // A list that has become shorter ends before a part of type 0.
+    for (INT_PTR i = 0; i <= parts.GetSize(); ++i) {
+        const auto strKey = PartKey(rows, PartAt(i));
+        const auto part = i < parts.GetSize() ? parts[i] : tagFSNNamePart{};
+        const auto stored = ReadPart(hKey, strKey, rows);
+        if (part == stored) {
+            continue;
+        }
+        KeyWriter writer(hKey, strKey);
+        writer.Set(rows[0].name, part.Type);
+        if (part.Value != stored.Value && part.Type != 0) {
+            writer.Set(rows[1].name, part.Value);
+        }
+        if (part.Link != stored.Link && part.Type != 0) {
+            writer.Set(rows[2].name, part.Link);
+        }
+        bDone = writer.Commit() && bDone;
+    }
+    return bDone;
+}
+
+} // namespace
+
+void wqspcfg::LoadNameParts(NameParts& parts, Loading& loading, std::span<const Setting> rows)
+{
+    parts.RemoveAll();
+    while (true) {
+        const auto iteration = PartAt(parts.GetSize());
+        const auto part = ReadPart(loading.RecordKey(), PartKey(rows, iteration), rows);
+        if (part.Type == 0) {
+            return;
+        }
+        parts.Add(part);
+        loading.Print(rows[0], part.Type, &iteration);
+        loading.Print(rows[1], part.Value, &iteration);
+        loading.Print(rows[2], part.Link, &iteration);
+    }
+}
+
+tagBillSNRegInfo::tagBillSNRegInfo()
+{
+    Construct(*this, kBillSNRows);
+}
+
+bool tagBillSNRegInfo::Load(HKEY hKey)
+{
+    return LoadRecord(*this, hKey, kBillSNRows);
+}
+
+bool tagBillSNRegInfo::Save(HKEY hKey) const
+{
+    return SaveRecord(*this, hKey, kBillSNRows);
+}
+
+tagBillFSNRegInfo::tagBillFSNRegInfo()
+{
+    Construct(*this, kBillFSNRows);
+}
+
+bool tagBillFSNRegInfo::Load(HKEY hKey)
+{
+    return LoadRecord(*this, hKey, kBillFSNRows);
+}
+
+bool tagBillFSNRegInfo::Save(HKEY hKey) const
+{
+    KeyWriter whole(hKey); // everything is written together
+    const bool bValues = SaveRecord(*this, hKey, kBillFSNRows);
+    const bool bFileName = SaveNameParts(hKey, FileNameParts, kFileNamePartRows);
+    const bool bFolder = SaveNameParts(hKey, FolderParts, kFolderPartRows);
+    return whole.Commit() && bValues && bFileName && bFolder;
+}
+
+tagBillBLRegInfo::tagBillBLRegInfo()
+{
+    Construct(*this, kBillBLRows);
+}
+
+bool tagBillBLRegInfo::Load(HKEY hKey)
+{
+    return LoadRecord(*this, hKey, kBillBLRows);
+}
+
+bool tagBillBLRegInfo::Save(HKEY hKey) const
+{
+    return SaveRecord(*this, hKey, kBillBLRows);
+}
+
+tagBillFAIRegInfo::tagBillFAIRegInfo()
+{
+    Construct(*this, kBillFAIRows);
+}
+
+bool tagBillFAIRegInfo::Load(HKEY hKey)
+{
+    return LoadRecord(*this, hKey, kBillFAIRows);
+}
+
+bool tagBillFAIRegInfo::Save(HKEY hKey) const
+{
+    return SaveRecord(*this, hKey, kBillFAIRows);
+}
