@@ -118,17 +118,17 @@ T FromValue(const Setting& row, const Value& value, unsigned index)
     }
 }
 
-void Correct(const Setting& row, CRegKeyEx& object, DWORD& value, bool found)
+void Correct(const Setting& row, CRegKeyEx& object, DWORD& value, bool found, unsigned index)
 {
     if (row.normalize != nullptr) {
-        value = row.normalize(object, value, found);
+        value = row.normalize(object, value, found, index);
     }
 }
 
-void Correct(const Setting& row, CRegKeyEx& object, CString& value, bool found)
+void Correct(const Setting& row, CRegKeyEx& object, CString& value, bool found, unsigned index)
 {
     if (row.normalizeText != nullptr) {
-        row.normalizeText(object, value, found);
+        row.normalizeText(object, value, found, index);
     }
     if (row.type == Type::Char) {
         value = value.Left(1);
@@ -303,13 +303,14 @@ bool Loading::Read(const Table& table, std::span<const Setting> rows)
 {
     m_table = &table;
     const auto enter = [this](const Setting& group) { return group.condition == nullptr || group.condition(m_object); };
-    return Walk(rows, nullptr, enter, [this](const Setting& row, const Iteration* iteration) {
+    const bool ended = !Walk(rows, nullptr, enter, [this](const Setting& row, const Iteration* iteration) {
         if (row.kind == Kind::Step) {
             return row.step(m_object, *this);
         }
         ReadRow(row, iteration);
         return true;
     });
+    return !ended && m_complete;
 }
 
 void Loading::ReadRow(const Setting& row, const Iteration* iteration)
@@ -354,13 +355,14 @@ void Loading::ReadValue(const Setting& row, const Iteration* iteration)
         if (!found && row.requiredLine != 0) {
             m_lines.PrintMissing(m_table->className, row, iteration);
         }
+        m_complete = m_complete && (found || !row.Has(Flags::Needed));
     }
     T read{};
     if (kNumber || m_observer != nullptr) {
         read = value;
     }
     if (!given) {
-        Correct(row, m_object, value, found);
+        Correct(row, m_object, value, found, index);
     }
     if constexpr (kNumber) {
         loaded.read = read;
@@ -429,6 +431,7 @@ void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
     const bool found =
         row.bound ? row.query(map, path.c_str()) != 0 : CRegKeyEx::QueryValues(unbound, L"%s", path) != 0;
     if (!found) {
+        m_complete = m_complete && !row.Has(Flags::Needed);
         for (const auto& entry : row.entries) {
             static_cast<Texts*>(map)->SetAt(entry.name, entry.text);
         }
@@ -558,6 +561,9 @@ void Saving::Write(std::span<const Setting* const> rows)
 void Saving::WriteRow(const Setting& row, const Iteration* iteration)
 {
     const auto index = IndexOf(iteration);
+    if (row.savedIf != nullptr && !row.savedIf(m_object, index)) {
+        return;
+    }
     if (row.kind == Kind::WholeKey) {
         CRegKeyEx::SetValues(*static_cast<const Texts*>(row.locate(m_object, index)), L"%s",
                              m_keys.PathOf(row.key, iteration));
