@@ -130,7 +130,7 @@ TEST_F(SpSIURegInfoTest, PrdSIUNormalNamesTheSubkeyInItsLines)
 
 TEST_F(SpSIURegInfoTest, TEK0816ResolvesPortsByTheirType)
 {
-    using Kind = tagXFSPort::Kind;
+    using Kind = wqspcfg::XFSPort::Kind;
     struct Case
     {
         const wchar_t* type;

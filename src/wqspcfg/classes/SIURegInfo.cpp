@@ -16,214 +16,103 @@ using C = CSIURegInfo;
 
 namespace {
 
-constexpr wchar_t kAvailable[] = L"WFS_SIU_AVAILABLE";
-constexpr wchar_t kNotAvailable[] = L"WFS_SIU_NOT_AVAILABLE";
-constexpr std::wstring_view kAutoEnableMeaning = L"ports whose events are enabled automatically: 0 no; nonzero yes";
-
 // ---- the settings ----
 
-constexpr Key kSensorKey = key::Below(L"CAPABILITIES\\fwSensors\\%s");
-constexpr Key kDoorKey = key::Below(L"CAPABILITIES\\fwDoors\\%s");
-constexpr Key kIndicatorKey = key::Below(L"CAPABILITIES\\fwIndicators\\%s");
-constexpr Key kAuxiliaryKey = key::Below(L"CAPABILITIES\\fwAuxiliaries\\%s");
-constexpr Key kGuidLightKey = key::Below(L"CAPABILITIES\\fwGuidLights\\%s");
-constexpr Key kAutoEnable = key::Below(L"AutoEnable");
 constexpr Key kControl = key::Below(L"control");
+constexpr Key kAutoEnable = key::Below(L"AutoEnable");
 constexpr Key kAgent = key::Absolute(L"SOFTWARE\\TARNO\\Driver\\WQDrOKIUsbAgent");
 constexpr Key kKeyboardMapping = key::Absolute(L"SOFTWARE\\TARNO\\Driver\\WQDrOKIUsbAgent\\KeyboardMapping\\");
 
-constexpr wchar_t kPortThere[] = L"the port is there: 0 no; nonzero yes";
-constexpr wchar_t kPortMissing[] = L"the port is not there, whatever else is set: 0 no; nonzero yes";
-constexpr wchar_t kDoorMissing[] =
-    L"the door is not there, whatever else is set: 0 no; nonzero yes; a door that is there "
-    L"needs the value 0, for without it the value read before stands in its place";
-constexpr wchar_t kState[] = L"the port can report or take this state: 0 no; nonzero yes";
+constexpr unsigned kAgentKeys = 24; // that the agent's mapping has at least
 
-// Capabilities and flags are read and written by the functions below; their rows document them.
-constexpr const wchar_t* kOperatorSwitch[] = {L"OPERATORSWITCH"};
-constexpr const wchar_t* kSavedSensors[] = {L"TAMPER",    L"INTTAMPER", L"SEISMIC",       L"HEAT",
-                                            L"PROXIMITY", L"AMBLIGHT",  L"ENHANCEDAUDIO", L"HANDSETSENSOR"};
-constexpr const wchar_t* kReadSensors[] = {L"CALL_BUTTON"};
-constexpr const wchar_t* kBoltedDoors[] = {L"CABINET", L"SAFE"};
-constexpr const wchar_t* kVandalShield[] = {L"VANDALSHIELD"};
-constexpr const wchar_t* kSavedIndicators[] = {L"OPENCLOSE", L"FASCIALIGHT", L"AUDIO", L"HEATING"};
-constexpr const wchar_t* kReadIndicators[] = {L"INDICATOR_4",  L"INDICATOR_5",  L"INDICATOR_7",  L"INDICATOR_8",
-                                              L"INDICATOR_9",  L"INDICATOR_10", L"INDICATOR_11", L"INDICATOR_12",
-                                              L"INDICATOR_13", L"INDICATOR_15"};
-constexpr const wchar_t* kScreens[] = {L"REARSCREEN", L"FRONTSCREEN"};
-constexpr const wchar_t* kVolume[] = {L"VOLUME"};
-constexpr const wchar_t* kUps[] = {L"UPS"};
-constexpr const wchar_t* kPlainAuxiliaries[] = {L"MONITOR", L"ALARM", L"ENHANCEDAUDIOCONTROL"};
-constexpr const wchar_t* kSavedGuidLights[] = {
-    L"CARDUNIT",        L"PINPAD",        L"NOTESDISPENSER", L"COINDISPENSER", L"RECEIPTPRINTER",
-    L"PASSBOOKPRINTER", L"ENVDEPOSITORY", L"CHEQUEUNIT",     L"BILLACCEPTOR",  L"ENVDISPENSER",
-    L"DOCUMENTPRINTER", L"COINACCEPTOR",  L"SCANNER"};
-constexpr const wchar_t* kReadGuidLights[] = {L"WFS_GUIDLIGHT_13", L"WFS_GUIDLIGHT_14", L"WFS_GUIDLIGHT_15"};
+// The line shows the text as it is.
+constexpr auto kSplitWindowNames = Normalize([](C& c, CString& strNames, bool) {
+    if (!strNames.IsEmpty()) {
+        CString strList = strNames;
+        strList.Remove(L' ');
+        strList.Replace(L",,", L",");
+        CStringUtility::SplitString(c.m_arHandsetSendEveWindowNames, strList, L',');
+    }
+});
 
 // clang-format off
-constexpr Setting kOperatorSwitchRows[] = {
-    {kSensorKey, kAvailable,             DwordValue, 0, L"the switch can report the run position: 0 no; nonzero yes", NotLogged, Documented},
-    {kSensorKey, kNotAvailable,          DwordValue, 0, kPortMissing, NotLogged, Documented, Saved},
-    {kSensorKey, L"WFS_SIU_MAINTENANCE", DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kSensorKey, L"WFS_SIU_RUN",         DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kSensorKey, L"WFS_SIU_SUPERVISOR",  DwordValue, 0, kState, NotLogged, Documented, Saved},
+constexpr Setting kCapabilities[] = {
+    {key::Capabilities, L"WFS_SIU_SENSORS", DwordValue, 0,
+     L"the sensors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
+    Group(siu::kPortRows<siu::kSensors>),
+    {key::Capabilities, L"WFS_SIU_DOORS", DwordValue, 0,
+     L"the doors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
+    Group(siu::kPortRows<siu::kDoors>),
+    {key::Capabilities, L"WFS_SIU_INDICATORS", DwordValue, 0,
+     L"the indicators are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
+    Group(siu::kPortRows<siu::kIndicators>),
+    {key::Capabilities, L"WFS_SIU_AUXILIARIES", DwordValue, 0,
+     L"the auxiliaries are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
+    Group(siu::kPortRows<siu::kAuxiliaries>),
+    {key::Capabilities, L"WFS_SIU_GUIDLIGHTS", DwordValue, 0,
+     L"the guidance lights are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
+    Group(siu::kPortRows<siu::kGuidLights>),
 };
-constexpr Setting kSavedSensorRows[] = {
-    {kSensorKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, Documented, Saved},
-    {kSensorKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, Documented},
+constexpr Setting kEvents[] = {
+    {kKeyboardMapping, L"%s", Map<&C::m_mapKeyboardMapping>, L"",
+     L"what this key of the keyboard is mapped to, by the number of the key", NotLogged, KeepWhenMissing, Needed, Saved},
+    {kAgent, L"CanpostKeyEvent", &C::m_dwCanpostKeyEvent, 0,
+     L"PC key presses are simulated: 0 no; nonzero yes", Needed, Saved},
+    {kAutoEnable, L"%s", Map<&C::m_mapAutoEnable>, L"",
+     L"the events of this port are enabled automatically, of Sensor_0 to Sensor_31, Door_0, Indicator_0, Auxiliarie_0 "
+     L"and GuidLight_0 to 15: 0 no; nonzero yes", NotLogged, Saved},
 };
-constexpr Setting kReadSensorRows[] = {
-    {kSensorKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, Documented},
-    {kSensorKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, Documented},
-};
-constexpr Setting kBoltedDoorRows[] = {
-    {kDoorKey, kNotAvailable,       DwordValue, 0, kDoorMissing, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_BOLTED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_CLOSED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_LOCKED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_OPEN",     DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_KEYBOARD", DwordValue, 0, kState, NotLogged, Documented},
-    {kDoorKey, L"WFS_SIU_SERVICE",  DwordValue, 0, kState, NotLogged, Documented},
-};
-constexpr Setting kVandalShieldRows[] = {
-    {kDoorKey, kNotAvailable,       DwordValue, 0, kDoorMissing, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_BOLTED",   DwordValue, 0, kState, NotLogged, Documented},
-    {kDoorKey, L"WFS_SIU_CLOSED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_LOCKED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_OPEN",     DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_KEYBOARD", DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kDoorKey, L"WFS_SIU_SERVICE",  DwordValue, 0, kState, NotLogged, Documented, Saved},
-};
-constexpr Setting kSavedIndicatorRows[] = {
-    {kIndicatorKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, Documented, Saved},
-};
-constexpr Setting kReadIndicatorRows[] = {
-    {kIndicatorKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, Documented},
-};
-constexpr Setting kScreenRows[] = {
-    {kIndicatorKey, kAvailable, DwordValue, 1, kPortThere, NotLogged, Documented},
-};
-constexpr Setting kVolumeRows[] = {
-    {kAuxiliaryKey, kAvailable,    DwordValue, 0, L"number of volume steps: 0 the volume cannot be set", NotLogged, Documented, Saved},
-    {kAuxiliaryKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, Documented},
-};
-constexpr Setting kUpsRows[] = {
-    {kAuxiliaryKey, kAvailable,           DwordValue, 0, kPortThere, NotLogged, Documented},
-    {kAuxiliaryKey, kNotAvailable,        DwordValue, 0, kPortMissing, NotLogged, Documented, Saved},
-    {kAuxiliaryKey, L"WFS_SIU_ENGAGED",   DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kAuxiliaryKey, L"WFS_SIU_LOW",       DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kAuxiliaryKey, L"WFS_SIU_POWERING",  DwordValue, 0, kState, NotLogged, Documented, Saved},
-    {kAuxiliaryKey, L"WFS_SIU_RECOVERED", DwordValue, 0, kState, NotLogged, Documented, Saved},
-};
-constexpr Setting kPlainAuxiliaryRows[] = {
-    {kAuxiliaryKey, kAvailable,    DwordValue, 0, kPortThere, NotLogged, Documented, Saved},
-    {kAuxiliaryKey, kNotAvailable, DwordValue, 0, kPortMissing, NotLogged, Documented},
-};
-constexpr Setting kSavedGuidLightRows[] = {
-    {kGuidLightKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, Documented, Saved},
-};
-constexpr Setting kReadGuidLightRows[] = {
-    {kGuidLightKey, kAvailable, DwordValue, 0, kPortThere, NotLogged, Documented},
-};
-constexpr Setting kKeyRows[] = {
-    {kKeyboardMapping, L"%d", StringValue, L"", L"what this key of the keyboard is mapped to", NotLogged, Documented, Saved},
-};
-constexpr Setting kSensorFlagRows[] = {
-    {kAutoEnable, L"Sensor_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
-};
-constexpr Setting kDoorFlagRows[] = {
-    {kAutoEnable, L"Door_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
-};
-constexpr Setting kIndicatorFlagRows[] = {
-    {kAutoEnable, L"Indicator_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
-};
-constexpr Setting kAuxiliaryFlagRows[] = {
-    {kAutoEnable, L"Auxiliarie_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
-};
-constexpr Setting kGuidLightFlagRows[] = {
-    {kAutoEnable, L"GuidLight_%d", StringValue, L"", kAutoEnableMeaning.data(), NotLogged, Documented, Saved},
-};
-
-constexpr Setting kSettings[] = {
-    {key::Capabilities, L"WFS_SIU_SENSORS", DwordValue, 0, L"the sensors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Repeat(kOperatorSwitch, kOperatorSwitchRows),
-    Repeat(kSavedSensors, kSavedSensorRows),
-    Repeat(kReadSensors, kReadSensorRows),
-    {key::Capabilities, L"WFS_SIU_DOORS", DwordValue, 0, L"the doors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Repeat(kBoltedDoors, kBoltedDoorRows),
-    Repeat(kVandalShield, kVandalShieldRows),
-    {key::Capabilities, L"WFS_SIU_INDICATORS", DwordValue, 0, L"the indicators are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Repeat(kSavedIndicators, kSavedIndicatorRows),
-    Repeat(kReadIndicators, kReadIndicatorRows),
-    Repeat(kScreens, kScreenRows),
-    {key::Capabilities, L"WFS_SIU_AUXILIARIES", DwordValue, 0, L"the auxiliaries are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Repeat(kVolume, kVolumeRows),
-    Repeat(kUps, kUpsRows),
-    Repeat(kPlainAuxiliaries, kPlainAuxiliaryRows),
-    {key::Capabilities, L"WFS_SIU_GUIDLIGHTS", DwordValue, 0, L"the guidance lights are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Repeat(kSavedGuidLights, kSavedGuidLightRows),
-    Repeat(kReadGuidLights, kReadGuidLightRows),
-    Repeat(1, 24, kKeyRows),
-    {kAgent, L"CanpostKeyEvent", &C::m_dwCanpostKeyEvent, 0, L"PC key presses are simulated: 0 no; nonzero yes", Preloaded, Saved},
-    Repeat(0, 31, kSensorFlagRows),
-    Repeat(0, 15, kDoorFlagRows),
-    Repeat(0, 15, kIndicatorFlagRows),
-    Repeat(0, 15, kAuxiliaryFlagRows),
-    Repeat(0, 15, kGuidLightFlagRows),
-    {key::Control, L"ThinkOfDevStatusWhenEnableEvents", &C::m_dwThinkOfDevStatusWhenEnableEvents, 0, L"WFS_CMD_SIU_ENABLE_EVENTS: 0 does not look at the device status; 1 does, and with a faulty device it succeeds and reports a WFS_EXEE_SIU_PORT_ERROR event", Saved, OneOf},
-    {kControl, L"HandsetSendEveWindowNames",        StringValue, L"", L"names of the windows to which a window event is sent when the shielding of the handset's 24 V supply changes, separated by commas", Format(L"[%s]"), Normalize([](C& c, CString& strNames, bool) {
-        if (!strNames.IsEmpty()) {
-            CString strList = strNames; // the line shows the text as it is
-            strList.Remove(L' ');
-            strList.Replace(L",,", L",");
-            CStringUtility::SplitString(c.m_arHandsetSendEveWindowNames, strList, L',');
-        }
-    })},
-    {kControl, L"EBphoneHangon",                    &C::m_dwEBphoneHangon,                    0x8001, L"window event identifier sent when the handset is picked up", Constructed(0)},
-    {kControl, L"EBPhoneHangup",                    &C::m_dwEBPhoneHangup,                    0x8002, L"window event identifier sent when the handset is hung up", Constructed(0)},
-    {kControl, L"EBPhoneError",                     &C::m_dwEBPhoneError,                     0x8002, L"window event identifier sent when the handset device fails", Constructed(0)},
-    {kControl, L"SetStatusNotAvailableWhenSetFail", &C::m_dwSetStatusNotAvailableWhenSetFail, 1,      L"after a failed set of a door, indicator, auxiliary or guidance light its status: 0 is left; 1 becomes WFS_SIU_NOT_AVAILABLE", Saved, OneOf},
+constexpr Setting kControls[] = {
+    {key::Control, L"ThinkOfDevStatusWhenEnableEvents", &C::m_dwThinkOfDevStatusWhenEnableEvents, 0,
+     L"WFS_CMD_SIU_ENABLE_EVENTS: 0 does not look at the device status; 1 does, and with a faulty device it succeeds and "
+     L"reports a WFS_EXEE_SIU_PORT_ERROR event", Saved, OneOf},
+    {kControl, L"HandsetSendEveWindowNames", StringValue, L"",
+     L"names of the windows to which a window event is sent when the shielding of the handset's 24 V supply changes, "
+     L"separated by commas", Format(L"[%s]"), kSplitWindowNames},
+    {kControl, L"EBphoneHangon", &C::m_dwEBphoneHangon, 0x8001,
+     L"window event identifier sent when the handset is picked up", Constructed(0)},
+    {kControl, L"EBPhoneHangup", &C::m_dwEBPhoneHangup, 0x8002,
+     L"window event identifier sent when the handset is hung up", Constructed(0)},
+    {kControl, L"EBPhoneError", &C::m_dwEBPhoneError, 0x8002,
+     L"window event identifier sent when the handset device fails", Constructed(0)},
+    {kControl, L"SetStatusNotAvailableWhenSetFail", &C::m_dwSetStatusNotAvailableWhenSetFail, 1,
+     L"after a failed set of a door, indicator, auxiliary or guidance light its status: 0 is left; 1 becomes "
+     L"WFS_SIU_NOT_AVAILABLE", Saved, OneOf},
 };
 // clang-format on
-constexpr const Setting* kAgentRow = FindRow(kSettings, L"CanpostKeyEvent");
-constexpr const Setting* kFirstControl = FindRow(kSettings, L"ThinkOfDevStatusWhenEnableEvents");
-constexpr const Setting* kLastControl = FindRow(kSettings, L"SetStatusNotAvailableWhenSetFail");
-
-constexpr wchar_t kMappingFormat[] = L"%sWQDrOKIUsbAgent\\KeyboardMapping\\";
-constexpr wchar_t kAgentFormat[] = L"%sWQDrOKIUsbAgent";
-constexpr wchar_t kAutoEnableFormat[] = L"%s%s\\AutoEnable";
 
 // ---- capabilities ----
 
-// Reads the values of one array of ports. Every value comes into the same holder, which a missing value leaves as it
-// was: what is asked of the holder may be what an earlier value left there.
+// Reads the values of one array of ports. All values share one variable. A missing value leaves it unchanged, so it may
+// still hold the previous one.
 class CapabilityReader
 {
   public:
-    CapabilityReader(const CString& strDevice, LPCWSTR lpszArray, CLog* pLog)
-        : m_path(FormatString(L"%s%s\\CAPABILITIES", kDeviceRoot, strDevice)), m_lpszArray(lpszArray), m_log(pLog)
+    CapabilityReader(const CSIURegInfo& config, const siu::PortArray& array, CLog* pLog)
+        : m_array(array),
+          m_path(FormatString(L"%s%s\\CAPABILITIES", kDeviceRoot, config.GetExeDllMother(1, nullptr))), m_log(pLog)
     {}
 
-    // False when the array is not configured: its gate is missing or 0.
-    bool ReadGate(LPCWSTR lpszGate, LPCWSTR lpszLegend = nullptr)
+    // Calls `read(const siu::Port&, WORD& fwPort)` for each port, unless the gate is missing or 0.
+    template <std::size_t N, class F>
+    void Read(WORD (&ports)[N], F read, LPCWSTR lpszLegend = nullptr)
     {
-        if (!IsSet(lpszGate)) {
-            return false;
+        if (!IsSet(m_array.gate)) {
+            return;
         }
-        m_path = m_path + L'\\' + m_lpszArray + L'\\';
-        m_arrayPath = m_path.size();
         if (lpszLegend != nullptr) {
             PrintHeader(lpszLegend);
         }
-        PrintHeader(m_lpszArray);
-        LogInfo(m_log, L"[CFG] %40s : %d", lpszGate, m_dwHolder);
-        return true;
-    }
-    void OpenPort(LPCWSTR lpszPort)
-    {
-        m_lpszPort = lpszPort;
-        m_path.resize(m_arrayPath);
-        m_path += lpszPort;
+        PrintHeader(m_array.name);
+        LogInfo(m_log, L"[CFG] %40s : %d", m_array.gate, m_dwHolder);
+        m_path = m_path + L'\\' + m_array.name + L'\\';
+        const auto length = m_path.size();
+        for (const auto& port : m_array.ports) {
+            m_port = &port;
+            m_path.resize(length);
+            m_path += port.name;
+            read(port, ports[port.index]);
+        }
     }
     bool IsPresent(LPCWSTR lpszValue)
     {
@@ -233,9 +122,24 @@ class CapabilityReader
     bool IsSet(LPCWSTR lpszValue) { return IsPresent(lpszValue) && m_dwHolder != 0; }
     DWORD Holder() const noexcept { return m_dwHolder; }
 
+    // Adds the states that are set; `printsZero` logs those that are 0 too.
+    void AddStates(WORD& fwPort, bool printsZero)
+    {
+        for (const auto& state : m_port->form.states) {
+            if (state.name == siu::kAvailable || state.name == siu::kNotAvailable || !IsPresent(state.name)) {
+                continue;
+            }
+            if (m_dwHolder != 0) {
+                fwPort = static_cast<WORD>(fwPort | state.bit);
+            }
+            if (m_dwHolder != 0 || printsZero) {
+                Print(state.name);
+            }
+        }
+    }
     void Print(LPCWSTR lpszValue, DWORD dwValue) const
     {
-        LogInfo(m_log, L"[CFG] %40s : %d[%s[%s]]", lpszValue, dwValue, m_lpszArray, m_lpszPort);
+        LogInfo(m_log, L"[CFG] %40s : %d[%s[%s]]", lpszValue, dwValue, m_array.name, m_port->name);
     }
     void Print(LPCWSTR lpszValue) const { Print(lpszValue, m_dwHolder); }
 
@@ -246,268 +150,176 @@ class CapabilityReader
     }
 
     ReadScope m_scope;
+    const siu::PortArray& m_array;
     std::wstring m_path;
-    std::size_t m_arrayPath = 0; // how much of m_path is the array's
-    LPCWSTR m_lpszArray;
-    LPCWSTR m_lpszPort = L"";
+    const siu::Port* m_port = nullptr;
     CLog* m_log;
     DWORD m_dwHolder = 0;
 };
 
-class CapabilityWriter
-{
-  public:
-    CapabilityWriter(const CString& strDevice, LPCWSTR lpszArray) : m_strDevice(strDevice), m_lpszArray(lpszArray) {}
-
-    void WriteGate(LPCWSTR lpszGate, bool bAny, LPCWSTR lpszFormat)
-    {
-        m_key = m_scope->Open(FormatString(lpszFormat, kDeviceRoot, m_strDevice));
-        WriteFlag(lpszGate, bAny);
-    }
-    void OpenPort(LPCWSTR lpszPort)
-    {
-        m_key =
-            m_scope->Open(FormatString(L"%s%s\\CAPABILITIES\\%s\\%s", kDeviceRoot, m_strDevice, m_lpszArray, lpszPort));
-    }
-    void WriteFlag(LPCWSTR lpszValue, bool bSet)
-    {
-        const DwordBytes bytes(bSet ? 1 : 0);
-        m_scope->Set(m_key, lpszValue, bytes.View());
-    }
-
-  private:
-    WriteScope m_scope;
-    const CString& m_strDevice;
-    LPCWSTR m_lpszArray;
-    Session::Key m_key = 0;
-};
-
-constexpr wchar_t kGateFormat[] = L"%s%s\\CAPABILITIES";
-constexpr wchar_t kGateFormatWithBackslash[] = L"%s%s\\CAPABILITIES\\";
-
-struct StateBit
-{
-    LPCWSTR name;
-    WORD bit;
-};
-constexpr StateBit kSwitchStates[] = {{L"WFS_SIU_MAINTENANCE", WFS_SIU_MAINTENANCE},
-                                      {L"WFS_SIU_RUN", WFS_SIU_RUN},
-                                      {L"WFS_SIU_SUPERVISOR", WFS_SIU_SUPERVISOR}};
-constexpr StateBit kDoorStates[] = {{L"WFS_SIU_BOLTED", WFS_SIU_BOLTED},     {L"WFS_SIU_CLOSED", WFS_SIU_CLOSED},
-                                    {L"WFS_SIU_LOCKED", WFS_SIU_LOCKED},     {L"WFS_SIU_OPEN", WFS_SIU_OPEN},
-                                    {L"WFS_SIU_KEYBOARD", WFS_SIU_KEYBOARD}, {L"WFS_SIU_SERVICE", WFS_SIU_SERVICE}};
-constexpr StateBit kUpsStates[] = {{L"WFS_SIU_ENGAGED", WFS_SIU_ENGAGED},
-                                   {L"WFS_SIU_LOW", WFS_SIU_LOW},
-                                   {L"WFS_SIU_POWERING", WFS_SIU_POWERING},
-                                   {L"WFS_SIU_RECOVERED", WFS_SIU_RECOVERED}};
-// In the order in which they are written.
-constexpr StateBit kSavedSwitchStates[] = {{L"WFS_SIU_MAINTENANCE", WFS_SIU_MAINTENANCE},
-                                           {L"WFS_SIU_SUPERVISOR", WFS_SIU_SUPERVISOR},
-                                           {L"WFS_SIU_RUN", WFS_SIU_RUN}};
-constexpr StateBit kSavedDoorStates[] = {{L"WFS_SIU_BOLTED", WFS_SIU_BOLTED},
-                                         {L"WFS_SIU_CLOSED", WFS_SIU_CLOSED},
-                                         {L"WFS_SIU_LOCKED", WFS_SIU_LOCKED},
-                                         {L"WFS_SIU_OPEN", WFS_SIU_OPEN}};
-constexpr StateBit kSavedShieldStates[] = {{L"WFS_SIU_KEYBOARD", WFS_SIU_KEYBOARD},
-                                           {L"WFS_SIU_CLOSED", WFS_SIU_CLOSED},
-                                           {L"WFS_SIU_LOCKED", WFS_SIU_LOCKED},
-                                           {L"WFS_SIU_OPEN", WFS_SIU_OPEN},
-                                           {L"WFS_SIU_SERVICE", WFS_SIU_SERVICE}};
-
-void AddBit(WORD& fwPort, WORD bit)
-{
-    fwPort = static_cast<WORD>(fwPort | bit);
-}
-
+// Writes the gate and what is saved of the ports.
 template <std::size_t N>
-void WriteStates(CapabilityWriter& writer, WORD fwPort, const StateBit (&states)[N])
+void WriteCapabilities(const CSIURegInfo& config, const siu::PortArray& array, const WORD (&ports)[N])
 {
-    writer.WriteFlag(kNotAvailable, (fwPort & WFS_SIU_AVAILABLE) == 0);
-    for (const auto& state : states) {
-        writer.WriteFlag(state.name, (fwPort & state.bit) != 0);
+    WriteScope scope;
+    const std::wstring device = kDeviceRoot + config.GetExeDllMother(1, nullptr).Std();
+    const auto write = [&](Session::Key key, LPCWSTR lpszValue, bool bSet) {
+        scope->Set(key, lpszValue, DwordBytes(bSet ? 1 : 0).View());
+    };
+    write(scope->Open(device + array.gateKey), array.gate,
+          std::any_of(array.ports.begin(), array.ports.end(),
+                      [&](const siu::Port& port) { return port.IsSaved() && ports[port.index] != 0; }));
+    for (const auto& port : array.ports) {
+        if (!port.IsSaved()) {
+            continue;
+        }
+        const auto key = scope->Open(device + L"\\CAPABILITIES\\" + array.name + L'\\' + port.name);
+        for (unsigned place = 1; place <= port.form.states.size(); ++place) {
+            for (const auto& state : port.form.states) {
+                if (state.written == place) {
+                    const bool bBit = (ports[port.index] & state.bit) != 0;
+                    write(key, state.name, state.name == siu::kNotAvailable ? !bBit : bBit);
+                }
+            }
+        }
     }
 }
 
-void WriteAvailable(CapabilityWriter& writer, WORD fwPort)
-{
-    writer.WriteFlag(kAvailable, (fwPort & WFS_SIU_AVAILABLE) != 0);
-}
+// ---- ports whose events are enabled automatically ----
 
-bool AnySet(const WORD* ports, std::size_t count)
+// Calls `visit(kind, flags)` for each kind of port, as the names of the values have it.
+template <class Config, class F>
+void ForEachFlags(Config& config, F visit)
 {
-    return std::any_of(ports, ports + count, [](WORD port) { return port != 0; });
+    visit(L"Sensor", config.m_bySensorAutoEnable);
+    visit(L"Door", config.m_byDoorAutoEnable);
+    visit(L"Indicator", config.m_byIndicatorAutoEnable);
+    visit(L"Auxiliarie", config.m_byAuxiliaryAutoEnable);
+    visit(L"GuidLight", config.m_byGuidLightAutoEnable);
 }
 
 } // namespace
 
 const Table& CSIURegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSIURegInfo", &CRegInfo::Settings, L"SIU", kSettings};
+    static constexpr Setting kSettings[] = {
+        Group(kCapabilities),
+        Group(kEvents),
+        Step([](C& c, Loading& loading) { c.LoadEnableStatus(loading.Log()); }),
+        Group(kControls),
+    };
+    static constexpr const wchar_t* kSaved[] = {kKeyboardMapping.subkey, L"CanpostKeyEvent",
+                                                L"ThinkOfDevStatusWhenEnableEvents", kAutoEnable.subkey,
+                                                L"SetStatusNotAvailableWhenSetFail"};
+    static constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
+    static constexpr Table kTable{L"CSIURegInfo", &CRegInfo::Settings, L"SIU", kSettings, kSaveOrder};
     return kTable;
 }
 
 CSIURegInfo::CSIURegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(strName, bPhysicalName)
 {
-    Construct(*this, kSettings);
-    for (int nKey = 1; nKey <= 24; ++nKey) {
-        m_mapKeyboardMapping.SetAt(FormatString(L"%d", nKey).c_str(), L"");
+    Construct(*this, Settings().rows);
+    for (unsigned key = 1; key <= kAgentKeys; ++key) {
+        m_mapKeyboardMapping.SetAt(FormatString(L"%d", key).c_str(), L"");
     }
 }
 
 bool CSIURegInfo::Load(CLog* pLog)
 {
     Loading loading(*this, pLog);
-    bool bResult = CRegInfo::Load(pLog);
+    const bool bResult = CRegInfo::Load(pLog);
     GetSensorsCap(&m_stSiuCaps, pLog);
     GetDoorsCap(&m_stSiuCaps, pLog);
     GetIndicatorsCap(&m_stSiuCaps, pLog);
     GetAuxiliariesCap(&m_stSiuCaps, pLog);
     GetGuidlightsCap(&m_stSiuCaps, pLog);
-    if (!QueryValues(m_mapKeyboardMapping, kMappingFormat, kDriverRoot)) {
-        bResult = false;
-    }
-    m_dwCanpostKeyEvent = 0;
-    if (!QueryValue(m_dwCanpostKeyEvent, L"CanpostKeyEvent", kAgentFormat, kDriverRoot)) {
-        bResult = false;
-    }
-    loading.Read(Settings(), std::span<const Setting>{kAgentRow, 1});
-    CMapStringToString mapEnabled;
-    QueryValues(mapEnabled, kAutoEnableFormat, kDeviceRoot, GetExeDllMother(1, nullptr));
-    for (const auto& [strValueName, strData] : mapEnabled) {
-        if (ParseDecimal(strData.View()) != 0) {
-            LogInfo(pLog, L"[CFG] %40s : %s[%s]", strValueName, strData, kAutoEnableMeaning);
-            SetEnableStatus(strValueName, pLog);
-        }
-    }
-    loading.Read(Settings(), std::span<const Setting>{kFirstControl, std::end(kSettings)});
-    return bResult;
+    return loading.Read(Settings()) && bResult;
 }
 
 void CSIURegInfo::GetSensorsCap(_wfs_siu_caps* pCaps, CLog* pLog)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityReader reader(strDevice, L"fwSensors", pLog);
-    if (!reader.ReadGate(L"WFS_SIU_SENSORS", L"0 = no such capability, non-0 = capability present")) {
-        return;
-    }
-    for (std::size_t i = 0; i < std::size(siu::kSensorNames); ++i) {
-        if (siu::kSensorNames[i] == nullptr) {
-            continue;
-        }
-        reader.OpenPort(siu::kSensorNames[i]);
-        WORD& fwPort = pCaps->fwSensors[i];
-        if (reader.IsSet(kAvailable)) {
+    CapabilityReader reader(*this, siu::kSensors, pLog);
+    const auto read = [&](const siu::Port& port, WORD& fwPort) {
+        if (reader.IsSet(siu::kAvailable)) {
             fwPort = WFS_SIU_AVAILABLE;
         }
-        if (reader.IsSet(kNotAvailable)) {
+        if (reader.IsSet(siu::kNotAvailable)) {
             fwPort = 0;
-        } else if (i == WFS_SIU_OPERATORSWITCH) {
-            for (const auto& state : kSwitchStates) {
-                if (reader.IsSet(state.name)) {
-                    AddBit(fwPort, state.bit);
-                    reader.Print(state.name);
-                }
-            }
+        } else if (port.index == WFS_SIU_OPERATORSWITCH) {
+            reader.AddStates(fwPort, false);
         } else {
-            reader.Print(kAvailable);
+            reader.Print(siu::kAvailable);
         }
-    }
+    };
+    reader.Read(pCaps->fwSensors, read, L"0 = no such capability, non-0 = capability present");
 }
 
 void CSIURegInfo::GetDoorsCap(_wfs_siu_caps* pCaps, CLog* pLog)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityReader reader(strDevice, L"fwDoors", pLog);
-    if (!reader.ReadGate(L"WFS_SIU_DOORS")) {
-        return;
-    }
-    for (std::size_t i = 0; siu::kDoorNames[i] != nullptr; ++i) {
-        reader.OpenPort(siu::kDoorNames[i]);
-        WORD& fwPort = pCaps->fwDoors[i];
-        if (reader.IsSet(kNotAvailable)) {
+    CapabilityReader reader(*this, siu::kDoors, pLog);
+    reader.Read(pCaps->fwDoors, [&](const siu::Port&, WORD& fwPort) {
+        if (reader.IsSet(siu::kNotAvailable)) {
             fwPort = 0;
-            continue;
+        } else if (reader.Holder() == 0) {
+            // Where the value is missing, the one that was read last decides: the gate, for the first door.
+            reader.AddStates(fwPort, true);
         }
-        // Where the value is missing, the one that was read last decides: the gate, for the first door. Installed
-        // terminals rely on it.
-        if (reader.Holder() != 0) {
-            continue;
-        }
-        for (const auto& state : kDoorStates) {
-            if (reader.IsPresent(state.name)) {
-                if (reader.Holder() != 0) {
-                    AddBit(fwPort, state.bit);
-                }
-                reader.Print(state.name);
-            }
-        }
-    }
+    });
 }
 
 void CSIURegInfo::GetIndicatorsCap(_wfs_siu_caps* pCaps, CLog* pLog)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityReader reader(strDevice, L"fwIndicators", pLog);
-    if (!reader.ReadGate(L"WFS_SIU_INDICATORS")) {
-        return;
-    }
-    for (std::size_t i = 0; i < std::size(siu::kIndicatorNames); ++i) {
-        reader.OpenPort(siu::kIndicatorNames[i]);
-        WORD& fwPort = pCaps->fwIndicators[i];
-        const bool bPresent = reader.IsPresent(kAvailable);
-        if (i == siu::kRearScreen || i == siu::kFrontScreen) {
+    CapabilityReader reader(*this, siu::kIndicators, pLog);
+    reader.Read(pCaps->fwIndicators, [&](const siu::Port& port, WORD& fwPort) {
+        const bool bPresent = reader.IsPresent(siu::kAvailable);
+        if (port.form.states.front().standard != 0) { // there unless told otherwise
             fwPort = bPresent && reader.Holder() == 0 ? WFS_SIU_NOT_AVAILABLE : WFS_SIU_AVAILABLE;
         } else if (bPresent && reader.Holder() != 0) {
             fwPort = WFS_SIU_AVAILABLE;
         }
-        if (!std::wstring_view(siu::kIndicatorNames[i]).starts_with(L"INDICATOR_")) {
-            reader.Print(kAvailable, fwPort == WFS_SIU_AVAILABLE ? 1 : 0);
+        if (!std::wstring_view(port.name).starts_with(L"INDICATOR_")) {
+            reader.Print(siu::kAvailable, fwPort == WFS_SIU_AVAILABLE ? 1 : 0);
         }
-    }
+    });
 }
 
 void CSIURegInfo::GetAuxiliariesCap(_wfs_siu_caps* pCaps, CLog* pLog)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityReader reader(strDevice, L"fwAuxiliaries", pLog);
-    if (!reader.ReadGate(L"WFS_SIU_AUXILIARIES")) {
-        return;
-    }
-    for (std::size_t i = 0; siu::kAuxiliaryNames[i] != nullptr; ++i) {
-        reader.OpenPort(siu::kAuxiliaryNames[i]);
-        WORD& fwPort = pCaps->fwAuxiliaries[i];
-        if (reader.IsPresent(kAvailable)) {
+    CapabilityReader reader(*this, siu::kAuxiliaries, pLog);
+    reader.Read(pCaps->fwAuxiliaries, [&](const siu::Port& port, WORD& fwPort) {
+        if (reader.IsPresent(siu::kAvailable)) {
             if (reader.Holder() != 0) {
-                fwPort = i == WFS_SIU_VOLUME ? LOWORD(reader.Holder()) : WFS_SIU_AVAILABLE;
+                fwPort = port.index == WFS_SIU_VOLUME ? LOWORD(reader.Holder()) : WFS_SIU_AVAILABLE;
             }
-            reader.Print(kAvailable);
+            reader.Print(siu::kAvailable);
         }
-        if (reader.IsSet(kNotAvailable)) {
+        if (reader.IsSet(siu::kNotAvailable)) {
             fwPort = 0;
-        } else if (i == WFS_SIU_UPS) {
-            for (const auto& state : kUpsStates) {
-                if (reader.IsSet(state.name)) {
-                    AddBit(fwPort, state.bit);
-                    reader.Print(state.name);
-                }
-            }
+        } else {
+            reader.AddStates(fwPort, false);
         }
-    }
+    });
 }
 
 void CSIURegInfo::GetGuidlightsCap(_wfs_siu_caps* pCaps, CLog* pLog)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityReader reader(strDevice, L"fwGuidLights", pLog);
-    if (!reader.ReadGate(L"WFS_SIU_GUIDLIGHTS")) {
-        return;
-    }
-    for (std::size_t i = 0; siu::kGuidLightNames[i] != nullptr; ++i) {
-        reader.OpenPort(siu::kGuidLightNames[i]);
-        if (reader.IsSet(kAvailable)) {
-            pCaps->fwGuidLights[i] = WFS_SIU_AVAILABLE;
+    CapabilityReader reader(*this, siu::kGuidLights, pLog);
+    reader.Read(pCaps->fwGuidLights, [&](const siu::Port&, WORD& fwPort) {
+        if (reader.IsSet(siu::kAvailable)) {
+            fwPort = WFS_SIU_AVAILABLE;
         }
-        reader.Print(kAvailable);
+        reader.Print(siu::kAvailable);
+    });
+}
+
+void CSIURegInfo::LoadEnableStatus(CLog* pLog)
+{
+    for (const auto& [strValueName, strData] : m_mapAutoEnable) {
+        if (ParseDecimal(strData.View()) != 0) {
+            LogInfo(pLog, L"[CFG] %40s : %s[%s]", strValueName, strData,
+                    L"ports whose events are enabled automatically: 0 no; nonzero yes");
+            SetEnableStatus(strValueName, pLog);
+        }
     }
 }
 
@@ -518,22 +330,16 @@ void CSIURegInfo::SetEnableStatus(const CString& strValueName, CLog*)
     if (separator == std::wstring_view::npos || separator == 0 || separator + 1 == name.size()) {
         return;
     }
-    const auto kind = name.substr(0, separator);
     const auto digits = name.substr(separator + 1);
     const LONG index = ParseDecimal(digits);
     if (index < 0 || (index == 0 && digits.front() != L'0')) {
         return;
     }
-    const auto set = [&](std::wstring_view flagKind, auto& flags) {
-        if (kind == flagKind && static_cast<std::size_t>(index) < std::size(flags)) {
+    ForEachFlags(*this, [&](std::wstring_view kind, auto& flags) {
+        if (name.substr(0, separator) == kind && static_cast<std::size_t>(index) < std::size(flags)) {
             flags[index] = 1;
         }
-    };
-    set(L"Sensor", m_bySensorAutoEnable);
-    set(L"Door", m_byDoorAutoEnable);
-    set(L"Indicator", m_byIndicatorAutoEnable);
-    set(L"Auxiliarie", m_byAuxiliaryAutoEnable);
-    set(L"GuidLight", m_byGuidLightAutoEnable);
+    });
 }
 
 void CSIURegInfo::Save()
@@ -545,96 +351,45 @@ void CSIURegInfo::Save()
     SetIndicatorsCap(&m_stSiuCaps);
     SetAuxiliariesCap(&m_stSiuCaps);
     SetGuidlightsCap(&m_stSiuCaps);
-    SetValues(m_mapKeyboardMapping, kMappingFormat, kDriverRoot);
-    saving.Write({kAgentRow, 1});
-    saving.Write({kFirstControl, 1});
     SaveEnableStatus();
-    saving.Write({kLastControl, 1});
+    saving.Write(Settings());
 }
 
 void CSIURegInfo::SetSensorsCap(_wfs_siu_caps* pCaps)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityWriter writer(strDevice, L"fwSensors");
-    const auto& ports = pCaps->fwSensors;
-    writer.WriteGate(L"WFS_SIU_SENSORS", AnySet(ports, 8) || ports[WFS_SIU_HANDSETSENSOR] != 0, kGateFormat);
-    writer.OpenPort(siu::kSensorNames[WFS_SIU_OPERATORSWITCH]);
-    WriteStates(writer, ports[WFS_SIU_OPERATORSWITCH], kSavedSwitchStates);
-    for (const std::size_t i : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 11U}) {
-        writer.OpenPort(siu::kSensorNames[i]);
-        WriteAvailable(writer, ports[i]);
-    }
+    WriteCapabilities(*this, siu::kSensors, pCaps->fwSensors);
 }
 
 void CSIURegInfo::SetDoorsCap(_wfs_siu_caps* pCaps)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityWriter writer(strDevice, L"fwDoors");
-    const auto& ports = pCaps->fwDoors;
-    writer.WriteGate(L"WFS_SIU_DOORS", AnySet(ports, 3), kGateFormatWithBackslash);
-    for (const std::size_t i : {WFS_SIU_CABINET, WFS_SIU_SAFE}) {
-        writer.OpenPort(siu::kDoorNames[i]);
-        WriteStates(writer, ports[i], kSavedDoorStates);
-    }
-    writer.OpenPort(siu::kDoorNames[WFS_SIU_VANDALSHIELD]);
-    WriteStates(writer, ports[WFS_SIU_VANDALSHIELD], kSavedShieldStates);
+    WriteCapabilities(*this, siu::kDoors, pCaps->fwDoors);
 }
 
 void CSIURegInfo::SetIndicatorsCap(_wfs_siu_caps* pCaps)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityWriter writer(strDevice, L"fwIndicators");
-    const auto& ports = pCaps->fwIndicators;
-    writer.WriteGate(L"WFS_SIU_INDICATORS", AnySet(ports, 4), kGateFormatWithBackslash);
-    for (std::size_t i = 0; i < 4; ++i) {
-        writer.OpenPort(siu::kIndicatorNames[i]);
-        WriteAvailable(writer, ports[i]);
-    }
+    WriteCapabilities(*this, siu::kIndicators, pCaps->fwIndicators);
 }
 
 void CSIURegInfo::SetAuxiliariesCap(_wfs_siu_caps* pCaps)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityWriter writer(strDevice, L"fwAuxiliaries");
-    const auto& ports = pCaps->fwAuxiliaries;
-    writer.WriteGate(L"WFS_SIU_AUXILIARIES", AnySet(ports, 5), kGateFormatWithBackslash);
-    for (std::size_t i = 0; i < 5; ++i) {
-        writer.OpenPort(siu::kAuxiliaryNames[i]);
-        if (i == WFS_SIU_UPS) {
-            WriteStates(writer, ports[i], kUpsStates);
-        } else {
-            WriteAvailable(writer, ports[i]);
-        }
-    }
+    WriteCapabilities(*this, siu::kAuxiliaries, pCaps->fwAuxiliaries);
 }
 
 void CSIURegInfo::SetGuidlightsCap(_wfs_siu_caps* pCaps)
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    CapabilityWriter writer(strDevice, L"fwGuidLights");
-    const auto& ports = pCaps->fwGuidLights;
-    writer.WriteGate(L"WFS_SIU_GUIDLIGHTS", AnySet(ports, 13), kGateFormatWithBackslash);
-    for (std::size_t i = 0; i < 13; ++i) {
-        writer.OpenPort(siu::kGuidLightNames[i]);
-        WriteAvailable(writer, ports[i]);
-    }
+    WriteCapabilities(*this, siu::kGuidLights, pCaps->fwGuidLights);
 }
 
 void CSIURegInfo::SaveEnableStatus()
 {
-    const CString strDevice = GetExeDllMother(1, nullptr);
-    const auto save = [&](LPCWSTR lpszFormat, const auto& flags) {
+    m_mapAutoEnable.RemoveAll();
+    ForEachFlags(*this, [&](LPCWSTR lpszKind, const auto& flags) {
         for (unsigned i = 0; i < std::size(flags); ++i) {
             if (flags[i] != 0) {
-                SetValue(L"1", FormatString(lpszFormat, i), kAutoEnableFormat, kDeviceRoot, strDevice);
+                m_mapAutoEnable.SetAt(FormatString(L"%s_%d", lpszKind, i).c_str(), L"1");
             }
         }
-    };
-    save(L"Sensor_%d", m_bySensorAutoEnable);
-    save(L"Door_%d", m_byDoorAutoEnable);
-    save(L"Indicator_%d", m_byIndicatorAutoEnable);
-    save(L"Auxiliarie_%d", m_byAuxiliaryAutoEnable);
-    save(L"GuidLight_%d", m_byGuidLightAutoEnable);
+    });
 }
 
 WQSPCFG_CATALOGUE_ENTRY(CSIURegInfo)

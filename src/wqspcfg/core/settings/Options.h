@@ -81,6 +81,7 @@ enum class Flags : std::uint32_t
     Computed = 1U << 9,        // made by the class, and never in the registry
     SubkeyNames = 1U << 10,    // a whole key: its subkeys' names are entries too, with an empty text
     DefaultByClass = 1U << 11, // the class makes the default of a missing value
+    Needed = 1U << 12,         // where it is missing, Load goes on and returns false
 };
 template <Flags Flag>
 struct FlagOption
@@ -97,6 +98,7 @@ inline constexpr FlagOption<Flags::OneOf> OneOf{};
 inline constexpr FlagOption<Flags::Computed> Computed{};
 inline constexpr FlagOption<Flags::SubkeyNames> SubkeyNames{};
 inline constexpr FlagOption<Flags::DefaultByClass> DefaultByClass{};
+inline constexpr FlagOption<Flags::Needed> Needed{};
 
 template <auto Which, class T>
 struct TextOption
@@ -227,13 +229,14 @@ enum class Hook : std::uint8_t
 {
     Normalize,
     LogAs,
-    LoadedBy
+    LoadedBy,
+    SavedIf
 };
 template <Hook Which, class F>
 struct HookOption
 {};
 // A correction after reading, before the line: DWORD(Owner&, DWORD value, bool found) for numbers and flags,
-// void(Owner&, CString& value, bool found) for strings.
+// void(Owner&, CString& value, bool found) for strings; within Repeat either may take the iteration as a last argument.
 template <class F>
 constexpr HookOption<Hook::Normalize, F> Normalize(F)
 {
@@ -248,6 +251,12 @@ constexpr HookOption<Hook::LogAs, F> LogAs(F)
 // Code that loads the setting in place of the row's query: void(Owner&, Loading&).
 template <class F>
 constexpr HookOption<Hook::LoadedBy, F> LoadedBy(F)
+{
+    return {};
+}
+// Asked by Save before it takes the member: bool(Owner&, unsigned iteration). False: the setting is not written.
+template <class F>
+constexpr HookOption<Hook::SavedIf, F> SavedIf(F)
 {
     return {};
 }

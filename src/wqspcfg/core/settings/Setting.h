@@ -96,6 +96,19 @@ inline constexpr auto Part = [](typename OwnerOfMember<decltype(Member)>::type& 
     return (object.*Member).*(Field, ...);
 };
 
+// The same for a member of a part, a struct that class C has as a base: Of<C>(&C::m_dwTimeOut), and
+// ElementOf<C, &C::m_arMonitor, &MonitorArea::m_dwLeft>.
+template <class C, class T, class Base>
+constexpr T C::*Of(T Base::*member)
+{
+    return member;
+}
+template <class C, auto Array, auto... Field>
+inline constexpr auto ElementOf = [](C& object, unsigned iteration) -> auto&
+{
+    return Element<Array, Field...>(object, iteration);
+};
+
 struct Setting
 {
     Kind kind = Kind::Value;
@@ -135,11 +148,12 @@ struct Setting
     DWORD low = 0;
     DWORD high = 0;
 
-    DWORD (*normalize)(CRegKeyEx& object, DWORD value, bool found) = nullptr;
-    void (*normalizeText)(CRegKeyEx& object, CString& value, bool found) = nullptr;
+    DWORD (*normalize)(CRegKeyEx& object, DWORD value, bool found, unsigned iteration) = nullptr;
+    void (*normalizeText)(CRegKeyEx& object, CString& value, bool found, unsigned iteration) = nullptr;
     DWORD (*logAs)(CRegKeyEx& object, DWORD value) = nullptr;
     bool (*step)(CRegKeyEx& object, Loading& loading) = nullptr; // a step, or what loads the value
     bool (*condition)(CRegKeyEx& object) = nullptr;
+    bool (*savedIf)(CRegKeyEx& object, unsigned iteration) = nullptr;
 
     // A whole key.
     void (*clear)(void* map) = nullptr;
@@ -275,14 +289,29 @@ struct Setting
     constexpr void Apply(HookOption<Hook::Normalize, F>)
     {
         if constexpr (std::is_void_v<typename Signature<F>::Result>) {
-            normalizeText = [](CRegKeyEx& object, CString& value, bool found) {
-                F{}(OwnerOf<F>(object), value, found);
+            normalizeText = [](CRegKeyEx& object, CString& value, bool found, unsigned iteration) {
+                Normalized<F>(object, value, found, iteration);
             };
         } else {
-            normalize = [](CRegKeyEx& object, DWORD value, bool found) -> DWORD {
-                return F{}(OwnerOf<F>(object), value, found);
+            normalize = [](CRegKeyEx& object, DWORD value, bool found, unsigned iteration) -> DWORD {
+                return Normalized<F>(object, value, found, iteration);
             };
         }
+    }
+    template <class F, class T>
+    static auto Normalized(CRegKeyEx& object, T& value, bool found, unsigned iteration)
+    {
+        auto& owner = OwnerOf<F>(object);
+        if constexpr (std::is_invocable_v<F, decltype(owner), T&, bool, unsigned>) {
+            return F{}(owner, value, found, iteration);
+        } else {
+            return F{}(owner, value, found);
+        }
+    }
+    template <class F>
+    constexpr void Apply(HookOption<Hook::SavedIf, F>)
+    {
+        savedIf = [](CRegKeyEx& object, unsigned iteration) { return F{}(OwnerOf<F>(object), iteration); };
     }
     template <class F>
     constexpr void Apply(HookOption<Hook::LogAs, F>)

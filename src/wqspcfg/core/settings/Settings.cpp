@@ -158,17 +158,17 @@ bool IsWritten(const Setting& row)
     return row.saved && row.bound && !row.Has(Flags::Documented);
 }
 
-void Correct(const Setting& row, CRegKeyEx& object, DWORD& value, bool found)
+void Correct(const Setting& row, CRegKeyEx& object, DWORD& value, bool found, unsigned index)
 {
     if (row.normalize != nullptr) {
-        value = row.normalize(object, value, found);
+        value = row.normalize(object, value, found, index);
     }
 }
 
-void Correct(const Setting& row, CRegKeyEx& object, CString& value, bool found)
+void Correct(const Setting& row, CRegKeyEx& object, CString& value, bool found, unsigned index)
 {
     if (row.normalizeText != nullptr) {
-        row.normalizeText(object, value, found);
+        row.normalizeText(object, value, found, index);
     }
     if (row.type == Type::Char) {
         value = value.Left(1);
@@ -350,13 +350,14 @@ bool Loading::Read(const Table& table, std::span<const Setting> rows)
 {
     m_table = &table;
     const auto enter = [this](const Setting& group) { return group.condition == nullptr || group.condition(m_object); };
-    return Walk(rows, nullptr, enter, [this](const Setting& row, const Iteration* iteration) {
+    const bool ended = !Walk(rows, nullptr, enter, [this](const Setting& row, const Iteration* iteration) {
         if (row.kind == Kind::Step) {
             return row.step(m_object, *this);
         }
         ReadRow(row, iteration);
         return true;
     });
+    return !ended && m_complete;
 }
 
 bool Loading::Read(std::span<const Setting> rows)
@@ -408,6 +409,7 @@ void Loading::ReadValue(const Setting& row, const Iteration* iteration)
         if (!found && row.requiredLine != 0) {
             m_lines.PrintMissing(m_table->className, row, iteration);
         }
+        m_complete = m_complete && (found || !row.Has(Flags::Needed));
     }
     const bool remember = IsWritten(row) && GetSavePolicy() == SavePolicy::OwnChanges;
     T read{};
@@ -415,7 +417,7 @@ void Loading::ReadValue(const Setting& row, const Iteration* iteration)
         read = value;
     }
     if (!given) {
-        Correct(row, m_object, value, found);
+        Correct(row, m_object, value, found, index);
     }
     if constexpr (kNumber) {
         loaded.read = read;
@@ -498,6 +500,7 @@ void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
     const bool found =
         row.bound ? row.query(map, path.c_str()) != 0 : CRegKeyEx::QueryValues(unbound, L"%s", path) != 0;
     if (!found) {
+        m_complete = m_complete && !row.Has(Flags::Needed);
         for (const auto& entry : row.entries) {
             static_cast<Texts*>(map)->SetAt(entry.name, entry.text);
         }
@@ -652,6 +655,9 @@ void Saving::Write(std::span<const Setting* const> rows)
 void Saving::WriteRow(const Setting& row, const Iteration* iteration)
 {
     const auto index = IndexOf(iteration);
+    if (row.savedIf != nullptr && !row.savedIf(m_object, index)) {
+        return;
+    }
     if (row.kind == Kind::WholeKey) {
         WriteWholeKey(row, index, m_keys.PathOf(row.key, iteration));
         return;
@@ -765,7 +771,7 @@ void WriteChanged(CRegKeyEx& record, const Setting& row, KeyReader& reader, KeyW
 {
     T stored = FromValue<T>(row, row.defaultValue, 0);
     const bool found = reader.Query(row.name, stored);
-    Correct(row, record, stored, found);
+    Correct(row, record, stored, found, 0);
     if (const T held = HeldOf<T>(row, record, 0); held != stored) {
         writer.Set(row.name, held);
     }

@@ -90,7 +90,7 @@ class WQSPCFG_API Loading
     Loading(const Loading&) = delete;
     Loading& operator=(const Loading&) = delete;
 
-    // Reads and logs the settings in order. False when a step ended it.
+    // Reads and logs the settings in order. False when a step ended it, and when a needed setting was missing.
     bool Read(const Table& table) { return Read(table, table.rows); }
     // Some of the table's rows.
     bool Read(const Table& table, std::span<const Setting> rows);
@@ -139,6 +139,7 @@ class WQSPCFG_API Loading
     Loading* m_outer;
     HKEY m_recordKey = nullptr;
     std::optional<KeyReader> m_record; // of a record
+    bool m_complete = true; // no needed setting was missing
 };
 
 // One Save: everything written within it becomes durable together, or nothing does. An object without a device key (a

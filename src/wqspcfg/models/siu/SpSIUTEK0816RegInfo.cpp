@@ -7,7 +7,6 @@
 #include "wqspcfg/platform/text/CaseFold.h"
 
 #include <algorithm>
-#include <span>
 #include <string_view>
 
 using namespace wqspcfg;
@@ -25,14 +24,14 @@ constexpr Key kControl = key::Below(L"control\\");
 
 // clang-format off
 constexpr Setting kLightRows[] = {
-    {kLightKey, L"Light%d",        Element<&C::m_arLight, &tagTEK0816Port::dwIndex>,   -1, L"index of the XFS port that this light stands for, where its type does not tell it: -1 not used", Saved},
-    {kLightKey, L"Light%d_Pol",    Element<&C::m_arLight, &tagTEK0816Port::dwPol>,     0, meaning::kLightPolarity, Saved},
-    {kLightKey, L"Light%d_ToType", Element<&C::m_arLight, &tagTEK0816Port::strToType>, L"LIGHT", L"XFS port, or kind of XFS port, that this light stands for", Saved},
+    {kLightKey, L"Light%d",        Element<&C::m_arLight, &TEK0816Port::dwIndex>,   -1, L"index of the XFS port that this light stands for, where its type does not tell it: -1 not used", Saved},
+    {kLightKey, L"Light%d_Pol",    Element<&C::m_arLight, &TEK0816Port::dwPol>,     0, meaning::kLightPolarity, Saved},
+    {kLightKey, L"Light%d_ToType", Element<&C::m_arLight, &TEK0816Port::strToType>, L"LIGHT", L"XFS port, or kind of XFS port, that this light stands for", Saved},
 };
 constexpr Setting kSwitchRows[] = {
-    {kSwitchKey, L"Switch%d",        Element<&C::m_arSwitch, &tagTEK0816Port::dwIndex>,   -1, L"index of the XFS port that this switch stands for, where its type does not tell it: -1 not used", Saved},
-    {kSwitchKey, L"Switch%d_Pol",    Element<&C::m_arSwitch, &tagTEK0816Port::dwPol>,     0, meaning::kSwitchPolarity, Saved},
-    {kSwitchKey, L"Switch%d_ToType", Element<&C::m_arSwitch, &tagTEK0816Port::strToType>, L"Door", L"XFS port, or kind of XFS port, that this switch stands for", Saved},
+    {kSwitchKey, L"Switch%d",        Element<&C::m_arSwitch, &TEK0816Port::dwIndex>,   -1, L"index of the XFS port that this switch stands for, where its type does not tell it: -1 not used", Saved},
+    {kSwitchKey, L"Switch%d_Pol",    Element<&C::m_arSwitch, &TEK0816Port::dwPol>,     0, meaning::kSwitchPolarity, Saved},
+    {kSwitchKey, L"Switch%d_ToType", Element<&C::m_arSwitch, &TEK0816Port::strToType>, L"Door", L"XFS port, or kind of XFS port, that this switch stands for", Saved},
 };
 
 constexpr Setting kSettings[] = {
@@ -74,16 +73,16 @@ constexpr Setting kSettings[] = {
 
 struct PortKind
 {
-    tagXFSPort::Kind kind;
+    XFSPort::Kind kind;
     std::wstring_view names[2];
-    std::span<const wchar_t* const> ports;
+    const siu::PortArray& array;
 };
 constexpr PortKind kPortKinds[] = {
-    {tagXFSPort::Kind::GuidLight, {L"LIGHT", L"GUIDLIGHT"}, siu::kGuidLightNames},
-    {tagXFSPort::Kind::Door, {L"DOOR", L"DOOR"}, siu::kDoorNames},
-    {tagXFSPort::Kind::Sensor, {L"SENSOR", L"SENSOR"}, siu::kSensorNames},
-    {tagXFSPort::Kind::Indicator, {L"INDICATOR", L"INDICATOR"}, siu::kIndicatorNames},
-    {tagXFSPort::Kind::Auxiliary, {L"AUXILIARY", L"AUXILIARIE"}, siu::kAuxiliaryNames},
+    {XFSPort::Kind::GuidLight, {L"LIGHT", L"GUIDLIGHT"}, siu::kGuidLights},
+    {XFSPort::Kind::Door, {L"DOOR", L"DOOR"}, siu::kDoors},
+    {XFSPort::Kind::Sensor, {L"SENSOR", L"SENSOR"}, siu::kSensors},
+    {XFSPort::Kind::Indicator, {L"INDICATOR", L"INDICATOR"}, siu::kIndicators},
+    {XFSPort::Kind::Auxiliary, {L"AUXILIARY", L"AUXILIARIE"}, siu::kAuxiliaries},
 };
 
 // The text must be a decimal number below `limit`.
@@ -135,7 +134,7 @@ void CSpSIUTEK0816RegInfo::Save()
     saving.Write(Settings());
 }
 
-tagXFSPort CSpSIUTEK0816RegInfo::ResolveXFSInd(const CString& strType, DWORD dwIndex)
+XFSPort CSpSIUTEK0816RegInfo::ResolveXFSInd(const CString& strType, DWORD dwIndex)
 {
     if (dwIndex == kNotUsed) {
         return {};
@@ -143,9 +142,9 @@ tagXFSPort CSpSIUTEK0816RegInfo::ResolveXFSInd(const CString& strType, DWORD dwI
     CString strTrimmed = strType;
     const std::wstring_view type = strTrimmed.Trim().View();
     for (const auto& kind : kPortKinds) {
-        for (std::size_t i = 0; i < kind.ports.size(); ++i) {
-            if (kind.ports[i] != nullptr && EqualNoCase(type, kind.ports[i])) {
-                return {kind.kind, LOWORD(i)};
+        for (const auto& port : kind.array.ports) {
+            if (EqualNoCase(type, port.name)) {
+                return {kind.kind, static_cast<WORD>(port.index)};
             }
         }
     }
@@ -156,8 +155,8 @@ tagXFSPort CSpSIUTEK0816RegInfo::ResolveXFSInd(const CString& strType, DWORD dwI
             }
             const auto rest = type.substr(name.size());
             DWORD dwFound = dwIndex;
-            if (rest.empty() ? dwIndex < kind.ports.size()
-                             : rest.front() == L'_' && ToIndex(rest.substr(1), kind.ports.size(), dwFound)) {
+            if (rest.empty() ? dwIndex < kind.array.size
+                             : rest.front() == L'_' && ToIndex(rest.substr(1), kind.array.size, dwFound)) {
                 return {kind.kind, LOWORD(dwFound)};
             }
         }

@@ -2,8 +2,10 @@
 
 #include "wqspcfg/classes/SIURegInfo.h"
 
+namespace wqspcfg {
+
 // A port of the XFS interface.
-struct tagXFSPort
+struct XFSPort
 {
     enum class Kind : BYTE
     {
@@ -19,13 +21,15 @@ struct tagXFSPort
 };
 
 // A light or a switch of the TEK0816 board, and the XFS port that Load has resolved for it.
-struct tagTEK0816Port
+struct TEK0816Port
 {
-    DWORD dwIndex;
-    DWORD dwPol;
+    DWORD dwIndex{};
+    DWORD dwPol{};
     CString strToType;
-    tagXFSPort port;
+    XFSPort port;
 };
+
+} // namespace wqspcfg
 
 // The TEK0816 controller board, with an anti-skimming unit, a UPS, and a second serial controller for the screens.
 //
@@ -63,8 +67,8 @@ class WQSPCFG_API CSpSIUTEK0816RegInfo : public CSIURegInfo
     DWORD m_dwBlindAlarmTime; // seconds
     DWORD m_dwCoverAlarmTime; // seconds
     DWORD m_dwAutoCancel;
-    tagTEK0816Port m_arLight[kLights];    // light n at n - 1
-    tagTEK0816Port m_arSwitch[kSwitches]; // switch n at n - 1
+    wqspcfg::TEK0816Port m_arLight[kLights];    // light n at n - 1
+    wqspcfg::TEK0816Port m_arSwitch[kSwitches]; // switch n at n - 1
     bool m_bUseSBUPS;
     DWORD m_dwSBDevType;
     DWORD m_dwUPSBaudRate;
@@ -83,5 +87,5 @@ class WQSPCFG_API CSpSIUTEK0816RegInfo : public CSIURegInfo
     DWORD m_dwDecorateDoorRelateCabinet;
 
   private:
-    static tagXFSPort ResolveXFSInd(const CString& strType, DWORD dwIndex);
+    static wqspcfg::XFSPort ResolveXFSInd(const CString& strType, DWORD dwIndex);
 };
