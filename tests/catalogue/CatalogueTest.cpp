@@ -186,7 +186,7 @@ TEST_F(CatalogueTest, EverySavedValueSurvivesLoadAndSave)
         EXPECT_FALSE(LastStoreError()) << LastStoreError().message;
         for (const auto& each : settings) {
             const auto& setting = each.setting;
-            if (!setting.saved || !IsHeld(setting) || !Saves(*entry, *each.table)) {
+            if (!setting.saved || !IsHeld(setting) || setting.row->savedIf != nullptr || !Saves(*entry, *each.table)) {
                 continue;
             }
             const auto path = PathOfSetting(setting);

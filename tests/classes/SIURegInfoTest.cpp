@@ -1,6 +1,7 @@
 #include "wqspcfg/classes/SIURegInfo.h"
 
 #include "support/ConfigTest.h"
+#include "wqspcfg/core/settings/Reference.h"
 
 #include <algorithm>
 #include <numeric>
@@ -208,6 +209,29 @@ TEST_F(SIURegInfoTest, AutoEnableTakesWellFormedNamesAndNeverClearsAFlag)
     EXPECT_EQ(Text(key, L"Sensor_0"), L"1");
     EXPECT_EQ(Text(key, L"Door_5"), std::nullopt); // nothing is written for a cleared flag
     EXPECT_EQ(Text(key, L"Door_05"), L"1");        // and nothing removed
+}
+
+TEST_F(SIURegInfoTest, TheReferenceHasThePortsInTheOrderOfReading)
+{
+    for (const auto* gate : {L"SENSORS", L"INDICATORS", L"AUXILIARIES", L"GUIDLIGHTS"}) {
+        Gate((std::wstring(L"WFS_SIU_") + gate).c_str());
+    }
+    std::vector<std::wstring> documented;
+    for (const auto& setting : wqspcfg::Describe(CSIURegInfo::Settings())) {
+        if (setting.name == kAvailable) {
+            Set(Device(setting.key), kAvailable, 1);
+            documented.push_back(Device(setting.key) + L"|" + kAvailable);
+        }
+    }
+    ClearRecord();
+    m_config.Load(nullptr);
+    std::vector<std::wstring> read;
+    for (const auto& each : Reads()) {
+        if (each.ends_with(kAvailable) && !each.ends_with(kNotAvailable)) {
+            read.push_back(each);
+        }
+    }
+    EXPECT_EQ(read, documented);
 }
 
 TEST_F(SIURegInfoTest, WindowNamesAreSplitWithoutBlanksAndTheLineShowsThemAsTheyAre)

@@ -26,10 +26,11 @@ TEST_F(CameraModelsTest, TheClassBaseReadsAndSavesInItsOrders)
     config.Save();
     const auto control = Device(L"Control") + L"|";
     const auto camera = Device(L"Camera") + L"|";
-    EXPECT_EQ(Writes(), (Strings{Device(L"Policy") + L"|IsDeleteSensetiveInfo", control + L"ApID", camera + L"PosX",
-                                 camera + L"PosY", camera + L"PosW", camera + L"PosH", control + L"CheckDisplayHwnd",
-                                 control + L"CheckPicPath", control + L"FirstCheckCameraST", control + L"NoCheckCamPar",
-                                 control + L"HaveOutWhenTakePic"}));
+    // IsDeleteSensetiveInfo, which every service provider has, is not among them.
+    EXPECT_EQ(Writes(),
+              (Strings{control + L"ApID", camera + L"PosX", camera + L"PosY", camera + L"PosW", camera + L"PosH",
+                       control + L"CheckDisplayHwnd", control + L"CheckPicPath", control + L"FirstCheckCameraST",
+                       control + L"NoCheckCamPar", control + L"HaveOutWhenTakePic"}));
     EXPECT_EQ(Number(Device(L"Control"), L"CheckDisplayHwnd"), 1U);
 }
 

@@ -77,6 +77,38 @@ TEST_F(SpSIURegInfoTest, CABCTakesLightFiveForACashModuleWithALight)
     }
 }
 
+TEST_F(SpSIURegInfoTest, CABCLeavesTheTextsOfLightsThatNobodyMapsAnew)
+{
+    const auto control = Device(L"Control");
+    const auto light = [](int number) { return L"XFSIndesOfLight_" + std::to_wstring(number); };
+    Set(control, light(6), L"3;9");
+    Set(control, light(7), L"70000");
+    Set(control, light(8), 5U);
+    Set(control, light(9), L"1,2");
+    {
+        CSpSIUCABCRegInfo config(L"Svc", false);
+        config.Save(); // without a Load
+    }
+    CSpSIUCABCRegInfo config(L"Svc", false);
+    config.Load(nullptr);
+    config.Save();
+    EXPECT_EQ(Text(control, light(6)), L"3;9");
+    EXPECT_EQ(Text(control, light(7)), L"70000");
+    EXPECT_EQ(Number(control, light(8)), 5U);
+    EXPECT_EQ(Text(control, light(9)), L"1,2");
+    EXPECT_EQ(Text(control, light(10)), std::nullopt);
+
+    config.m_arLightMap.RemoveAll();
+    config.m_arLightMap.Add({6, 4});
+    config.m_arLightMap.Add({6, 5});
+    config.Save();
+    EXPECT_EQ(Text(control, light(6)), L"4,5");
+    EXPECT_EQ(Text(control, light(9)), L""); // no longer used
+    config.m_arLightMap.RemoveAll();
+    config.Save();
+    EXPECT_EQ(Text(control, light(6)), L"");
+}
+
 TEST_F(SpSIURegInfoTest, CABCKnowsTheTerminalTypesWithATamperSensor)
 {
     CSpSIUCABCRegInfo config(L"Svc", false);
@@ -115,6 +147,31 @@ TEST_F(SpSIURegInfoTest, JMBTReportsEveryMissingValueAndLoadsAllTheSame)
     EXPECT_EQ(errors[0].find(L"<SpSIUJMBTRegInfo("), 0U);
     EXPECT_TRUE(errors[0].ends_with(L" : CSpSIUJMBTRegInfo::Load> ReadRegedit Info Fail : Port")) << errors[0].size();
     EXPECT_TRUE(errors[7].ends_with(L"Fail : Light2"));
+}
+
+TEST_F(SpSIURegInfoTest, JMBTDoesNotSaveThePortThatAMissingPolarityMade)
+{
+    const auto index = Device(L"Switches\\Index");
+    const auto polarity = Device(L"Switches\\Polarity");
+    Set(index, L"Switch1", 3);
+    Set(index, L"Switch2", 4);
+    Set(polarity, L"Switch2_Pol", 1);
+    CSpSIUJMBTRegInfo config(L"Svc", false);
+    config.Load(nullptr);
+    config.m_dwSwitch[1] = 5;
+    config.Save();
+    EXPECT_EQ(Number(index, L"Switch1"), 3U);
+    EXPECT_EQ(Number(polarity, L"Switch1_Pol"), std::nullopt);
+    EXPECT_EQ(Number(index, L"Switch2"), 5U);
+
+    config.m_dwSwitch_Pol[0] = 1; // both together, or the next Load would lose the port again
+    config.m_dwSwitch[0] = 3;
+    config.Save();
+    config.m_dwSwitch[0] = 0;
+    config.m_dwSwitch_Pol[0] = 0;
+    config.Save();
+    EXPECT_EQ(Number(index, L"Switch1"), 0U);
+    EXPECT_EQ(Number(polarity, L"Switch1_Pol"), 0U);
 }
 
 TEST_F(SpSIURegInfoTest, PrdSIUNormalNamesTheSubkeyInItsLines)

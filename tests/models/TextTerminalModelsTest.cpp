@@ -1,5 +1,4 @@
 #include "support/ConfigTest.h"
-#include "wqspcfg/core/settings/Settings.h"
 #include "wqspcfg/models/ttu/SpTTUVirtualRegInfo.h"
 #include "wqspcfg/models/ttu/SpTtuExeRegInfo.h"
 
@@ -81,6 +80,8 @@ TEST_F(TextTerminalTest, TheMonitorIsOneOfTheTerminals)
         Set(Device(L"Screen"), L"Monitor", number);
         config.Load(nullptr);
         EXPECT_EQ(config.m_dwMonitor, 1U);
+        config.m_dwMonitor = number;
+        EXPECT_EQ(&config.Monitor(), &config.m_arMonitor[0]);
     }
 }
 
@@ -100,7 +101,6 @@ TEST_F(TextTerminalTest, TheVirtualTerminalAddsItsButtons)
     EXPECT_EQ(Commits(), 1U);
     EXPECT_EQ(Text(Device(L"FDK\\FDK4"), L"Text"), L"Cancel");
     EXPECT_EQ(Text(Device(L"LED\\LED5"), L"Colours"), L"RGB(0, 0, 255)-2048");
-    EXPECT_EQ(CSpTTUVirtualRegInfo::Settings().rows.size(), CSpTtuExeRegInfo::Settings().rows.size() + 1);
 }
 
 } // namespace

@@ -12,5 +12,5 @@ class WQSPCFG_API CCHKRegInfo : public CRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    bool m_bSendMediaInsertedEvent;
+    bool m_bSendMediaInsertedEvent{};
 };

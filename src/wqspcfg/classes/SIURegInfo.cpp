@@ -50,12 +50,12 @@ constexpr Setting kCapabilities[] = {
      L"the auxiliaries are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
     Group(siu::kPortRows<siu::kAuxiliaries>),
     {key::Capabilities, L"WFS_SIU_GUIDLIGHTS", DwordValue, 0,
-     L"the guidance lights are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
+    L"the guidance lights are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
     Group(siu::kPortRows<siu::kGuidLights>),
 };
 constexpr Setting kEvents[] = {
     {kKeyboardMapping, L"%s", Map<&C::m_mapKeyboardMapping>, L"",
-     L"what this key of the keyboard is mapped to, by the number of the key", NotLogged, KeepWhenMissing, Needed, Saved},
+    L"what this key of the keyboard is mapped to, by the number of the key", NotLogged, KeepWhenMissing, Needed, Saved},
     {kAgent, L"CanpostKeyEvent", &C::m_dwCanpostKeyEvent, 0,
      L"PC key presses are simulated: 0 no; nonzero yes", Needed, Saved},
     {kAutoEnable, L"%s", Map<&C::m_mapAutoEnable>, L"",
@@ -64,8 +64,8 @@ constexpr Setting kEvents[] = {
 };
 constexpr Setting kControls[] = {
     {key::Control, L"ThinkOfDevStatusWhenEnableEvents", &C::m_dwThinkOfDevStatusWhenEnableEvents, 0,
-     L"WFS_CMD_SIU_ENABLE_EVENTS: 0 does not look at the device status; 1 does, and with a faulty device it succeeds and "
-     L"reports a WFS_EXEE_SIU_PORT_ERROR event", Saved, OneOf},
+    L"WFS_CMD_SIU_ENABLE_EVENTS: 0 does not look at the device status; 1 does, and with a faulty device it succeeds "
+     L"and reports a WFS_EXEE_SIU_PORT_ERROR event", Saved, OneOf},
     {kControl, L"HandsetSendEveWindowNames", StringValue, L"",
      L"names of the windows to which a window event is sent when the shielding of the handset's 24 V supply changes, "
      L"separated by commas", Format(L"[%s]"), kSplitWindowNames},
@@ -89,8 +89,8 @@ class CapabilityReader
 {
   public:
     CapabilityReader(const CSIURegInfo& config, const siu::PortArray& array, CLog* pLog)
-        : m_array(array),
-          m_path(FormatString(L"%s%s\\CAPABILITIES", kDeviceRoot, config.GetExeDllMother(1, nullptr))), m_log(pLog)
+        : m_array(array), m_path(FormatString(L"%s%s\\CAPABILITIES", kDeviceRoot, config.GetExeDllMother(1, nullptr))),
+          m_log(pLog)
     {}
 
     // Calls `read(const siu::Port&, WORD& fwPort)` for each port, unless the gate is missing or 0.

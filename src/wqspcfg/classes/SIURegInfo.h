@@ -11,8 +11,8 @@
 // What Save writes of the capabilities is less than what Load reads:
 // - the call button, the indicators from 4 on and the guidance lights from 13 on are never written;
 // - of the operator switch and the UPS, WFS_SIU_AVAILABLE is not, and of all other sensors and auxiliaries
-//   WFS_SIU_NOT_AVAILABLE is not; the cabinet and the safe lose their keyboard and service states, the vandal shield its
-//   bolted state;
+//   WFS_SIU_NOT_AVAILABLE is not; the cabinet and the safe lose their keyboard and service states, the vandal shield
+//   its bolted state;
 // - the volume steps are written as their lowest bit.
 // So what is loaded next may differ: a UPS 0x1F without WFS_SIU_AVAILABLE in the registry comes back as 0x1E, and the
 // next Save writes it as not available.

@@ -1,6 +1,5 @@
 #include "wqspcfg/classes/TTURegInfo.h"
 
-#include "wqspcfg/core/RegistryRoots.h"
 #include "wqspcfg/core/settings/Settings.h"
 
 #include <algorithm>
@@ -11,8 +10,6 @@ using namespace wqspcfg;
 using C = CTTURegInfo;
 
 namespace {
-
-constexpr wchar_t kMappingFormat[] = L"%s%s\\KeyboardInfo\\KeyboardMapping\\";
 
 // Reads a number as scanf's %d does, and moves on behind it. False where there is none.
 bool TakeNumber(const wchar_t*& text, int& value)
@@ -42,71 +39,50 @@ void ParseBasePoint(C& c, CString& strPoint)
     }
 }
 
-void LoadKeyboardMapping(C& c)
-{
-    const CString strDevice = c.GetExeDllMother(1, nullptr);
-    CStringArray arNames;
-    C::EnumSubKeyName(arNames, kMappingFormat, kDeviceRoot, strDevice);
-    for (const auto& strName : arNames) {
-        c.m_mapKeyboardMapping.SetAt(strName, CString());
-    }
-    C::QueryValues(c.m_mapKeyboardMapping, kMappingFormat, kDeviceRoot, strDevice);
-}
-
 constexpr Key kCommon = key::Below(L"Common");
 constexpr Key kForm = key::Below(L"Form");
 constexpr Key kScreen = key::Below(L"Screen");
 constexpr Key kKeyboard = key::Below(L"KeyboardInfo");
+constexpr Key kMapping = key::Below(L"KeyboardInfo\\KeyboardMapping\\");
 constexpr Key kLed = key::Below(L"LED");
+
+constexpr auto kParseBasePoint = Normalize([](C& c, CString& strPoint, bool) { ParseBasePoint(c, strPoint); });
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {kCommon,   L"DefaultCodec",         &C::m_dwDefaultCodec,        0,      L"encoding used by default: 0 none; 1 ASCII; 2 UNICODE", OneOf},
-    {kForm,     L"FormsDirectory",       &C::m_strFormsDirectory,     L"",    L"directory of the form files", Saved, KeepWhenMissing},
-    {kForm,     L"FormsExtension",       &C::m_strFormsExtension,     L"",    L"file extension of the form files", Saved, KeepWhenMissing},
-    {kScreen,   L"BasePoint",            &C::m_strBasePoint,          L"0,0", L"coordinate base point of the screen, x and y separated by a comma, each 0 or 1", Saved, KeepWhenMissing, Normalize([](C& c, CString& s, bool) { ParseBasePoint(c, s); })},
-    {kKeyboard, L"IsCKOnlyAllowed",      &C::m_bIsCKOnlyAllowed,      0,      L"activating only function keys is allowed: 0 no; nonzero yes", Saved, Label(L"CKOnlyAllowed"), LogHeld},
-    {kKeyboard, L"ClearWhenUserCancel",  &C::m_bClearWhenUserCancel,  0,      L"Cancel clears the buffer of the read command and the display: 0 no; nonzero yes", Saved, LogHeld},
-    {kKeyboard, L"AutoMultiZero",        &C::m_bAutoMultiZero,        0,      L"activating \"0\" also activates \"00\" and \"000\": 0 no; nonzero yes"},
-    {kKeyboard, L"DropTailingMultiZero", &C::m_bDropTailingMultiZero, 0,      L"\"00\" and \"000\" are dropped when the remaining input space is too short: 0 no; nonzero yes"},
-    {kKeyboard, L"Need2HandleMultiZero", &C::m_bNeed2HandleMultiZero, 0,      L"\"00\" and \"000\" are converted into single \"0\" keys: 0 no; nonzero yes"},
-    {kKeyboard, L"KeyToneOn",            &C::m_bKeyToneOn,            0,      L"the device sounds its own key tone: 0 no; nonzero yes"},
-    Step([](C& c, Loading&) { LoadKeyboardMapping(c); }),
-    {kForm, L"IsUseInitialValue", &C::m_bIsUseInitialValue, 0, L"forms are written with their initial values: 0 no; nonzero yes"},
+    {kCommon, L"DefaultCodec", &C::m_dwDefaultCodec, 0,
+     L"encoding used by default: 0 none; 1 ASCII; 2 UNICODE", OneOf},
+    {kForm, L"FormsDirectory", &C::m_strFormsDirectory, L"",
+     L"directory of the form files", Saved, KeepWhenMissing, RefersTo(Reference::Directory)},
+    {kForm, L"FormsExtension", &C::m_strFormsExtension, L"",
+     L"file extension of the form files", Saved, KeepWhenMissing},
+    {kScreen, L"BasePoint", &C::m_strBasePoint, L"0,0",
+     L"coordinate base point of the screen, x and y separated by a comma, each 0 or 1", Saved, KeepWhenMissing,
+     kParseBasePoint},
+    {kKeyboard, L"IsCKOnlyAllowed", &C::m_bIsCKOnlyAllowed, 0,
+     L"activating only function keys is allowed: 0 no; nonzero yes", Saved, Label(L"CKOnlyAllowed"), LogHeld},
+    {kKeyboard, L"ClearWhenUserCancel", &C::m_bClearWhenUserCancel, 0,
+     L"Cancel clears the buffer of the read command and the display: 0 no; nonzero yes", Saved, LogHeld},
+    {kKeyboard, L"AutoMultiZero", &C::m_bAutoMultiZero, 0,
+     L"activating \"0\" also activates \"00\" and \"000\": 0 no; nonzero yes"},
+    {kKeyboard, L"DropTailingMultiZero", &C::m_bDropTailingMultiZero, 0,
+     L"\"00\" and \"000\" are dropped when the remaining input space is too short: 0 no; nonzero yes"},
+    {kKeyboard, L"Need2HandleMultiZero", &C::m_bNeed2HandleMultiZero, 0,
+     L"\"00\" and \"000\" are converted into single \"0\" keys: 0 no; nonzero yes"},
+    {kKeyboard, L"KeyToneOn", &C::m_bKeyToneOn, 0,
+     L"the device sounds its own key tone: 0 no; nonzero yes"},
+    {kMapping, L"%s", Map<&C::m_mapKeyboardMapping>, L"",
+     L"key name of this key; a subkey is an entry with an empty text", NotLogged, KeepWhenMissing, SubkeyNames, Saved},
+    {kForm, L"IsUseInitialValue", &C::m_bIsUseInitialValue, 0,
+     L"forms are written with their initial values: 0 no; nonzero yes"},
     {kLed,  L"MutableLedIndex",   &C::m_bMutableLedIndex,   0, L"LED indexes are configurable: 0 no; nonzero yes"},
 };
 // clang-format on
 
-constexpr const wchar_t* kSaved[] = {L"FormsDirectory", L"FormsExtension", L"IsCKOnlyAllowed", L"ClearWhenUserCancel",
-                                     L"BasePoint"};
+constexpr const wchar_t* kSaved[] = {L"FormsDirectory",      L"FormsExtension", L"IsCKOnlyAllowed",
+                                     L"ClearWhenUserCancel", L"BasePoint",      kMapping.subkey};
 constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
 
 } // namespace
 
-const Table& CTTURegInfo::Settings() noexcept
-{
-    static constexpr Table kTable{L"CTTURegInfo", &CRegInfo::Settings, L"TTU", kSettings, kSaveOrder};
-    return kTable;
-}
-
-CTTURegInfo::CTTURegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(strName, bPhysicalName)
-{
-    Construct(*this, kSettings);
-}
-
-bool CTTURegInfo::Load(CLog* pLog)
-{
-    Loading loading(*this, pLog);
-    const bool bResult = CRegInfo::Load(pLog);
-    return loading.Read(Settings()) && bResult;
-}
-
-void CTTURegInfo::Save()
-{
-    Saving saving(*this);
-    CRegInfo::Save();
-    saving.Write(Settings());
-    SetValues(m_mapKeyboardMapping, kMappingFormat, kDeviceRoot, GetExeDllMother(1, nullptr));
-}
-
-WQSPCFG_CATALOGUE_ENTRY(CTTURegInfo)
+WQSPCFG_CLASS_SETTINGS(CTTURegInfo, L"TTU", kSettings, kSaveOrder)

@@ -15,22 +15,22 @@ class WQSPCFG_API CTTURegInfo : public CRegInfo
 
     CString m_strFormsDirectory;
     CString m_strFormsExtension;
-    DWORD m_dwDefaultCodec;
-    bool m_bIsCKOnlyAllowed;
-    bool m_bClearWhenUserCancel;
-    bool m_bAutoMultiZero;
-    bool m_bDropTailingMultiZero;
-    bool m_bNeed2HandleMultiZero;
+    DWORD m_dwDefaultCodec{};
+    bool m_bIsCKOnlyAllowed{};
+    bool m_bClearWhenUserCancel{};
+    bool m_bAutoMultiZero{};
+    bool m_bDropTailingMultiZero{};
+    bool m_bNeed2HandleMultiZero{};
     // A key's name by the name of its value in the key KeyboardInfo\KeyboardMapping. A subkey there is an entry with an
     // empty text. Saved whole.
-    CMapStringToString m_mapKeyboardMapping{10};
+    CMapStringToString m_mapKeyboardMapping;
     // The coordinate base of the screen, as m_strBasePoint says it. An axis starts at 0 or 1; with a greater number
     // anywhere both start at 0.
     int m_nBasePointX = 0;
     int m_nBasePointY = 0;
-    bool m_bKeyToneOn;
+    bool m_bKeyToneOn{};
     DWORD m_dwReserved[128] = {};
-    bool m_bIsUseInitialValue;
-    bool m_bMutableLedIndex;
+    bool m_bIsUseInitialValue{};
+    bool m_bMutableLedIndex{};
     CString m_strBasePoint;
 };

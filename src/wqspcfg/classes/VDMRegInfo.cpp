@@ -9,8 +9,7 @@ using C = CVDMRegInfo;
 namespace {
 
 // A path without a drive is relative to this library's directory.
-void CompletePath(C&, CString& strPath, bool)
-{
+constexpr auto kCompletePath = Normalize([](C&, CString& strPath, bool) {
     if (strPath.IsEmpty()) {
         strPath = L"WQVDA.exe";
     }
@@ -19,17 +18,22 @@ void CompletePath(C&, CString& strPath, bool)
         const CString strDirectory = CUtility::GetModuleDir(1, ThisModule(), true);
         strPath = strDirectory.Left(strDirectory.GetLength() - (strPath[0] == L'\\' ? 1 : 0)) + strPath;
     }
-}
+});
 
 constexpr Key kVda = key::Below(L"VDA");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {kVda, L"Path",                   &C::m_strPath,                 L"WQVDA.exe", L"path of the VDA process", Constructed(L""), Normalize([](C& c, CString& s, bool b) { CompletePath(c, s, b); })},
-    {kVda, L"RegAppId",               &C::m_strRegAppId,             L"",          L"application ID the VDA registers with"},
-    {kVda, L"BroardcastReqEvent2All", &C::m_bBroardcastReqEvent2All, 0,            L"request events are broadcast to all applications: 0 no; nonzero yes"},
-    {kVda, L"MaxExitTime",            &C::m_dwMaxExitTime,           40,           L"longest time the VDA may take to exit, in seconds: 0 no limit"},
-    {kVda, L"ForceExitSP",            &C::m_bForceExitSP,            1,            L"SPs are forced to exit before entering the VDA: 0 no; nonzero yes"},
+    {kVda, L"Path", &C::m_strPath, L"WQVDA.exe",
+     L"path of the VDA process", Constructed(L""), RefersTo(Reference::Command), kCompletePath},
+    {kVda, L"RegAppId", &C::m_strRegAppId, L"",
+     L"application ID the VDA registers with"},
+    {kVda, L"BroardcastReqEvent2All", &C::m_bBroardcastReqEvent2All, 0,
+     L"request events are broadcast to all applications: 0 no; nonzero yes"},
+    {kVda, L"MaxExitTime", &C::m_dwMaxExitTime, 40,
+     L"longest time the VDA may take to exit, in seconds: 0 no limit"},
+    {kVda, L"ForceExitSP", &C::m_bForceExitSP, 1,
+     L"SPs are forced to exit before entering the VDA: 0 no; nonzero yes"},
 };
 // clang-format on
 

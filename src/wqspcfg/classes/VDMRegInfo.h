@@ -15,8 +15,8 @@ class WQSPCFG_API CVDMRegInfo : public CRegInfo
 
     CString m_strPath; // with this library's directory in front when it is not absolute
     CString m_strRegAppId;
-    bool m_bBroardcastReqEvent2All;
-    DWORD m_dwMaxExitTime; // seconds, 0: no limit
-    bool m_bForceExitSP;
+    bool m_bBroardcastReqEvent2All{};
+    DWORD m_dwMaxExitTime{}; // seconds, 0: no limit
+    bool m_bForceExitSP{};
     DWORD m_dwReserved[128] = {};
 };

@@ -15,7 +15,7 @@ namespace wqspcfg::siu {
 struct State
 {
     const wchar_t* name;
-    WORD bit; // in the port's word of the capabilities
+    WORD bit;         // in the port's word of the capabilities
     unsigned written; // its place among the values that Save writes for the port, from 1; 0: it is not written
     const wchar_t* meaning;
     DWORD standard = 0; // what a missing value means
@@ -49,9 +49,9 @@ struct Port
 struct PortArray
 {
     const wchar_t* name;
-    std::size_t size;        // indices that the array has, configured or not
-    const wchar_t* gate;     // the value that tells whether the ports are configured
-    const wchar_t* gateKey;  // where the gate is written, below the device key
+    std::size_t size;       // indices that the array has, configured or not
+    const wchar_t* gate;    // the value that tells whether the ports are configured
+    const wchar_t* gateKey; // where the gate is written, below the device key
     std::span<const Port> ports;
 };
 
@@ -211,13 +211,16 @@ inline constexpr Port kGuidLightPorts[] = {
 } // namespace detail
 
 // The gates are read from "CAPABILITIES"; all but the first are written with a trailing backslash.
-// clang-format off
-inline constexpr PortArray kSensors{L"fwSensors", WFS_SIU_SENSORS_SIZE, L"WFS_SIU_SENSORS", L"\\CAPABILITIES", detail::kSensorPorts};
-inline constexpr PortArray kDoors{L"fwDoors", WFS_SIU_DOORS_SIZE, L"WFS_SIU_DOORS", L"\\CAPABILITIES\\", detail::kDoorPorts};
-inline constexpr PortArray kIndicators{L"fwIndicators", WFS_SIU_INDICATORS_SIZE, L"WFS_SIU_INDICATORS", L"\\CAPABILITIES\\", detail::kIndicatorPorts};
-inline constexpr PortArray kAuxiliaries{L"fwAuxiliaries", WFS_SIU_AUXILIARIES_SIZE, L"WFS_SIU_AUXILIARIES", L"\\CAPABILITIES\\", detail::kAuxiliaryPorts};
-inline constexpr PortArray kGuidLights{L"fwGuidLights", WFS_SIU_GUIDLIGHTS_SIZE, L"WFS_SIU_GUIDLIGHTS", L"\\CAPABILITIES\\", detail::kGuidLightPorts};
-// clang-format on
+inline constexpr PortArray kSensors{L"fwSensors", WFS_SIU_SENSORS_SIZE, L"WFS_SIU_SENSORS", L"\\CAPABILITIES",
+                                    detail::kSensorPorts};
+inline constexpr PortArray kDoors{L"fwDoors", WFS_SIU_DOORS_SIZE, L"WFS_SIU_DOORS", L"\\CAPABILITIES\\",
+                                  detail::kDoorPorts};
+inline constexpr PortArray kIndicators{L"fwIndicators", WFS_SIU_INDICATORS_SIZE, L"WFS_SIU_INDICATORS",
+                                       L"\\CAPABILITIES\\", detail::kIndicatorPorts};
+inline constexpr PortArray kAuxiliaries{L"fwAuxiliaries", WFS_SIU_AUXILIARIES_SIZE, L"WFS_SIU_AUXILIARIES",
+                                        L"\\CAPABILITIES\\", detail::kAuxiliaryPorts};
+inline constexpr PortArray kGuidLights{L"fwGuidLights", WFS_SIU_GUIDLIGHTS_SIZE, L"WFS_SIU_GUIDLIGHTS",
+                                       L"\\CAPABILITIES\\", detail::kGuidLightPorts};
 
 // The rows that document the ports of an array, port by port.
 template <const PortArray& Array>

@@ -59,7 +59,9 @@ TEST(Map, KeepsTheOrderOfInsertionThroughRemovals)
     for (auto&& entry : map) {
         entry.value = 6;
     }
+    EXPECT_EQ(map.GetHashTableSize(), 17U); // however many entries there were
     map.InitHashTable(1000);
+    EXPECT_EQ(map.GetHashTableSize(), 1000U);
     EXPECT_EQ(Listed(map), L"5=6 ");
     map.RemoveAll();
     EXPECT_EQ(Listed(map), L"");

@@ -96,13 +96,13 @@ inline constexpr auto Part = [](typename OwnerOfMember<decltype(Member)>::type& 
     return (object.*Member).*(Field, ...);
 };
 
-// The same for a member of a part, a struct that class C has as a base: Of<C>(&C::m_dwTimeOut), and
+// The same for a member of a part, a struct that class C has as a base: Of<C, &C::m_dwTimeOut>, and within Repeat
 // ElementOf<C, &C::m_arMonitor, &MonitorArea::m_dwLeft>.
-template <class C, class T, class Base>
-constexpr T C::*Of(T Base::*member)
+template <class C, auto Member>
+inline constexpr auto Of = [](C& object, unsigned) -> auto&
 {
-    return member;
-}
+    return object.*Member;
+};
 template <class C, auto Array, auto... Field>
 inline constexpr auto ElementOf = [](C& object, unsigned iteration) -> auto&
 {

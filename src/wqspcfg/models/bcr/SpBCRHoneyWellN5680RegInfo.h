@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/BCRRegInfo.h"
+#include "wqspcfg/parts/SerialBarcodeReader.h"
 
 // The HoneyWell N5680 barcode reader.
-class WQSPCFG_API CSpBCRHoneyWellN5680RegInfo : public CBCRRegInfo
+class WQSPCFG_API CSpBCRHoneyWellN5680RegInfo : public CBCRRegInfo, public wqspcfg::SerialBarcodeReader
 {
   public:
     CSpBCRHoneyWellN5680RegInfo(const CString& strName, bool bPhysicalName);
@@ -11,9 +12,4 @@ class WQSPCFG_API CSpBCRHoneyWellN5680RegInfo : public CBCRRegInfo
     void Save() override;
 
     static const wqspcfg::Table& Settings() noexcept;
-
-    DWORD m_dwVirtualCom;
-    DWORD m_dwType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
 };

@@ -1,12 +1,15 @@
 #pragma once
 
-#include "wqspcfg/models/shared/MotoScanner.h"
+#include "wqspcfg/classes/BCRRegInfo.h"
+#include "wqspcfg/parts/MotoScanner.h"
 
 // The Moto barcode reader.
-class WQSPCFG_API CSpBCRMotoRegInfo : public wqspcfg::MotoScanner
+class WQSPCFG_API CSpBCRMotoRegInfo : public CBCRRegInfo, public wqspcfg::MotoScanner
 {
   public:
     CSpBCRMotoRegInfo(const CString& strName, bool bPhysicalName);
+    bool Load(CLog* pLog) override;
+    void Save() override;
 
     static const wqspcfg::Table& Settings() noexcept;
 };

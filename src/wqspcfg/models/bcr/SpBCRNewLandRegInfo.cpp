@@ -10,8 +10,10 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Control, L"DevType",      &C::m_dwDevType,      0,      L"communication type: 0 USB; 1 serial", Saved, KeepWhenMissing, OneOf},
-    {key::Comm,    L"Port",         &C::m_dwPort,         1,      meaning::kPort, Saved},
+    {key::Control, L"DevType", &C::m_dwDevType, 0,
+     L"communication type: 0 USB; 1 serial", Saved, KeepWhenMissing, OneOf},
+    {key::Comm, L"Port", &C::m_dwPort, 1,
+     meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm,    L"BaudRate",     &C::m_dwBaudRate,     115200, meaning::kBaudRate, Saved},
     {key::Device,  L"GetdataTimes", &C::m_dwGetdataTimes, 1,      L"number of data reads", Saved, KeepWhenMissing},
 };

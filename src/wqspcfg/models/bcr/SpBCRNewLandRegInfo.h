@@ -12,8 +12,8 @@ class WQSPCFG_API CSpBCRNewLandRegInfo : public CBCRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwDevType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwGetdataTimes;
+    DWORD m_dwDevType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwGetdataTimes{};
 };

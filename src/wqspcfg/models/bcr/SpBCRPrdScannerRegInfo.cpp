@@ -10,9 +10,13 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Device,  L"DN.BCR_BARCODE",          &C::m_strDN_BCR_BARCODE,         L"",   L"the vendor's device name", Saved, KeepWhenMissing},
-    {key::Control, L"BeepFile",                &C::m_strBeepFile,               L"",   meaning::kScanBeepFile, Saved, KeepWhenMissing},
-    {key::Control, L"ReEnableScannerWaitTime", &C::m_dwReEnableScannerWaitTime, 57000, L"milliseconds after which the provider re-activates the scanner, which switches itself off after 60 seconds", Saved, KeepWhenMissing},
+    {key::Device, L"DN.BCR_BARCODE", &C::m_strDN_BCR_BARCODE, L"",
+     L"the vendor's device name", Saved, KeepWhenMissing},
+    {key::Control, L"BeepFile", &C::m_strBeepFile, L"",
+     meaning::kScanBeepFile, Saved, KeepWhenMissing, RefersTo(Reference::File)},
+    {key::Control, L"ReEnableScannerWaitTime", &C::m_dwReEnableScannerWaitTime, 57000,
+     L"milliseconds after which the provider re-activates the scanner, which switches itself off after 60 seconds",
+     Saved, KeepWhenMissing},
 };
 // clang-format on
 

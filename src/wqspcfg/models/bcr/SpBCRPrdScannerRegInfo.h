@@ -14,5 +14,5 @@ class WQSPCFG_API CSpBCRPrdScannerRegInfo : public CBCRRegInfo
 
     CString m_strDN_BCR_BARCODE;
     CString m_strBeepFile;
-    DWORD m_dwReEnableScannerWaitTime;
+    DWORD m_dwReEnableScannerWaitTime{};
 };

@@ -10,8 +10,10 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {key::Comm, L"DevType",  &C::m_dwDevType,  0,    L"communication type: 1 serial; 0 USB", Saved, KeepWhenMissing, OneOf},
-    {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, KeepWhenMissing},
+    {key::Comm, L"DevType", &C::m_dwDevType, 0,
+     L"communication type: 1 serial; 0 USB", Saved, KeepWhenMissing, OneOf},
+    {key::Comm, L"Port", &C::m_dwPort, 1,
+     meaning::kPort, Saved, KeepWhenMissing, RefersTo(Reference::SerialPort)},
     {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved, KeepWhenMissing},
 };
 // clang-format on

@@ -12,7 +12,7 @@ class WQSPCFG_API CSpBCRSUPERlead4100SRegInfo : public CBCRRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwDevType;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
+    DWORD m_dwDevType{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
 };

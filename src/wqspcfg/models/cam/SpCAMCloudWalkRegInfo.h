@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/CAMRegInfo.h"
+#include "wqspcfg/parts/FaceCamera.h"
 
 // A face-recognition camera with CloudWalk's recognition.
-class WQSPCFG_API CSpCAMCloudWalkRegInfo : public CCAMRegInfo
+class WQSPCFG_API CSpCAMCloudWalkRegInfo : public CCAMRegInfo, public wqspcfg::FaceCamera
 {
   public:
     CSpCAMCloudWalkRegInfo(const CString& strName, bool bPhysicalName);
@@ -12,13 +13,6 @@ class WQSPCFG_API CSpCAMCloudWalkRegInfo : public CCAMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwTimeOut;
-    DWORD m_dwMaxPictures;
-    DWORD m_dwFontColor;
-    DWORD m_dwFontSize;
-    DWORD m_dwPointX;
-    DWORD m_dwPointY;
-    CString m_strFMVersion;
     CString m_strCamID;
-    DWORD m_dwCameraIndex;
+    DWORD m_dwCameraIndex{};
 };

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "wqspcfg/classes/CAMRegInfo.h"
+#include "wqspcfg/parts/SignaturePad.h"
 
 // An electronic pen for signatures. The positions here are those of the tip text and hide the preview window's of the
 // class base.
-class WQSPCFG_API CSpCAMElectrPenSignatureRegInfo : public CCAMRegInfo
+class WQSPCFG_API CSpCAMElectrPenSignatureRegInfo : public CCAMRegInfo, public wqspcfg::SignaturePad
 {
   public:
     CSpCAMElectrPenSignatureRegInfo(const CString& strName, bool bPhysicalName);
@@ -13,14 +14,9 @@ class WQSPCFG_API CSpCAMElectrPenSignatureRegInfo : public CCAMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    bool m_bCreatWinDisplay;
-    DWORD m_dwWinDlgAlpha;
-    DWORD m_dwSignBGColor;
-    DWORD m_dwSignPenColor;
-    DWORD m_dwSignPenWidth;
-    DWORD m_dwPosX;
-    DWORD m_dwPosY;
-    CString m_strFontName;
-    DWORD m_dwFontSize;
-    DWORD m_dwTextColor;
+    // Of the tip text, not of the class's preview window.
+    using SignaturePad::m_dwPosX;
+    using SignaturePad::m_dwPosY;
+
+    bool m_bCreatWinDisplay{};
 };

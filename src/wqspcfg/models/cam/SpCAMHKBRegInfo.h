@@ -14,13 +14,13 @@ class WQSPCFG_API CSpCAMHKBRegInfo : public CCAMRegInfo
 
     CString m_strPicturePath;
     CString m_strCameraName;
-    DWORD m_dwVideoWidth;
-    DWORD m_dwVideoHeight;
-    DWORD m_dwXPos;
-    DWORD m_dwYPos;
-    DWORD m_dwFontSize;
-    DWORD m_dwMaxPictures;
-    DWORD m_dwMaxDataLength;
-    DWORD m_dwHighCamRotateAngle;
-    DWORD m_dwHighCamResolution;
+    DWORD m_dwVideoWidth{};
+    DWORD m_dwVideoHeight{};
+    DWORD m_dwXPos{};
+    DWORD m_dwYPos{};
+    DWORD m_dwFontSize{};
+    DWORD m_dwMaxPictures{};
+    DWORD m_dwMaxDataLength{};
+    DWORD m_dwHighCamRotateAngle{};
+    DWORD m_dwHighCamResolution{};
 };

@@ -12,9 +12,9 @@ class WQSPCFG_API CSpCAMHandInputRegInfo : public CCAMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPenWidth;
-    DWORD m_dwPenColorR;
-    DWORD m_dwPenColorG;
-    DWORD m_dwPenColorB;
-    DWORD m_dwPenColor;
+    DWORD m_dwPenWidth{};
+    DWORD m_dwPenColorR{};
+    DWORD m_dwPenColorG{};
+    DWORD m_dwPenColorB{};
+    DWORD m_dwPenColor{};
 };

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/CAMRegInfo.h"
+#include "wqspcfg/parts/FaceCamera.h"
 
 // A face-recognition camera with two cameras, near and far.
-class WQSPCFG_API CSpCAMSTRegInfo : public CCAMRegInfo
+class WQSPCFG_API CSpCAMSTRegInfo : public CCAMRegInfo, public wqspcfg::FaceCamera
 {
   public:
     CSpCAMSTRegInfo(const CString& strName, bool bPhysicalName);
@@ -12,14 +13,7 @@ class WQSPCFG_API CSpCAMSTRegInfo : public CCAMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwTimeOut;
-    DWORD m_dwMaxPictures;
-    DWORD m_dwFontColor;
-    DWORD m_dwFontSize;
-    DWORD m_dwPointX;
-    DWORD m_dwPointY;
-    CString m_strFMVersion;
-    bool m_bShowText;
+    bool m_bShowText{};
     CString m_strCamID;
-    DWORD m_dwCameraIndex;
+    DWORD m_dwCameraIndex{};
 };

@@ -13,14 +13,14 @@ class WQSPCFG_API CSpCAMUsbYUY2RegInfo : public CCAMRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strPicturePath;
-    DWORD m_dwVideoWidth;
-    DWORD m_dwVideoHeight;
-    DWORD m_dwXPos;
-    DWORD m_dwYPos;
-    DWORD m_dwFontSize;
-    bool m_bTakePicWithDis;
-    DWORD m_dwUserRate;
-    DWORD m_dwMaxPictures;
-    DWORD m_dwMaxDataLength;
-    DWORD m_dwCamPos;
+    DWORD m_dwVideoWidth{};
+    DWORD m_dwVideoHeight{};
+    DWORD m_dwXPos{};
+    DWORD m_dwYPos{};
+    DWORD m_dwFontSize{};
+    bool m_bTakePicWithDis{};
+    DWORD m_dwUserRate{};
+    DWORD m_dwMaxPictures{};
+    DWORD m_dwMaxDataLength{};
+    DWORD m_dwCamPos{};
 };

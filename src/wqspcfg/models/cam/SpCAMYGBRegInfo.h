@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/CAMRegInfo.h"
+#include "wqspcfg/parts/SignaturePad.h"
 
 // A signature pad. The positions here are those of the tip text and hide the preview window's of the class base.
-class WQSPCFG_API CSpCAMYGBRegInfo : public CCAMRegInfo
+class WQSPCFG_API CSpCAMYGBRegInfo : public CCAMRegInfo, public wqspcfg::SignaturePad
 {
   public:
     CSpCAMYGBRegInfo(const CString& strName, bool bPhysicalName);
@@ -12,18 +13,13 @@ class WQSPCFG_API CSpCAMYGBRegInfo : public CCAMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
+    // Of the tip text, not of the class's preview window.
+    using SignaturePad::m_dwPosX;
+    using SignaturePad::m_dwPosY;
+
     CString m_strPicturePath;
-    bool m_bLoadOneMoreKey;
-    bool m_bCreatWinDisPlay;
-    DWORD m_dwWinDlgAlpha;
-    DWORD m_dwSignBGColor;
-    DWORD m_dwSignPenColor;
-    DWORD m_dwSignPenWidth;
-    DWORD m_dwPosX;
-    DWORD m_dwPosY;
-    CString m_strFontName;
-    DWORD m_dwFontSize;
-    DWORD m_dwTextColor;
-    DWORD m_dwDevType;
+    bool m_bLoadOneMoreKey{};
+    bool m_bCreatWinDisPlay{};
+    DWORD m_dwDevType{};
     CString m_strBGTextData;
 };

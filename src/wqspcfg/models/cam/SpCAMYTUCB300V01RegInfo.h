@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/CAMRegInfo.h"
+#include "wqspcfg/parts/FaceCamera.h"
 
 // A binocular face-recognition camera.
-class WQSPCFG_API CSpCAMYTUCB300V01RegInfo : public CCAMRegInfo
+class WQSPCFG_API CSpCAMYTUCB300V01RegInfo : public CCAMRegInfo, public wqspcfg::FaceCamera
 {
   public:
     CSpCAMYTUCB300V01RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,24 +13,17 @@ class WQSPCFG_API CSpCAMYTUCB300V01RegInfo : public CCAMRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwTimeOut;
-    DWORD m_dwMaxPictures;
-    DWORD m_dwFontColor;
-    DWORD m_dwFontSize;
-    DWORD m_dwPointX;
-    DWORD m_dwPointY;
-    CString m_strFMVersion;
-    bool m_bShowText;
+    bool m_bShowText{};
     CString m_strCamID;
     CString m_strScreenPath;
     CString m_strPersonPath;
-    bool m_bDeleteFileWhenReset;
+    bool m_bDeleteFileWhenReset{};
     CString m_strDeleteFilePath;
-    bool m_bShowWindow;
-    bool m_bBroadcastEvent;
+    bool m_bShowWindow{};
+    bool m_bBroadcastEvent{};
     CString m_strResultPath;
-    DWORD m_dwEventInterval;
-    DWORD m_dwCameraIndex;
-    DWORD m_dwImageType;
-    bool m_bCreateWindowWhenOpen;
+    DWORD m_dwEventInterval{};
+    DWORD m_dwCameraIndex{};
+    DWORD m_dwImageType{};
+    bool m_bCreateWindowWhenOpen{};
 };

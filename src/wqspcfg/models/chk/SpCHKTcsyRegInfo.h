@@ -12,8 +12,8 @@ class WQSPCFG_API CSpCHKTcsyRegInfo : public CCHKRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwDevType;
-    bool m_bStExtraRetFacInfo;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwDevType{};
+    bool m_bStExtraRetFacInfo{};
 };

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/PINRegInfo.h"
+#include "wqspcfg/parts/JstdKeypad.h"
 
 // The Jstd E6020K02EAS keypad, which has page-up and page-down keys.
-class WQSPCFG_API CSpPINJstdE6020K02EASRegInfo : public CPINRegInfo
+class WQSPCFG_API CSpPINJstdE6020K02EASRegInfo : public CPINRegInfo, public wqspcfg::JstdKeypad
 {
   public:
     CSpPINJstdE6020K02EASRegInfo(const CString& strName, bool bPhysicalName);
@@ -12,17 +13,11 @@ class WQSPCFG_API CSpPINJstdE6020K02EASRegInfo : public CPINRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwMacType;
-    bool m_bUseClearBtnAsBackspaceBtnInGetData;
-    bool m_bUseClearBtnAsBackspaceBtnInGetPin;
-    DWORD m_dwPostWin32PCKeyEventInGetData;
-    DWORD m_dwPostWin32PCKeyEventInGetPin;
-    CString m_strDisabledPCKeyEventOfKey;
-    bool m_bAtiveStillDown;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwAtiveClearAndBaskSpaceOption;
-    DWORD m_dwPageUpAsXFSFK;
-    DWORD m_dwPageDownAsXFSFK;
+    bool m_bAtiveStillDown{};
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwAtiveClearAndBaskSpaceOption{};
+    DWORD m_dwPageUpAsXFSFK{};
+    DWORD m_dwPageDownAsXFSFK{};
     DWORD m_dwModelReserved[128] = {};
 };

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/PINRegInfo.h"
+#include "wqspcfg/parts/JstdKeypad.h"
 
 // The Jstd E6060 keypad.
-class WQSPCFG_API CSpPINJstdE6060RegInfo : public CPINRegInfo
+class WQSPCFG_API CSpPINJstdE6060RegInfo : public CPINRegInfo, public wqspcfg::JstdKeypad
 {
   public:
     CSpPINJstdE6060RegInfo(const CString& strName, bool bPhysicalName);
@@ -12,13 +13,7 @@ class WQSPCFG_API CSpPINJstdE6060RegInfo : public CPINRegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwMacType;
-    bool m_bUseClearBtnAsBackspaceBtnInGetData;
-    bool m_bUseClearBtnAsBackspaceBtnInGetPin;
-    DWORD m_dwPostWin32PCKeyEventInGetData;
-    DWORD m_dwPostWin32PCKeyEventInGetPin;
-    CString m_strDisabledPCKeyEventOfKey;
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
     DWORD m_dwModelReserved[128] = {};
 };

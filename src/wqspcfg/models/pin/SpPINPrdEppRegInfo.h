@@ -1,9 +1,10 @@
 #pragma once
 
 #include "wqspcfg/classes/PINRegInfo.h"
+#include "wqspcfg/parts/EllipseParameters.h"
 
 // The product line's encrypting keypad, which is driven by the manufacturer's driver.
-class WQSPCFG_API CSpPINPrdEppRegInfo : public CPINRegInfo
+class WQSPCFG_API CSpPINPrdEppRegInfo : public CPINRegInfo, public wqspcfg::EllipseParameters
 {
   public:
     CSpPINPrdEppRegInfo(const CString& strName, bool bPhysicalName);
@@ -13,24 +14,18 @@ class WQSPCFG_API CSpPINPrdEppRegInfo : public CPINRegInfo
     static const wqspcfg::Table& Settings() noexcept;
 
     CString m_strDN_PIN_EPP;
-    DWORD m_dwPostWin32PCKeyEventInGetData;
-    DWORD m_dwPostWin32PCKeyEventInGetPin;
+    DWORD m_dwPostWin32PCKeyEventInGetData{};
+    DWORD m_dwPostWin32PCKeyEventInGetPin{};
     CString m_strDisabledPCKeyEventOfKey;
-    bool m_bEnableIdlePCKeyEvent;
-    DWORD m_dwKeyPressInteval;
-    DWORD m_dwAtiveClearAndBaskSpaceOption;
-    DWORD m_dwPageUpToXFSKey;
-    DWORD m_dwPageDownToXFSKey;
-    DWORD m_dwSPaceToXFSKey;
-    bool m_bReadOneKeyToMaxForceEnter;
-    DWORD m_dwReportErrOnPressMultiKey;
-    DWORD m_dwReportLongKeyPressErr;
-    DWORD m_dwMacType;
-    CString m_strEllipseParamP;
-    CString m_strEllipseParamA;
-    CString m_strEllipseParamB;
-    CString m_strEllipseParamN;
-    CString m_strEllipseParamXg;
-    CString m_strEllipseParamYg;
+    bool m_bEnableIdlePCKeyEvent{};
+    DWORD m_dwKeyPressInteval{};
+    DWORD m_dwAtiveClearAndBaskSpaceOption{};
+    DWORD m_dwPageUpToXFSKey{};
+    DWORD m_dwPageDownToXFSKey{};
+    DWORD m_dwSPaceToXFSKey{};
+    bool m_bReadOneKeyToMaxForceEnter{};
+    DWORD m_dwReportErrOnPressMultiKey{};
+    DWORD m_dwReportLongKeyPressErr{};
+    DWORD m_dwMacType{};
     DWORD m_dwModelReserved[128] = {};
 };

@@ -4,19 +4,16 @@
 #include "wqspcfg/parts/meanings/SIU.h"
 #include "wqspcfg/platform/utility/StringUtility.h"
 
-#include <iterator>
-#include <string>
+#include <vector>
 
 using namespace wqspcfg;
 using C = CSpSIUCABCRegInfo;
 
 namespace {
 
-constexpr unsigned kFirstLight = 5;
-constexpr unsigned kLastLight = 16;
-constexpr wchar_t kLightMeaning[] =
-    L"indices of the guidance lights that this light of the board stands for, separated "
-    L"by commas: empty the light is not used";
+constexpr WORD kDispenserLight = 0; // the notes dispenser's, where the cash module has no light of its own
+constexpr WORD kFirstLight = 5;     // the cash module's, where that has one
+constexpr WORD kLastLight = kFirstLight + C::kLights - 1;
 
 bool Contains(const CString& strText, LPCWSTR lpszPart)
 {
@@ -36,148 +33,196 @@ constexpr Key kControl = key::Below(L"control\\");
 constexpr Key kComm = key::Below(L"comm");
 constexpr Key kSetup = key::Common(L"Setup\\");
 constexpr Key kShareInfoSrc = key::Below(L"ShareInfoSrc\\");
-constexpr Key kSafeAgent = key::Below(L"SafeAgent\\");
 constexpr Key kCashModule = key::Absolute(L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\TARNO_RECYCLE\\");
 
-// clang-format off
-constexpr Setting kLightRows[] = {
-    {key::Control, L"XFSIndesOfLight_%d", StringValue, L"", kLightMeaning, Saved, NotLogged, Documented},
-};
-constexpr Setting kCashModuleRow =
-    {kCashModule, L"Executable", StringValue, L"WQC81Driver.exe", L"executable of the cash module's driver, which tells whether the cash module has a light of its own", Label(L"TARNO_RECYCLE\\Executable"), Normalize([](C& c, CString& strExecutable, bool bFound) {
-        c.m_bCashModuleLight = bFound && HasCashModuleLight(strExecutable);
-    })};
+// The guidance lights that a text names.
+std::vector<WORD> IndexesIn(const CString& strIndexes)
+{
+    CStringArray arIndexes;
+    CStringUtility::SplitString(arIndexes, strIndexes, L',');
+    std::vector<WORD> indexes;
+    for (const auto& strIndex : arIndexes) {
+        indexes.push_back(LOWORD(ParseDecimal(strIndex.View())));
+    }
+    return indexes;
+}
 
-constexpr Setting kSettings[] = {
-    {kControl, L"SetTamperStOfDependTermType",        &C::m_dwSetTamperStOfDependTermType,        0,    L"the tamper state of the card slot is set by the terminal type: 0 no; nonzero yes", Saved},
-    {kControl, L"RecoverUpsStOfFlashBreak",           &C::m_dwRecoverUpsStOfFlashBreak,           1,    L"after a short break of the internal UPS it returns to the not-supplying state: 0 no; nonzero yes", Saved},
-    {kControl, L"ConvertOnOffToFlush",                &C::m_dwConvertOnOffToFlush,                0,    L"a light flashes by being switched on and off: 0 no; nonzero yes", Saved},
-    {kControl, L"AllowUpsFlashBreakTime",             &C::m_dwAllowUpsFlashBreakTime,             1000, meaning::kAllowUpsFlashBreakTime, Saved},
-    {kControl, L"PoweroffAutoShutdown",               &C::m_dwPoweroffAutoShutdown,               0,    meaning::kPoweroffAutoShutdown, Saved},
-    {kControl, L"AutoRebootWhenNextPowerOn",          &C::m_dwAutoRebootWhenNextPowerOn,          1,    L"the terminal restarts when power returns after such a shutdown: 0 no; nonzero yes", Saved},
-    {kControl, L"UsePowerSwitch",                     &C::m_dwUsePowerSwitch,                     0,    meaning::kUsePowerSwitch, Saved, OneOf},
-    {kControl, L"UseSafeDoor",                        &C::m_dwUseSafeDoor,                        0,    meaning::kUseSafeDoor, Saved, OneOf},
-    {kControl, L"KeepSupervisorCabinetOpen",          &C::m_dwKeepSupervisorCabinetOpen,          1,    meaning::kKeepSupervisorCabinetOpen, Saved},
-    {kControl, L"BuzzerOfWithoutSelectContinueAudio", &C::m_dwBuzzerOfWithoutSelectContinueAudio, 0,    meaning::kContinueBuzzerWithoutAudio, Saved},
-    {kControl, L"RearBackLightCtrl",                  &C::m_dwRearBackLightCtrl,                  0,    meaning::kRearBackLightCtrl, Saved},
-    {kControl, L"FrontBackLightCtrl",                 &C::m_dwFrontBackLightCtrl,                 1,    meaning::kFrontBackLightCtrl, Saved},
-    {kSetup,        L"TermType",                           &C::m_strTermType,                          L"",  L"terminal type: WQT-7100 and WQT-7200 have a tamper sensor at the card slot", Normalize([](C& c, CString& strType, bool) {
-        c.m_bTamperTermType = Contains(strType, L"WQT-7100") || Contains(strType, L"WQT-7200");
-    })},
-    {kControl,      L"SkimmerNeedReboot",         &C::m_dwSkimmerNeedReboot,         0,                 L"a skimmer fault at the card slot: 0 recover without a restart; 1 restart and recover; 2 restart without recovering", Saved, OneOf},
-    {kControl,      L"UseSkimmer",                &C::m_dwUseSkimmer,                1,                 L"the skimmer sensor at the card slot is used: 0 no; nonzero yes", Saved},
-    {kControl,      L"UseSafeAgent",              &C::m_dwUseSafeAgent,              0,                 meaning::kUseSafeAgent, Saved},
-    {kControl,      L"UseInnerUPS",               &C::m_dwUseInnerUPS,               0,                 L"the internal UPS is used: 0 no; nonzero yes", Saved},
-    {kComm,         L"Port",                      &C::m_dwPort,                      3,                 L"serial port number of the external UPS", Saved},
-    {kComm,         L"OutlayUPSCarrySupply",      &C::m_dwOutlayUPSCarrySupply,      0,                 L"the external UPS keeps supplying power on mains failure: 0 no; nonzero yes", Saved},
-    {kControl,      L"UsePinSta",                 &C::m_dwUsePinSta,                 1,                 meaning::kUsePinSta, Saved},
-    {kControl,      L"UseKeySta",                 &C::m_dwUseKeySta,                 1,                 meaning::kUseKeySta, Saved},
-    {kControl,      L"UseCardSta",                &C::m_dwUseCardSta,                1,                 meaning::kUseCardSta, Saved},
-    {kControl,      L"UseProximity",              &C::m_dwUseProximity,              1,                 meaning::kUseProximity, Saved},
-    {kShareInfoSrc, L"CardInserted",              &C::m_strCardInserted,             L"WQCARDREADER_E", L"type of the current card reader", Saved},
-    {kShareInfoSrc, L"EntryPassword",             &C::m_strEntryPassword,            L"WQPINPADEXE",    L"type of the current PIN pad", Saved},
-    {kSafeAgent,    L"BeepOn",                    &C::m_dwBeepOn,                    1,                 meaning::kBeepOn, Saved},
-    {kSafeAgent,    L"RelayAlarmOn",              &C::m_dwRelayAlarmOn,              0,                 meaning::kRelayAlarmOn, Saved},
-    {kSafeAgent,    L"BlindPoint",                &C::m_dwBlindPoint,                0,                 meaning::kBlindPoint, Saved, Range(0, 255)},
-    {kSafeAgent,    L"BlindAlarmTime",            &C::m_dwBlindAlarmTime,            3,                 meaning::kBlindAlarmTime, Saved, Range(0, 255)},
-    {kSafeAgent,    L"CoverAlarmTime",            &C::m_dwCoverAlarmTime,            300,               meaning::kCoverAlarmTime, Saved, Range(0, 65535)},
-    {kSafeAgent,    L"AutoCancel",                &C::m_dwAutoCancel,                1,                 meaning::kAutoCancel, Saved},
-    {kSafeAgent,    L"ObserverType",              &C::m_dwObserverType,              2,                 L"what is observed: 1 the current state; 2 the warning state", Saved, OneOf},
-    {key::Beep,     L"KeyPress",                  &C::m_strKeyPress,                 L"C:\\vexo\\sp\\Config\\sp.data\\KeyDownSound.wav", L"sound file of a key press", Saved},
-    {key::Beep,     L"Exclamation",               &C::m_strExclamation,              L"",               L"sound file of an exclamation", Saved},
-    {key::Beep,     L"Warning",                   &C::m_strWarning,                  L"",               L"sound file of a warning", Saved},
-    {key::Beep,     L"Error",                     &C::m_strError,                    L"C:\\vexo\\sp\\Config\\sp.data\\DeviceErrSound.wav", L"sound file of an error", Saved},
-    {key::Beep,     L"Critical",                  &C::m_strCritical,                 L"",               L"sound file of a critical error", Saved},
-    {kControl,      L"DimScreenMode",             &C::m_dwDimScreenMode,             0,                 L"dimming of the screen by the light sensor: 0 off; 1 simple; 2 incremental", Saved, OneOf},
-    {kControl,      L"RearUpDoorRelationCabinet", &C::m_dwRearUpDoorRelationCabinet, 0,                 meaning::kRearUpDoorRelationCabinet, Saved},
-    {kControl,      L"DecorateDoorRelateCabinet", &C::m_dwDecorateDoorRelateCabinet, 0,                 meaning::kDecorateDoorRelateCabinet, Saved},
-    {kControl,      L"BrmHotLineRelateSafeDoor",  &C::m_dwBrmHotLineRelateSafeDoor,  0,                 L"the state of the safe door is linked to its handle: 0 no; nonzero yes", Saved},
-    {kControl,      L"GuidLightOffOfReset",       &C::m_dwGuidLightOffOfReset,       0,                 meaning::kGuidLightOffOfReset, Saved},
-    {key::Control,  L"PolicyOfCabinetOpen",       &C::m_dwPolicyOfCabinetOpen,       4,                 meaning::kPolicyOfCabinetOpen, Saved},
-    {key::Control,  L"CabinetOpenBeepPath",       &C::m_strCabinetOpenBeepPath,      L"C:\\vexo\\sp\\Config\\sp.data\\DeviceErrSound.wav", meaning::kCabinetOpenBeepPath, Saved},
-    {key::Control,  L"PhoneIndex",                &C::m_dwPhoneIndex,                10,                L"number of the handset sensor", Saved},
-    {key::Control,  L"IsUseHandsetSensor",        &C::m_bIsUseHandsetSensor,         0,                 L"the handset sensor masks the 24 V supply: 0 no; 1 yes", Saved, OneOf},
-    kCashModuleRow,
-    Repeat(kFirstLight, kLastLight, kLightRows),
-    {key::Control, L"ProximityPresentWaitTime", &C::m_dwProximityPresentWaitTime, 0, meaning::kProximityPresentWaitTime, Saved},
+constexpr auto kFindTamperType = Normalize([](C& c, CString& strType, bool) {
+    c.m_bTamperTermType = Contains(strType, L"WQT-7100") || Contains(strType, L"WQT-7200");
+});
+constexpr auto kFindCashModuleLight = Normalize([](C& c, CString& strExecutable, bool bFound) {
+    c.m_bCashModuleLight = bFound && HasCashModuleLight(strExecutable);
+});
+
+// The rows of the lights from `First` on: their texts, and whether Save has a new text to write.
+template <WORD First>
+constexpr auto kTextOfLight = [](C& c, unsigned n) -> CString& { return c.m_strLightIndexes[First - kFirstLight + n]; };
+template <WORD First>
+constexpr auto kIfMappedAnew = SavedIf([](C& c, unsigned n) {
+    const auto light = First + n;
+    std::vector<WORD> indexes;
+    CString strIndexes;
+    for (const auto& mapping : c.m_arLightMap) {
+        if (mapping.wPhyLight == light) {
+            indexes.push_back(mapping.wXFSIndex);
+            strIndexes.AppendFormat(strIndexes.IsEmpty() ? L"%d" : L",%d", +mapping.wXFSIndex);
+        }
+    }
+    CString& strRead = kTextOfLight<First>(c, n);
+    if ((c.m_bCashModuleLight && light == kFirstLight) || indexes == IndexesIn(strRead)) {
+        return false;
+    }
+    strRead = strIndexes;
+    return true;
+});
+
+// clang-format off
+template <WORD First>
+constexpr Setting kLightRows[] = {
+    {key::Control, L"XFSIndesOfLight_%d", kTextOfLight<First>, L"",
+     L"indices of the guidance lights that this light of the board stands for, separated by commas: empty the light is "
+     L"not used", NotLogged, Saved, kIfMappedAnew<First>},
+};
+constexpr Setting kFirstLightRows[] = {
+    Repeat(kFirstLight, kFirstLight, kLightRows<kFirstLight>),
+};
+
+constexpr Setting kBoard[] = {
+    {kControl, L"SetTamperStOfDependTermType", &C::m_dwSetTamperStOfDependTermType, 0,
+     L"the tamper state of the card slot is set by the terminal type: 0 no; nonzero yes", Saved},
+    {kControl, L"RecoverUpsStOfFlashBreak", &C::m_dwRecoverUpsStOfFlashBreak, 1,
+     L"after a short break of the internal UPS it returns to the not-supplying state: 0 no; nonzero yes", Saved},
+    {kControl, L"ConvertOnOffToFlush", &C::m_dwConvertOnOffToFlush, 0,
+     L"a light flashes by being switched on and off: 0 no; nonzero yes", Saved},
+    {kControl, L"AllowUpsFlashBreakTime", &C::m_dwAllowUpsFlashBreakTime, 1000,
+     meaning::kAllowUpsFlashBreakTime, Saved},
+    {kControl, L"PoweroffAutoShutdown", &C::m_dwPoweroffAutoShutdown, 0,
+     meaning::kPoweroffAutoShutdown, Saved},
+    {kControl, L"AutoRebootWhenNextPowerOn", &C::m_dwAutoRebootWhenNextPowerOn, 1,
+     L"the terminal restarts when power returns after such a shutdown: 0 no; nonzero yes", Saved},
+    {kControl, L"UsePowerSwitch", &C::m_dwUsePowerSwitch, 0,
+     meaning::kUsePowerSwitch, Saved, OneOf},
+    {kControl, L"UseSafeDoor", &C::m_dwUseSafeDoor, 0,
+     meaning::kUseSafeDoor, Saved, OneOf},
+    {kControl, L"KeepSupervisorCabinetOpen", &C::m_dwKeepSupervisorCabinetOpen, 1,
+     meaning::kKeepSupervisorCabinetOpen, Saved},
+    {kControl, L"BuzzerOfWithoutSelectContinueAudio", &C::m_dwBuzzerOfWithoutSelectContinueAudio, 0,
+     meaning::kContinueBuzzerWithoutAudio, Saved},
+    {kControl, L"RearBackLightCtrl", &C::m_dwRearBackLightCtrl, 0,
+     meaning::kRearBackLightCtrl, Saved},
+    {kControl, L"FrontBackLightCtrl", &C::m_dwFrontBackLightCtrl, 1,
+     meaning::kFrontBackLightCtrl, Saved},
+    {kSetup, L"TermType", &C::m_strTermType, L"",
+     L"terminal type: WQT-7100 and WQT-7200 have a tamper sensor at the card slot", kFindTamperType},
+    {kControl, L"SkimmerNeedReboot", &C::m_dwSkimmerNeedReboot, 0,
+     L"a skimmer fault at the card slot: 0 recover without a restart; 1 restart and recover; 2 restart without "
+     L"recovering", Saved, OneOf},
+    {kControl, L"UseSkimmer", &C::m_dwUseSkimmer, 1,
+     L"the skimmer sensor at the card slot is used: 0 no; nonzero yes", Saved},
+    {kControl, L"UseSafeAgent", &C::m_dwUseSafeAgent, 0,
+     meaning::kUseSafeAgent, Saved},
+    {kControl, L"UseInnerUPS", &C::m_dwUseInnerUPS, 0,
+     L"the internal UPS is used: 0 no; nonzero yes", Saved},
+    {kComm, L"Port", &C::m_dwPort, 3,
+     L"serial port number of the external UPS", Saved, RefersTo(Reference::SerialPort)},
+    {kComm, L"OutlayUPSCarrySupply", &C::m_dwOutlayUPSCarrySupply, 0,
+     L"the external UPS keeps supplying power on mains failure: 0 no; nonzero yes", Saved},
+    {kControl, L"UsePinSta", &C::m_dwUsePinSta, 1,
+     meaning::kUsePinSta, Saved},
+    {kControl, L"UseKeySta", &C::m_dwUseKeySta, 1,
+     meaning::kUseKeySta, Saved},
+    {kControl, L"UseCardSta", &C::m_dwUseCardSta, 1,
+     meaning::kUseCardSta, Saved},
+    {kControl, L"UseProximity", &C::m_dwUseProximity, 1,
+     meaning::kUseProximity, Saved},
+    {kShareInfoSrc, L"CardInserted", &C::m_strCardInserted, L"WQCARDREADER_E",
+     L"type of the current card reader", Saved},
+    {kShareInfoSrc, L"EntryPassword", &C::m_strEntryPassword, L"WQPINPADEXE",
+     L"type of the current PIN pad", Saved},
+    Group(kSafeAgentRows<C>),
+    {kSafeAgent, L"ObserverType", &C::m_dwObserverType, 2,
+     L"what is observed: 1 the current state; 2 the warning state", Saved, OneOf},
+    {key::Beep, L"KeyPress", &C::m_strKeyPress, L"C:\\vexo\\sp\\Config\\sp.data\\KeyDownSound.wav",
+     L"sound file of a key press", Saved, RefersTo(Reference::File)},
+    {key::Beep, L"Exclamation", &C::m_strExclamation, L"",
+     L"sound file of an exclamation", Saved, RefersTo(Reference::File)},
+    {key::Beep, L"Warning", &C::m_strWarning, L"",
+     L"sound file of a warning", Saved, RefersTo(Reference::File)},
+    {key::Beep, L"Error", &C::m_strError, L"C:\\vexo\\sp\\Config\\sp.data\\DeviceErrSound.wav",
+     L"sound file of an error", Saved, RefersTo(Reference::File)},
+    {key::Beep, L"Critical", &C::m_strCritical, L"",
+     L"sound file of a critical error", Saved, RefersTo(Reference::File)},
+    {kControl, L"DimScreenMode", &C::m_dwDimScreenMode, 0,
+     L"dimming of the screen by the light sensor: 0 off; 1 simple; 2 incremental", Saved, OneOf},
+    {kControl, L"RearUpDoorRelationCabinet", &C::m_dwRearUpDoorRelationCabinet, 0,
+     meaning::kRearUpDoorRelationCabinet, Saved},
+    {kControl, L"DecorateDoorRelateCabinet", &C::m_dwDecorateDoorRelateCabinet, 0,
+     meaning::kDecorateDoorRelateCabinet, Saved},
+    {kControl, L"BrmHotLineRelateSafeDoor", &C::m_dwBrmHotLineRelateSafeDoor, 0,
+     L"the state of the safe door is linked to its handle: 0 no; nonzero yes", Saved},
+    {kControl, L"GuidLightOffOfReset", &C::m_dwGuidLightOffOfReset, 0,
+     meaning::kGuidLightOffOfReset, Saved},
+    {key::Control, L"PolicyOfCabinetOpen", &C::m_dwPolicyOfCabinetOpen, 4,
+     meaning::kPolicyOfCabinetOpen, Saved},
+    {key::Control, L"CabinetOpenBeepPath",
+     &C::m_strCabinetOpenBeepPath, L"C:\\vexo\\sp\\Config\\sp.data\\DeviceErrSound.wav",
+     meaning::kCabinetOpenBeepPath, Saved, RefersTo(Reference::File)},
+    {key::Control, L"PhoneIndex", &C::m_dwPhoneIndex, 10,
+     L"number of the handset sensor", Saved},
+    {key::Control, L"IsUseHandsetSensor", &C::m_bIsUseHandsetSensor, 0,
+     L"the handset sensor masks the 24 V supply: 0 no; 1 yes", Saved, OneOf},
+    {kCashModule, L"Executable", StringValue, L"WQC81Driver.exe",
+     L"executable of the cash module's driver, which tells whether the cash module has a light of its own",
+     Label(L"TARNO_RECYCLE\\Executable"), kFindCashModuleLight},
+    When([](const C& c) { return !c.m_bCashModuleLight; }, kFirstLightRows),
+    Repeat(kFirstLight + 1, kLastLight, kLightRows<kFirstLight + 1>),
+};
+constexpr Setting kProximity[] = {
+    {key::Control, L"ProximityPresentWaitTime", &C::m_dwProximityPresentWaitTime, 0,
+     meaning::kProximityPresentWaitTime, Saved},
 };
 // clang-format on
-constexpr const Setting* kAfterCashModule = FindRow(kSettings, L"Executable") + 1;
-
-CString LightName(unsigned light)
-{
-    return FormatString(L"XFSIndesOfLight_%d", light);
-}
 
 } // namespace
 
 const Table& CSpSIUCABCRegInfo::Settings() noexcept
 {
+    static constexpr Setting kSettings[] = {
+        Group(kBoard),
+        Step([](C& c, Loading& loading) { c.MapLights(loading.Log()); }),
+        Group(kProximity),
+    };
     static constexpr Table kTable{L"CSpSIUCABCRegInfo", &CSIURegInfo::Settings, nullptr, kSettings};
     return kTable;
 }
 
-CSpSIUCABCRegInfo::CSpSIUCABCRegInfo(const CString& strName, bool bPhysicalName) : CSIURegInfo(strName, bPhysicalName)
-{
-    Construct(*this, kSettings);
-}
-
-bool CSpSIUCABCRegInfo::Load(CLog* pLog)
-{
-    Loading loading(*this, pLog);
-    const bool bResult = CSIURegInfo::Load(pLog);
-    loading.Read(Settings(), std::span<const Setting>{std::begin(kSettings), kAfterCashModule});
-    LoadLights(loading);
-    loading.Read(Settings(), std::span<const Setting>{kAfterCashModule, std::end(kSettings)});
-    return bResult;
-}
-
-void CSpSIUCABCRegInfo::LoadLights(Loading& loading)
+void CSpSIUCABCRegInfo::MapLights(CLog* pLog)
 {
     m_arLightMap.RemoveAll();
     m_arCashModuleLightMap.RemoveAll();
     if (!m_bCashModuleLight) {
-        GetXFSIndexOfPhyLight(0, L"2");
+        m_arLightMap.Add({kDispenserLight, WFS_SIU_NOTESDISPENSER});
     }
-    for (unsigned light = kFirstLight; light <= kLastLight; ++light) {
-        CString strIndexes;
-        if (light == 5 && m_bCashModuleLight) {
-            strIndexes = L"2";
-            m_arCashModuleLightMap.Add({5, 2});
+    for (WORD light = kFirstLight; light <= kLastLight; ++light) {
+        CString strIndexes = m_strLightIndexes[light - kFirstLight];
+        if (light == kFirstLight && m_bCashModuleLight) {
+            m_arCashModuleLightMap.Add({light, WFS_SIU_NOTESDISPENSER});
+            strIndexes.Format(L"%d", static_cast<int>(WFS_SIU_NOTESDISPENSER));
         } else {
-            loading.Query(key::Control, LightName(light), strIndexes);
-            GetXFSIndexOfPhyLight(LOWORD(light), strIndexes);
+            GetXFSIndexOfPhyLight(light, strIndexes);
         }
         if (!strIndexes.IsEmpty()) {
-            LogInfo(loading.Log(), L"[CFG] %40s : %s[%s]", LightName(light), strIndexes, kLightMeaning);
+            LogInfo(pLog, L"[CFG] %40s : %s[%s]", FormatString(L"XFSIndesOfLight_%d", +light), strIndexes,
+                    kLightRows<kFirstLight>[0].meaning);
         }
     }
 }
 
 void CSpSIUCABCRegInfo::GetXFSIndexOfPhyLight(WORD wPhysicalLight, const CString& strIndexes)
 {
-    CStringArray arIndexes;
-    CStringUtility::SplitString(arIndexes, strIndexes, L',');
-    for (const auto& strIndex : arIndexes) {
-        m_arLightMap.Add({wPhysicalLight, LOWORD(ParseDecimal(strIndex.View()))});
+    for (const WORD wIndex : IndexesIn(strIndexes)) {
+        m_arLightMap.Add({wPhysicalLight, wIndex});
     }
 }
 
-void CSpSIUCABCRegInfo::Save()
-{
-    Saving saving(*this);
-    CSIURegInfo::Save();
-    saving.Write({std::begin(kSettings), kAfterCashModule});
-    for (unsigned light = m_bCashModuleLight ? kFirstLight + 1 : kFirstLight; light <= kLastLight; ++light) {
-        CString strIndexes;
-        for (const auto& mapping : m_arLightMap) {
-            if (mapping.wPhyLight == light) {
-                strIndexes.AppendFormat(strIndexes.IsEmpty() ? L"%d" : L",%d", +mapping.wXFSIndex);
-            }
-        }
-        saving.Put(key::Control, LightName(light), strIndexes);
-    }
-    saving.Write({kAfterCashModule, std::end(kSettings)});
-}
-
-WQSPCFG_CATALOGUE_ENTRY(CSpSIUCABCRegInfo)
+WQSPCFG_SETTINGS_MEMBERS(CSpSIUCABCRegInfo, CSIURegInfo)

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "wqspcfg/classes/SIURegInfo.h"
+#include "wqspcfg/parts/SafeAgent.h"
+
+namespace wqspcfg {
 
 namespace wqspcfg {
 
@@ -39,7 +42,7 @@ struct TEK0816Port
 //   index of the light or switch;
 // - a kind of port, "_" and a decimal number (DOOR_1): the port of that kind at that number.
 // Any other type, and an index that the kind's array does not have, gives no port.
-class WQSPCFG_API CSpSIUTEK0816RegInfo : public CSIURegInfo
+class WQSPCFG_API CSpSIUTEK0816RegInfo : public CSIURegInfo, public wqspcfg::SafeAgent
 {
   public:
     static constexpr unsigned kLights = 16;
@@ -51,40 +54,34 @@ class WQSPCFG_API CSpSIUTEK0816RegInfo : public CSIURegInfo
 
     static const wqspcfg::Table& Settings() noexcept;
 
-    DWORD m_dwPort;
-    DWORD m_dwBaudRate;
-    DWORD m_dwPortScr;
-    DWORD m_dwBaudRateScr;
-    bool m_bIsDoorStChangeSwitchSt;
-    bool m_bCloseAsOpen;
-    bool m_bBSTIsUsed;
-    DWORD m_dwCoolingTime;
-    bool m_bManualResetSkimmerStatus;
-    DWORD m_dwUseSafeAgent;
-    DWORD m_dwBeepOn;
-    DWORD m_dwRelayAlarmOn;
-    DWORD m_dwBlindPoint;
-    DWORD m_dwBlindAlarmTime; // seconds
-    DWORD m_dwCoverAlarmTime; // seconds
-    DWORD m_dwAutoCancel;
+    DWORD m_dwPort{};
+    DWORD m_dwBaudRate{};
+    DWORD m_dwPortScr{};
+    DWORD m_dwBaudRateScr{};
+    bool m_bIsDoorStChangeSwitchSt{};
+    bool m_bCloseAsOpen{};
+    bool m_bBSTIsUsed{};
+    DWORD m_dwCoolingTime{};
+    bool m_bManualResetSkimmerStatus{};
+    DWORD m_dwUseSafeAgent{};
     wqspcfg::TEK0816Port m_arLight[kLights];    // light n at n - 1
     wqspcfg::TEK0816Port m_arSwitch[kSwitches]; // switch n at n - 1
-    bool m_bUseSBUPS;
-    DWORD m_dwSBDevType;
-    DWORD m_dwUPSBaudRate;
-    DWORD m_dwUPSPort;
+    bool m_bUseSBUPS{};
+    DWORD m_dwSBDevType{};
+    DWORD m_dwUPSBaudRate{};
+    DWORD m_dwUPSPort{};
     // Sound files; empty: silent.
     CString m_strSlowFlash;
     CString m_strQuickFlash;
     CString m_strMediumFlash;
-    DWORD m_dwSIUTYPE;
-    DWORD m_dwRearUpDoorRelationCabinet;
-    DWORD m_dwKeepSupervisorCabinetOpen;
-    bool m_bUseAuraLight;
-    bool m_bSetScreenSTByProximityST;
-    DWORD m_dwScreenPowerOffCoolDownTime;
-    bool m_bSetCameraGuidLightOn;
-    DWORD m_dwDecorateDoorRelateCabinet;
+    DWORD m_dwSIUTYPE{};
+    DWORD m_dwRearUpDoorRelationCabinet{};
+    DWORD m_dwKeepSupervisorCabinetOpen{};
+    bool m_bUseAuraLight{};
+    bool m_bSetScreenSTByProximityST{};
+    DWORD m_dwScreenPowerOffCoolDownTime{};
+    bool m_bSetCameraGuidLightOn{};
+    DWORD m_dwDecorateDoorRelateCabinet{};
 
   private:
     static wqspcfg::XFSPort ResolveXFSInd(const CString& strType, DWORD dwIndex);

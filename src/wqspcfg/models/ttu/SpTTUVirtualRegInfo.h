@@ -1,20 +1,21 @@
 #pragma once
 
-#include "wqspcfg/models/shared/TextTerminal.h"
+#include "wqspcfg/classes/TTURegInfo.h"
+#include "wqspcfg/parts/TextTerminal.h"
 
 namespace wqspcfg {
 
 // A function-key button beside the screen of the virtual terminal.
 struct FdkButton
 {
-    bool m_bEnabled;
+    bool m_bEnabled{};
     CString m_strText; // empty: the button shows its number
 };
 
 } // namespace wqspcfg
 
 // The virtual text terminal: a window with a screen, LEDs and function-key buttons, for a terminal without the device.
-class WQSPCFG_API CSpTTUVirtualRegInfo : public wqspcfg::TextTerminal
+class WQSPCFG_API CSpTTUVirtualRegInfo : public CTTURegInfo, public wqspcfg::TextTerminal
 {
   public:
     // The function keys FDK01 to FDK08: four on the left of the screen, then four on its right.

@@ -109,8 +109,13 @@ class CMap
     INT_PTR GetSize() const noexcept { return GetCount(); }
     bool IsEmpty() const noexcept { return m_nodes.empty(); }
     // Prepares for that many entries, whatever the map holds already.
-    void InitHashTable(UINT hashSize) { m_nodes.reserve(hashSize); }
-    UINT GetHashTableSize() const noexcept { return static_cast<UINT>(m_nodes.bucket_count()); }
+    void InitHashTable(UINT hashSize)
+    {
+        m_nodes.reserve(hashSize);
+        m_hashSize = hashSize;
+    }
+    // What InitHashTable was last given; 17 until then.
+    UINT GetHashTableSize() const noexcept { return m_hashSize; }
 
     // FALSE leaves `value` as it was.
     BOOL Lookup(ARG_KEY key, VALUE& value) const
@@ -186,6 +191,7 @@ class CMap
     void AddAll(const CMap& other)
     {
         m_nodes.reserve(other.m_nodes.size());
+        m_hashSize = other.m_hashSize;
         for (const Node* node = other.m_first; node != nullptr; node = node->second.next) {
             Node& copy = *m_nodes.try_emplace(node->first, Slot{node->second.value, m_last, nullptr}).first;
             (m_last != nullptr ? m_last->second.next : m_first) = &copy;
@@ -198,11 +204,13 @@ class CMap
         m_nodes.swap(other.m_nodes);
         std::swap(m_first, other.m_first);
         std::swap(m_last, other.m_last);
+        std::swap(m_hashSize, other.m_hashSize);
     }
 
     std::unordered_map<KEY, Slot, Hash, Equal> m_nodes;
     Node* m_first = nullptr;
     Node* m_last = nullptr;
+    UINT m_hashSize = 17;
 };
 
 class CMapStringToString : public CMap<CString, LPCWSTR, CString, const CString&>
