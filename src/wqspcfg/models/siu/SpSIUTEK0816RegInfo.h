@@ -5,8 +5,6 @@
 
 namespace wqspcfg {
 
-namespace wqspcfg {
-
 // A port of the XFS interface.
 struct XFSPort
 {
