@@ -1,4 +1,5 @@
 #include "wqspcfg/core/SavePolicy.h"
+#include "wqspcfg/classes/CRMRegInfo.h"
 
 #include "support/ConfigTest.h"
 #include "wqspcfg/classes/IDCRegInfo.h"
@@ -51,6 +52,19 @@ TEST_F(SavePolicyTest, WhatOthersChangedStaysAndWhatTheObjectChangedIsWritten)
     EXPECT_EQ(Number(m_comm, L"BaudRate"), 19200U);
     EXPECT_TRUE(
         std::ranges::none_of(m_log.Entries(), [](const auto& entry) { return entry.severity == Severity::Error; }));
+}
+
+TEST_F(SavePolicyTest, RecordsOfSerialNumbersKeepWhatOthersChanged)
+{
+    const auto key = Device(L"SNRData");
+    Set(key, L"dwAPID", 2);
+    CCRMRegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    Set(key, L"dwAPID", 3);
+    config.m_sBillSNRegInfo.dwIndexStrLen = 4;
+    config.Save();
+    EXPECT_EQ(Number(key, L"dwAPID"), 3U);
+    EXPECT_EQ(Number(key, L"dwIndexStrLen"), 4U);
 }
 
 TEST_F(SavePolicyTest, TwoObjectsOnOneDeviceKeyKeepEachOthersChanges)

@@ -90,7 +90,7 @@ constexpr auto kCheckNotEmpty = Normalize([](C&, DWORD dwValue, bool) -> DWORD {
 constexpr auto kMixOrderWhereRandom = Normalize(
     [](C& c, DWORD dwOrder, bool) -> DWORD { return c.m_dwEnableRandSpecMix != 0 && dwOrder == 0 ? 3142 : dwOrder; });
 
-// Cassettes that stop when they are plugged keep the states of their low byte.
+// The states of the low byte are not restored where plugging a cassette has a consequence.
 constexpr auto kRecoverUnlessPlugged = Normalize(
     [](C& c, DWORD dwStates, bool) -> DWORD { return LOBYTE(c.m_dwStopIfPlugCU) != 0 ? dwStates & 0xFF00 : dwStates; });
 

@@ -23,10 +23,11 @@ class WQSPCFG_API CCRMRegInfo : public CRegInfo
     using NoteTypes = CArray<_wfs_cim_note_type, _wfs_cim_note_type&>;
 
     CCRMRegInfo(const CString& strName, bool bPhysicalName);
-    // False when the note types cannot be read or the device key has no subkey SNRData (serial numbers): what comes
-    // after them then keeps its value, the defaults in a new object.
+    // False when the note types cannot be read or the device key has no subkey SNRData (serial numbers). Load ends
+    // there, and members that it would read later keep their values.
     bool Load(CLog* pLog) override;
-    // Without the subkey SNRData, nothing is written that comes after the note types.
+    // Writes what is saved of this class, and not what CRegInfo saves. Ends behind the note types where the device key
+    // has no subkey SNRData.
     void Save() override;
 
     // The note IDs in the order of the subkeys; on an error, those before it.

@@ -772,20 +772,30 @@ void WriteChanged(CRegKeyEx& record, const Setting& row, KeyReader& reader, KeyW
     T stored = FromValue<T>(row, row.defaultValue, 0);
     const bool found = reader.Query(row.name, stored);
     Correct(row, record, stored, found, 0);
-    if (const T held = HeldOf<T>(row, record, 0); held != stored) {
-        writer.Set(row.name, held);
+    const T held = HeldOf<T>(row, record, 0);
+    if (held == stored) {
+        return;
     }
+    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+        const auto* loaded = FindLoaded(record, row, 0);
+        if (loaded != nullptr && loaded->held == ContentOf(held)) {
+            return; // somebody else changed it
+        }
+        RememberLoaded(record, row, 0, {ContentOf(held), ContentOf(held)}, LogOfLoad(record));
+    }
+    writer.Set(row.name, held);
 }
 
 } // namespace
 
-void WriteRecord(CRegKeyEx& record, std::span<const Setting> rows, HKEY key, KeyWriter& writer)
+void WriteRecord(const CRegKeyEx& record, std::span<const Setting> rows, HKEY key, KeyWriter& writer)
 {
     KeyReader reader(key);
+    auto& object = const_cast<CRegKeyEx&>(record); // rows find the members of objects that can be loaded
     Walk(rows, nullptr, EnterAll, [&](const Setting& row, const Iteration*) {
-        if (row.saved && row.bound) {
-            IsNumber(row) ? WriteChanged<DWORD>(record, row, reader, writer)
-                          : WriteChanged<CString>(record, row, reader, writer);
+        if (IsWritten(row)) {
+            IsNumber(row) ? WriteChanged<DWORD>(object, row, reader, writer)
+                          : WriteChanged<CString>(object, row, reader, writer);
         }
         return true;
     });

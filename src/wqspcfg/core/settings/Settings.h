@@ -181,7 +181,7 @@ class WQSPCFG_API Saving
 // Writes the saved settings of a record to the open key that `writer` is for. A value that a Load would take from there
 // as the record holds it is not written: what is missing or of another type stays as it is until somebody changes the
 // member.
-WQSPCFG_API void WriteRecord(CRegKeyEx& record, std::span<const Setting> rows, HKEY key, KeyWriter& writer);
+WQSPCFG_API void WriteRecord(const CRegKeyEx& record, std::span<const Setting> rows, HKEY key, KeyWriter& writer);
 
 // Reads one setting from its key or its fallback key; where neither holds it, `value` becomes the default, and the
 // result is false. What is corrected while loading is not corrected here.

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "wqspcfg/core/RegKeyEx.h"
-#include "wqspcfg/platform/base/Export.h"
+#include "wqspcfg/parts/serial/SerialRecord.h"
 
 // The black list of banknote serial numbers.
-struct WQSPCFG_API tagBillBLRegInfo : CRegKeyEx
+struct WQSPCFG_API tagBillBLRegInfo : wqspcfg::SerialRecord
 {
     tagBillBLRegInfo();
     // Reads every value, each with its default where it is missing. False when the key is not open; everything is

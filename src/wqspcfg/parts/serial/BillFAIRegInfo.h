@@ -1,10 +1,9 @@
 #pragma once
 
-#include "wqspcfg/core/RegKeyEx.h"
-#include "wqspcfg/platform/base/Export.h"
+#include "wqspcfg/parts/serial/SerialRecord.h"
 
 // The file of warnings about suspicious notes that is written for the application.
-struct WQSPCFG_API tagBillFAIRegInfo : CRegKeyEx
+struct WQSPCFG_API tagBillFAIRegInfo : wqspcfg::SerialRecord
 {
     tagBillFAIRegInfo();
     // Reads every value, each with its default where it is missing. False when the key is not open; everything is

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "wqspcfg/core/RegKeyEx.h"
-#include "wqspcfg/platform/base/Export.h"
+#include "wqspcfg/parts/serial/SerialRecord.h"
 
 // One part of a composed file or folder name.
 struct tagFSNNamePart
@@ -19,7 +18,7 @@ struct tagFSNNamePart
 // The two lists of name parts are in the subkeys FSNFileNameParts\Data%d and FSNFolderParts\Data%d, numbered from 1
 // without a count: a list ends before the first part that is missing or whose Type is not 1 to 9. Save puts a Type of 0
 // behind a list that has become shorter.
-struct WQSPCFG_API tagBillFSNRegInfo : CRegKeyEx
+struct WQSPCFG_API tagBillFSNRegInfo : wqspcfg::SerialRecord
 {
     tagBillFSNRegInfo();
     // Reads every value, each with its default where it is missing. False when the key is not open; everything is

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "wqspcfg/core/RegKeyEx.h"
-#include "wqspcfg/platform/base/Export.h"
+#include "wqspcfg/parts/serial/SerialRecord.h"
 
 // Banknote serial numbers: where they are kept, how the index file is written, and which operations make them.
-struct WQSPCFG_API tagBillSNRegInfo : CRegKeyEx
+struct WQSPCFG_API tagBillSNRegInfo : wqspcfg::SerialRecord
 {
     tagBillSNRegInfo();
     // Reads every value, each with its default where it is missing. False when the key is not open; everything is

@@ -1,3 +1,4 @@
+#include "wqspcfg/core/settings/OwnChanges.h"
 #include "wqspcfg/parts/serial/SerialRows.h"
 
 #include <iterator>
@@ -19,8 +20,7 @@ template <class R>
 bool SaveRecord(const R& record, HKEY hKey, std::span<const Setting> rows)
 {
     KeyWriter writer(hKey);
-    auto copy = record; // hooks of rows take an object that they may change
-    WriteRecord(copy, rows, hKey, writer);
+    WriteRecord(record, rows, hKey, writer);
     return writer.Commit();
 }
 
@@ -89,6 +89,11 @@ void wqspcfg::LoadNameParts(NameParts& parts, Loading& loading, std::span<const 
         loading.Print(rows[1], part.Value, &iteration);
         loading.Print(rows[2], part.Link, &iteration);
     }
+}
+
+SerialRecord::~SerialRecord()
+{
+    ForgetLoaded(*this);
 }
 
 tagBillSNRegInfo::tagBillSNRegInfo()
