@@ -11,10 +11,10 @@ constexpr Key kCamera = key::Below(L"Camera");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {kCamera,      L"RoomHigh",                  &C::m_dwRoomHigh,              0,      L"room height"},
-    {kCamera,      L"PersonHigh",                &C::m_dwPersonHigh,            0,      L"person height"},
-    {kCamera,      L"ExtraHigh",                 &C::m_dwExtraHigh,             0,      L"extension height"},
-    {kCamera,      L"ExitSlotHigh",              &C::m_dwExitSlotHigh,          0,      L"height of the exit slot"},
+    {kCamera, L"RoomHigh",     &C::m_dwRoomHigh,     0, L"room height"},
+    {kCamera, L"PersonHigh",   &C::m_dwPersonHigh,   0, L"person height"},
+    {kCamera, L"ExtraHigh",    &C::m_dwExtraHigh,    0, L"extension height"},
+    {kCamera, L"ExitSlotHigh", &C::m_dwExitSlotHigh, 0, L"height of the exit slot"},
     {kCamera, L"HighCameraHigh", &C::m_dwHighCameraHigh, 0,
      L"threshold at which the picture store of the document camera counts as nearly full"},
     {key::Control, L"ApID", &C::m_dwApID, 0,
@@ -23,7 +23,7 @@ constexpr Setting kSettings[] = {
      L"preview window X coordinate", Saved},
     {kCamera, L"PosY", &C::m_dwPosY, 0,
      L"preview window Y coordinate", Saved},
-    {kCamera,      L"PosW",                      &C::m_dwPosW,                  400,    L"preview window width", Saved},
+    {kCamera, L"PosW", &C::m_dwPosW, 400, L"preview window width", Saved},
     {kCamera, L"PosH", &C::m_dwPosH, 300,
      L"preview window height", Saved},
     {key::Control, L"CheckDisplayHwnd", &C::m_bCheckDisplayHwnd, 1,

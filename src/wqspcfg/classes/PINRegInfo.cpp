@@ -135,7 +135,7 @@ constexpr Setting kSettings[] = {
      meaning::kDerivationAlgorithms},
     {kCapabilities, L"PresentationAlgorithms", &C::m_dwPresentationAlgorithms, 0,
      meaning::kPresentationAlgorithms},
-    {kCapabilities,    L"IDKey",                    &C::m_dwIDKey,                    0,      meaning::kIDKey},
+    {kCapabilities, L"IDKey", &C::m_dwIDKey, 0, meaning::kIDKey},
 };
 
 constexpr const wchar_t* kSaved[] = {

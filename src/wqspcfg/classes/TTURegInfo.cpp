@@ -75,7 +75,7 @@ constexpr Setting kSettings[] = {
      L"key name of this key; a subkey is an entry with an empty text", NotLogged, KeepWhenMissing, SubkeyNames, Saved},
     {kForm, L"IsUseInitialValue", &C::m_bIsUseInitialValue, 0,
      L"forms are written with their initial values: 0 no; nonzero yes"},
-    {kLed,  L"MutableLedIndex",   &C::m_bMutableLedIndex,   0, L"LED indexes are configurable: 0 no; nonzero yes"},
+    {kLed, L"MutableLedIndex", &C::m_bMutableLedIndex, 0, L"LED indexes are configurable: 0 no; nonzero yes"},
 };
 // clang-format on
 

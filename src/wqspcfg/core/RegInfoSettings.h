@@ -110,11 +110,11 @@ inline constexpr Setting kExeDllMother{
     key::Service, L"ExeDllMother", StringValue, L"",
     L"how the service provider is assembled: the executable or the mother process that carries it"};
 inline constexpr Setting kSetupRest[] = {
-    {key::Setup,   L"Components",        StringValue, L"",    L"installed components"},
-    {key::Setup,   L"ExcludeComponents", StringValue, L"",    L"components that are not installed"},
+    {key::Setup, L"Components",        StringValue, L"", L"installed components"},
+    {key::Setup, L"ExcludeComponents", StringValue, L"", L"components that are not installed"},
     {key::Setup, L"ConnetType", DwordValue, 0,
      L"connection of remote calls: 0 network; 1 Bluetooth", OneOf},
-    {key::Setup,   L"NetTimeOut",        DwordValue,  180000, L"time-out in ms for the data of remote calls"},
+    {key::Setup, L"NetTimeOut", DwordValue, 180000, L"time-out in ms for the data of remote calls"},
     kExeDllMother,
 };
 

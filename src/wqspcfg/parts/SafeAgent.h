@@ -21,9 +21,9 @@ inline constexpr Key kSafeAgent = key::Below(L"SafeAgent\\");
 // clang-format off
 template <class C>
 inline constexpr Setting kSafeAgentRows[] = {
-    {kSafeAgent, L"BeepOn", Of<C, &SafeAgent::m_dwBeepOn>, 1, meaning::kBeepOn, Saved},
+    {kSafeAgent, L"BeepOn",       Of<C, &SafeAgent::m_dwBeepOn>,       1, meaning::kBeepOn, Saved},
     {kSafeAgent, L"RelayAlarmOn", Of<C, &SafeAgent::m_dwRelayAlarmOn>, 0, meaning::kRelayAlarmOn, Saved},
-    {kSafeAgent, L"BlindPoint", Of<C, &SafeAgent::m_dwBlindPoint>, 0, meaning::kBlindPoint, Saved, Range(0, 255)},
+    {kSafeAgent, L"BlindPoint",   Of<C, &SafeAgent::m_dwBlindPoint>,   0, meaning::kBlindPoint, Saved, Range(0, 255)},
     {kSafeAgent, L"BlindAlarmTime", Of<C, &SafeAgent::m_dwBlindAlarmTime>, 3,
      meaning::kBlindAlarmTime, Saved, Range(0, 255)},
     {kSafeAgent, L"CoverAlarmTime", Of<C, &SafeAgent::m_dwCoverAlarmTime>, 300,

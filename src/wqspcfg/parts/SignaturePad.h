@@ -32,10 +32,10 @@ inline constexpr Setting kSignaturePadRows[] = {
      L"pen colour of the signature, as an RGB number", Saved},
     {kSign, L"SignPenWidth", Of<C, &SignaturePad::m_dwSignPenWidth>, 3,
      L"pen width of the signature, in pixels", Saved},
-    {kTip, L"PosX", Of<C, &SignaturePad::m_dwPosX>, 10, L"X position of the tip text", Saved},
-    {kTip, L"PosY", Of<C, &SignaturePad::m_dwPosY>, 10, L"Y position of the tip text", Saved},
-    {kTip, L"FontName", Of<C, &SignaturePad::m_strFontName>, L"Arial", L"font of the tip text", Saved},
-    {kTip, L"FontSize", Of<C, &SignaturePad::m_dwFontSize>, 20, L"size of the tip text", Saved},
+    {kTip, L"PosX",      Of<C, &SignaturePad::m_dwPosX>,      10, L"X position of the tip text", Saved},
+    {kTip, L"PosY",      Of<C, &SignaturePad::m_dwPosY>,      10, L"Y position of the tip text", Saved},
+    {kTip, L"FontName",  Of<C, &SignaturePad::m_strFontName>, L"Arial", L"font of the tip text", Saved},
+    {kTip, L"FontSize",  Of<C, &SignaturePad::m_dwFontSize>,  20, L"size of the tip text", Saved},
     {kTip, L"TextColor", Of<C, &SignaturePad::m_dwTextColor>, 0, L"colour of the tip text, as an RGB number", Saved},
 };
 // clang-format on

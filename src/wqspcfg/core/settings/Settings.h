@@ -139,7 +139,7 @@ class WQSPCFG_API Loading
     Loading* m_outer;
     HKEY m_recordKey = nullptr;
     std::optional<KeyReader> m_record; // of a record
-    bool m_complete = true; // no needed setting was missing
+    bool m_complete = true;            // no needed setting was missing
 };
 
 // One Save: everything written within it becomes durable together, or nothing does. An object without a device key (a

@@ -14,8 +14,8 @@ constexpr Setting kSettings[] = {
      L"communication type: 0 USB; 1 serial", Saved, KeepWhenMissing, OneOf},
     {key::Comm, L"Port", &C::m_dwPort, 1,
      meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
-    {key::Comm,    L"BaudRate",     &C::m_dwBaudRate,     115200, meaning::kBaudRate, Saved},
-    {key::Device,  L"GetdataTimes", &C::m_dwGetdataTimes, 1,      L"number of data reads", Saved, KeepWhenMissing},
+    {key::Comm,   L"BaudRate",     &C::m_dwBaudRate,     115200, meaning::kBaudRate, Saved},
+    {key::Device, L"GetdataTimes", &C::m_dwGetdataTimes, 1,      L"number of data reads", Saved, KeepWhenMissing},
 };
 // clang-format on
 

@@ -14,7 +14,7 @@ constexpr Setting kSettings[] = {
      L"text is shown on the picture: 0 no; nonzero yes", Saved},
     {key::Control, L"CamID", &C::m_strCamID, L"VID_2C7F&PID_1A20,VID_2C7F&PID_1A90;VID_C168&PID_C098,VID_D168&PID_D098",
      L"USB identifiers: \",\" separates the alternatives of one camera, \";\" the cameras", Saved},
-    {key::Control, L"CameraIndex", &C::m_dwCameraIndex, 0,        L"index of the camera among those connected", Saved},
+    {key::Control, L"CameraIndex", &C::m_dwCameraIndex, 0, L"index of the camera among those connected", Saved},
 };
 // clang-format on
 

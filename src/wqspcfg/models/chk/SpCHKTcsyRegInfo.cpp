@@ -12,7 +12,7 @@ namespace {
 constexpr Setting kSettings[] = {
     {key::Comm, L"Port", &C::m_dwPort, 1,
      meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
-    {key::Comm,    L"BaudRate",          &C::m_dwBaudRate,         9600, meaning::kBaudRate, Saved},
+    {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
     {key::Control, L"DevType", &C::m_dwDevType, 0,
      L"device variant: 0 the reader vendor's production setting; 1 that vendor's test setting for one bank; 2 and 3 "
      L"fingerprint readers of two other makers", Saved, OneOf},

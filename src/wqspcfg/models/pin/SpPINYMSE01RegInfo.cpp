@@ -35,7 +35,7 @@ constexpr Setting kSettings[] = {
      meaning::kDerivationAlgorithms, Saved},
     {key::Device, L"PresentationAlgorithms", &C::m_dwPresentationAlgorithms, 0,
      meaning::kPresentationAlgorithms, Saved},
-    {key::Device,  L"IDKey",                        &C::m_dwIDKey,                        0,   meaning::kIDKey, Saved},
+    {key::Device, L"IDKey", &C::m_dwIDKey, 0, meaning::kIDKey, Saved},
     {key::Device, L"EnableIdlePCKeyEvent", &C::m_bEnableIdlePCKeyEvent, 0,
      meaning::kEnableIdlePCKeyEvent, Saved},
 };

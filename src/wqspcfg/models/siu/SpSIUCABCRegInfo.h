@@ -80,7 +80,7 @@ class WQSPCFG_API CSpSIUCABCRegInfo : public CSIURegInfo, public wqspcfg::SafeAg
     LightMap m_arLightMap;           // filled afresh by Load
     LightMap m_arCashModuleLightMap;
     DWORD m_dwProximityPresentWaitTime{}; // milliseconds
-    CString m_strLightIndexes[kLights]; // as Load read them or Save wrote them, light 5 first
+    CString m_strLightIndexes[kLights];   // as Load read them or Save wrote them, light 5 first
 
   private:
     void MapLights(CLog* pLog);
