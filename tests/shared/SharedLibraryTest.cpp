@@ -81,8 +81,8 @@ class SharedLibraryTest : public ConfigTest
                 FailCast();
             }
         } else {
-            Provider<C> object;
-            object.m_strKeyName = L"Dev";
+            const CRegInfo owner(L"Svc", false);
+            Provider<C> object(owner);
             CheckLoad(object.Load(&m_log));
             object.Save();
         }

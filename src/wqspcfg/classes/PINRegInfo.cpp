@@ -14,6 +14,7 @@ namespace {
 
 constexpr Key kKeyboardMapping = key::Below(L"KeybordInfo\\KeyboardMapping");
 constexpr Key kFDKPosition = key::Below(L"KeybordInfo\\FDKPosition");
+constexpr Key kBankApplication = key::Absolute(L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\CGB_Encryptor");
 constexpr Key kSM = key::Below(L"SM");
 constexpr Key kSM4 = key::Below(L"SM\\SM4");
 constexpr Key kRSA = key::Below(L"RSA");
@@ -84,6 +85,9 @@ constexpr Setting kSettings[] = {
     {key::Device, L"IsAutomaticForceUseSM", &C::m_dwIsAutomaticForceUseSM, 0,
      L"ForceUseSM is switched at each load by what the bank's application has registered: 1 yes; anything else no",
      kSwitchForceUseSM},
+    {kBankApplication, L"UseSMAlgorithm", StringValue, L"",
+     L"the bank's application asks for the SM algorithms, read where IsAutomaticForceUseSM is 1: \"1\" yes", NotLogged,
+     Documented},
     {key::Device, L"CryptDataKeyUsage", &C::m_dwCryptDataKeyUsage, 0,
      L"use of the key-encryption key in the crypt command: 0 traditional ATM use; 1 VTM, CRYPT use only; 2 VTM, "
      L"CRYPT and KEYENCKEY use", Saved, OneOf},

@@ -25,7 +25,8 @@ struct VersionedKeypad
 // clang-format off
 template <class C>
 inline constexpr Setting kVersionedKeypadRows[] = {
-    {key::Comm,   L"Port",            Of<C, &VersionedKeypad::m_dwPort>,           1, meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
+    {key::Comm, L"Port", Of<C, &VersionedKeypad::m_dwPort>,
+     1, meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Device, L"Hardware",        Of<C, &VersionedKeypad::m_dwHardware>,       0, meaning::kHardware, Saved},
     {key::Device, L"EnableBackSpace", Of<C, &VersionedKeypad::m_bEnableBackSpace>, 0, meaning::kEnableBackSpace, Saved},
     {key::Device, L"BackspaceToHelp", Of<C, &VersionedKeypad::m_bBackspaceToHelp>, 0,

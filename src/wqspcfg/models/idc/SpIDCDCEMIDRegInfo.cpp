@@ -9,8 +9,6 @@ using C = CSpIDCDCEMIDRegInfo;
 
 namespace {
 
-constexpr Key kTimeSet = key::Below(L"TimeSet");
-
 // clang-format off
 constexpr Setting kSettings[] = {
     Group(kDcReaderRows),

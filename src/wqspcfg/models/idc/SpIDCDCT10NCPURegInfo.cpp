@@ -9,8 +9,6 @@ using C = CSpIDCDCT10NCPURegInfo;
 
 namespace {
 
-constexpr Key kTimeSet = key::Below(L"TimeSet");
-
 // clang-format off
 constexpr Setting kSettings[] = {
     Group(kDcReaderRows),

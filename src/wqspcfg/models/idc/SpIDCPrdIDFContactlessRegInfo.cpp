@@ -9,8 +9,6 @@ using C = CSpIDCPrdIDFContactlessRegInfo;
 
 namespace {
 
-constexpr Key kFormatData = key::Below(L"FormatData");
-constexpr Key kPicPath = key::Below(L"PicPath");
 constexpr Key kCapability = key::Below(L"Capability");
 
 // clang-format off
