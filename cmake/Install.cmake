@@ -12,14 +12,16 @@ install(
     PATTERN "RegInfoSettings.h" EXCLUDE
     PATTERN "*Rows.h" EXCLUDE
     PATTERN "CardUnitFields.h" EXCLUDE
-    PATTERN "meanings" EXCLUDE
-    PATTERN "*Rows.h" EXCLUDE
+    PATTERN "OwnChanges.h" EXCLUDE
+    PATTERN "Walk.h" EXCLUDE
     PATTERN "tools" EXCLUDE
     PATTERN "lmdb" EXCLUDE
     PATTERN "memory" EXCLUDE
     PATTERN "windows" EXCLUDE
     PATTERN "RegFileStore.h" EXCLUDE
     PATTERN "View32.h" EXCLUDE
+    PATTERN "PosixFile.h" EXCLUDE
+    PATTERN "AtomicFile.h" EXCLUDE
     PATTERN "FlatKey.h" EXCLUDE
     PATTERN "FlatTransaction.h" EXCLUDE
     PATTERN "Record.h" EXCLUDE)

@@ -92,7 +92,9 @@ struct Sample
         LmdbMap map;
         LmdbTree tree;
         bool whole = false;
-        EXPECT_EQ(map.Open(directory.File("data").c_str(), content.size()), 0);
+        const int file = open(directory.File("data").c_str(), O_RDONLY | O_CLOEXEC);
+        EXPECT_EQ(map.Open(file, content.size()), 0);
+        close(file); // the map stays
         return tree.Open(map, content.size(), kTransaction) ? ReadAll(tree, whole) : Records{};
     }
 };
@@ -169,7 +171,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     EXPECT_EQ(pwrite(file, image.data(), image.size(), 0), static_cast<ssize_t>(image.size()));
 
     LmdbMap map;
-    EXPECT_EQ(map.Open(path.c_str(), std::max(sample.image.size(), kPage)), 0);
+    EXPECT_EQ(map.Open(file, std::max(sample.image.size(), kPage)), 0);
     LmdbTree tree;
     if (!tree.Open(map, image.size(), kTransaction)) {
         EXPECT_FALSE(tree.Cause().empty());

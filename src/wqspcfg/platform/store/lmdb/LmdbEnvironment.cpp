@@ -260,11 +260,11 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
 {
     constexpr int kLooks = 200; // a process that is just opening or closing the store gets some time
     const auto self = static_cast<off_t>(getpid());
-    if (const auto status = SetLock(m_dataFile, F_RDLCK, kUserProcess + self); status != 0) {
-        error = LmdbError(address, "lock", m_dataPath, status);
-        return false;
-    }
     for (int looks = 1;; ++looks) {
+        if (const auto status = SetLock(m_dataFile, F_RDLCK, kUserProcess + self); status != 0) {
+            error = LmdbError(address, "lock", m_dataPath, status);
+            return false;
+        }
         pid_t holder = 0;
         const bool isCopy = FindLock(m_dataFile, kUserProcess + self, 1) >= 0;
         const auto user = FindLock(m_dataFile, kUserProcess, kMostProcesses);
@@ -282,7 +282,9 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
                                   " was removed or exchanged; end all processes that use the store, and try again"};
             return false;
         }
-        usleep(10000);
+        // Two that open the store at once must not wait for each other: each takes its mark back for a time of its own.
+        (void)SetLock(m_dataFile, F_UNLCK, kUserProcess + self);
+        usleep(static_cast<useconds_t>(2000 + 1000 * ((self * 7 + looks * 13) % 17)));
     }
 }
 
