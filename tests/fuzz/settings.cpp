@@ -195,7 +195,7 @@ class Registry final : public CatalogueTest
         for (std::size_t i = 0; i < settings.size(); ++i) {
             const auto& setting = settings[i];
             // A correction makes the range hold, but for the one that changes another setting.
-            if (setting.range && setting.row->bound && setting.row->correct != nullptr &&
+            if (setting.range && setting.row->bound && setting.row->normalize != nullptr &&
                 setting.name != L"VtmOutShtSafeDoorIndex" &&
                 (members[i].number < setting.range->low || members[i].number > setting.range->high)) {
                 return false;

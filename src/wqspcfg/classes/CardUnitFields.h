@@ -28,7 +28,7 @@ struct CardUnitField
           text(get), setText(set)
     {}
 
-    constexpr bool IsText() const { return text != nullptr; }
+    constexpr bool IsText() const { return row.type == Type::String; }
 
     static constexpr Key kKey = key::Below(L"CardUnit\\%s");
 };

@@ -50,7 +50,7 @@ T Cached(T& cache, const T& unread, F query)
         }
     }
     wqspcfg::ReadScope scope;
-    const T result = query();
+    T result = query();
     if (scope->Failure()) {
         return result;
     }

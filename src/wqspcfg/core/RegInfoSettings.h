@@ -254,12 +254,14 @@ inline constexpr const wchar_t* kPolicyLineNames[] = {
 inline constexpr auto kPolicyLines = [] {
     std::array<const Setting*, std::size(kPolicyLineNames)> lines{};
     for (std::size_t i = 0; i < lines.size(); ++i) {
+        bool found = false;
         for (const auto& row : kPolicy) {
             if ((row.label != nullptr ? std::wstring_view(row.label) : row.name) == kPolicyLineNames[i]) {
                 lines[i] = &row;
+                found = true;
             }
         }
-        if (lines[i] == nullptr) {
+        if (!found) {
             throw "no policy has this label";
         }
     }

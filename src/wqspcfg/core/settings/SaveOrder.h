@@ -9,44 +9,48 @@
 
 namespace wqspcfg {
 
-constexpr const Setting* FindRow(std::span<const Setting> rows, std::wstring_view name)
+// Results are told by a bool: GCC's sanitizers do not know at compile time that the address of a row is not null.
+constexpr bool FindRow(std::span<const Setting> rows, std::wstring_view name, const Setting*& found)
 {
     for (const auto& row : rows) {
         if (row.kind == Kind::Group) {
-            if (const auto* found = FindRow(row.rows, name)) {
-                return found;
+            if (FindRow(row.rows, name, found)) {
+                return true;
             }
         } else if (row.IsValue() && row.name == name) {
-            return &row;
+            found = &row;
+            return true;
         }
     }
-    return nullptr;
+    return false;
 }
 
 // The row of the given name, for what is read or written one at a time. Does not compile when there is none.
 consteval const Setting& RowOf(std::span<const Setting> rows, std::wstring_view name)
 {
-    const auto* found = FindRow(rows, name);
-    if (found == nullptr) {
+    const Setting* found = nullptr;
+    if (!FindRow(rows, name, found)) {
         throw "no setting has this name";
     }
     return *found;
 }
 
 // The saved row of the given name; the whole repetition where the row stands in one.
-constexpr const Setting* FindSaved(std::span<const Setting> rows, std::wstring_view name)
+constexpr bool FindSaved(std::span<const Setting> rows, std::wstring_view name, const Setting*& found)
 {
     for (const auto& row : rows) {
         if (row.IsBlock()) {
-            if (const auto* found = FindSaved(row.rows, name)) {
-                return row.kind == Kind::Repeat ? &row : found;
+            if (FindSaved(row.rows, name, found)) {
+                found = row.kind == Kind::Repeat ? &row : found;
+                return true;
             }
         } else if (row.saved && !row.Has(Flags::Documented) &&
                    (row.kind == Kind::WholeKey ? row.key.subkey : row.name) == name) {
-            return &row;
+            found = &row;
+            return true;
         }
     }
-    return nullptr;
+    return false;
 }
 
 constexpr std::size_t CountSaved(std::span<const Setting> rows)
@@ -67,12 +71,11 @@ consteval std::array<const Setting*, N> SaveOrder(std::span<const Setting> rows,
     std::array<const Setting*, N> order{};
     std::size_t count = 0;
     for (std::size_t i = 0; i < N; ++i) {
-        order[i] = FindSaved(rows, names[i]);
-        if (order[i] == nullptr) {
+        if (!FindSaved(rows, names[i], order[i])) {
             throw "no saved setting has this name";
         }
         for (std::size_t j = 0; j < i; ++j) {
-            if (order[j] == order[i]) {
+            if (std::wstring_view(names[j]) == names[i]) {
                 throw "the name stands twice";
             }
         }

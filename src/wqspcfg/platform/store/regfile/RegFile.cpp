@@ -329,11 +329,9 @@ class RegFileParser::Impl
                 if (IsBlank(ch)) {
                     break;
                 }
-                if (m_version == 0) {
-                    m_state = Scan::Plain;
-                } else if (ch == u'"') {
+                if (m_version != 0 && ch == u'"') {
                     m_state = Scan::Quoted;
-                } else if (ch == u'@') {
+                } else if (m_version != 0 && ch == u'@') {
                     m_state = Scan::Value;
                     m_lastInk = ch;
                 } else {
