@@ -72,7 +72,9 @@ void RememberLoaded(const CRegKeyEx& object, const Setting& row, unsigned index,
         const std::lock_guard lock(all.mutex);
         loaded = &all.objects[&object];
     }
-    loaded->log = log;
+    if (log != nullptr) {
+        loaded->log = log;
+    }
     loaded->settings[{&row, index}] = std::move(content);
 }
 

@@ -62,10 +62,11 @@ bool SaveNameParts(HKEY hKey, const NameParts& parts, std::span<const Setting> r
         }
         KeyWriter writer(hKey, strKey);
         writer.Set(rows[0].name, part.Type);
-        if (part.Value != stored.Value && part.Type != 0) {
+        // Texts behind the old end of the list are not the new part's.
+        if (part.Type != 0 && (stored.Type == 0 || part.Value != stored.Value)) {
             writer.Set(rows[1].name, part.Value);
         }
-        if (part.Link != stored.Link && part.Type != 0) {
+        if (part.Type != 0 && (stored.Type == 0 || part.Link != stored.Link)) {
             writer.Set(rows[2].name, part.Link);
         }
         bDone = writer.Commit() && bDone;

@@ -194,9 +194,10 @@ int KeepRights(const LmdbFolder& folder, const FileDescriptor& fresh)
         return errno;
     }
     const bool isForeign = own.st_uid != model.st_uid && geteuid() == 0;
-    // Where it cannot get the group, that group's rights are nobody's.
+    // Where it cannot get the group, whose members are others then, those have what both had.
     const bool isGiven = fchown(fresh.Get(), isForeign ? model.st_uid : static_cast<uid_t>(-1), model.st_gid) == 0;
-    return fchmod(fresh.Get(), model.st_mode & (isGiven ? 0777 : 0700)) != 0 ? errno : 0;
+    const auto others = model.st_mode & (model.st_mode >> 3) & 7U;
+    return fchmod(fresh.Get(), isGiven ? model.st_mode & 0777U : (model.st_mode & 0700U) | others) != 0 ? errno : 0;
 }
 
 // Another file in the place of one that is damaged or missing.

@@ -438,6 +438,10 @@ void LmdbEnvironment::CloseFiles() noexcept
         m_env = nullptr;
     }
     m_lockFile.Close();
+    if (m_dataFile && IsOurs()) {
+        // A child that was forked meanwhile may have a copy of the descriptor, which would keep this process's mark.
+        (void)SetLock(m_dataFile, F_UNLCK, kUserProcess + getpid());
+    }
     m_dataFile.Close();
 }
 
