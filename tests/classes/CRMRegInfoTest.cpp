@@ -493,6 +493,22 @@ TEST_F(CRMRegInfoTest, NamePartsAreReadUntilTheFirstMissingOneAndLogged)
     EXPECT_EQ(parts.GetSize(), 1);
 }
 
+TEST_F(CRMRegInfoTest, ANewNamePartDoesNotTakeTheTextsOfOneThatWasRemoved)
+{
+    CCRMRegInfo config(L"Svc", false);
+    auto& parts = config.m_sBillFSNRegInfo.FileNameParts;
+    parts.Add({8, L"Op", L"_"});
+    config.Save();
+    parts.RemoveAll();
+    config.Save();
+    parts.Add({9, L"", L""});
+    config.Save();
+
+    CCRMRegInfo again(L"Svc", false);
+    again.Load(&m_log);
+    EXPECT_EQ(again.m_sBillFSNRegInfo.FileNameParts, parts);
+}
+
 TEST_F(CRMRegInfoTest, SerialNumberRecordsKeepWhatIsStored)
 {
     const auto key = Device(L"SNRData");

@@ -42,7 +42,6 @@ template <Type T, Kind K = Kind::Value>
 struct Unbound
 {};
 inline constexpr Unbound<Type::Dword> DwordValue{};
-inline constexpr Unbound<Type::Flag> FlagValue{};
 inline constexpr Unbound<Type::String> StringValue{};
 inline constexpr Unbound<Type::Dword, Kind::WholeKey> DwordValues{};
 inline constexpr Unbound<Type::String, Kind::WholeKey> StringValues{};
@@ -89,14 +88,7 @@ inline constexpr auto Element = [](typename OwnerOfMember<decltype(Array)>::type
         return (object.*Array)[iteration].*(Field, ...);
     }
 };
-// A member of a part, a struct of members that several models have: Part<&C::m_scanner, &tagScanner::dwTimeOut>.
-template <auto Member, auto... Field>
-inline constexpr auto Part = [](typename OwnerOfMember<decltype(Member)>::type& object, unsigned) -> auto&
-{
-    return (object.*Member).*(Field, ...);
-};
-
-// The same for a member of a part, a struct that class C has as a base: Of<C, &C::m_dwTimeOut>, and within Repeat
+// A member of a part, a struct that class C has as a base: Of<C, &C::m_dwTimeOut>, and within Repeat
 // ElementOf<C, &C::m_arMonitor, &MonitorArea::m_dwLeft>.
 template <class C, auto Member>
 inline constexpr auto Of = [](C& object, unsigned) -> auto&

@@ -458,7 +458,7 @@ WriteScope::WriteScope(ExceptionCount inFlight)
 WriteScope::~WriteScope()
 {
     if (m_inFlight() > m_exceptions) {
-        m_session->Refuse({ErrorKind::Io, "the write was given up half-way"});
+        m_session->Refuse({ErrorKind::Io, "the write was abandoned"});
     }
     Commit();
 }
