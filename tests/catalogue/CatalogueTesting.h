@@ -84,26 +84,6 @@ inline const void* MemberOf(const DescribedSetting& setting, CRegKeyEx& owner)
     return &(object.*row.member.character);
 }
 
-inline DescribedValue Held(const DescribedSetting& setting, CRegKeyEx& object)
-{
-    const auto* member = MemberOf(setting, object);
-    switch (setting.type) {
-    case Type::Dword:
-        return {*static_cast<const DWORD*>(member), {}};
-    case Type::Flag:
-        return {*static_cast<const bool*>(member) ? 1U : 0U, {}};
-    case Type::String:
-        return {0, static_cast<const CString*>(member)->Std()};
-    case Type::Char: {
-        const auto character = *static_cast<const wchar_t*>(member);
-        return {0, character != 0 ? std::wstring(1, character) : std::wstring()};
-    }
-    case Type::None:
-        break;
-    }
-    return {};
-}
-
 // Whether the class's Save writes what `owner`, the class or one of its bases, saves.
 inline bool Saves(const ClassEntry& entry, const Table& owner)
 {

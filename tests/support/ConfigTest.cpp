@@ -85,16 +85,7 @@ std::optional<std::wstring> ConfigTest::Text(const std::wstring& path, const std
 
 void ConfigTest::ResetProcess()
 {
-    CRegInfo::m_dwFirstErrorIntervalTime = 0;
-    CRegInfo::m_dwServer = 0;
-    CRegInfo::m_arOtherSideServerName.RemoveAll();
-    CRegInfo::m_strExtraSepCharacter = L"=";
-    CRegInfo::m_dwOnlyOpenReSetTimeout = 0xFFFFFFFF;
-    for (auto* cache : {&CRegInfo::m_strDllPathName, &CRegInfo::m_strVersion, &CRegInfo::m_strProductVersion,
-                        &CRegInfo::m_strSpSettingAppID, &CRegInfo::m_strErrorCodeDescKey,
-                        &CRegInfo::m_strCapVendorDescKey, &CRegInfo::m_strCapVendorDescKeyValue}) {
-        cache->Empty();
-    }
+    CRegInfo::ForgetProcess();
 }
 
 std::vector<std::wstring> ConfigTest::Lines() const

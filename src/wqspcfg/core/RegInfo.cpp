@@ -122,6 +122,19 @@ CRegInfo::~CRegInfo()
     }
 }
 
+void CRegInfo::ForgetProcess()
+{
+    m_dwFirstErrorIntervalTime = 0;
+    m_dwServer = 0;
+    m_arOtherSideServerName.RemoveAll();
+    m_strExtraSepCharacter = L"=";
+    m_dwOnlyOpenReSetTimeout = kNotRead;
+    for (auto* text : {&m_strDllPathName, &m_strVersion, &m_strProductVersion, &m_strSpSettingAppID,
+                       &m_strErrorCodeDescKey, &m_strCapVendorDescKey, &m_strCapVendorDescKeyValue}) {
+        text->Empty();
+    }
+}
+
 bool CRegInfo::Load(CLog* pLog)
 {
     if (m_lpsPolicyGroup->DevBusy != kNotLoaded) {

@@ -40,6 +40,10 @@ class WQSPCFG_API CRegInfo : public CRegKeyEx
 
     static const wqspcfg::Table& Settings() noexcept;
 
+    // Forgets what the objects of this process have read and share, for a program that looks at several registries one
+    // after another. No other object exists.
+    static void ForgetProcess();
+
     CString GetLogicalName() const;
     // The name of the service key. A logical name that differs from the object's own becomes the object's, and its
     // physical name with it. Empty when the logical service names no provider.

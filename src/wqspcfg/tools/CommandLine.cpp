@@ -1,8 +1,9 @@
 #include "wqspcfg/tools/CommandLine.h"
 
+#include "wqspcfg/diagnosis/Nearest.h"
+#include "wqspcfg/tools/ExplainCommand.h"
 #include "wqspcfg/tools/HelpText.h"
 #include "wqspcfg/tools/MaintenanceCommands.h"
-#include "wqspcfg/tools/Nearest.h"
 #include "wqspcfg/tools/ReferenceText.h"
 #include "wqspcfg/tools/ServiceCommands.h"
 #include "wqspcfg/tools/StoreCommands.h"
@@ -21,6 +22,7 @@ namespace {
 
 constexpr char kKeyHelp[] = "A path that begins with its hive, such as HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS";
 constexpr char kNameHelp[] = "The value name; an empty one is the key's default value";
+constexpr char kJsonHelp[] = "Print JSON, for other programs";
 constexpr char kDryRunHelp[] = "Print what would be added (+), changed (~) and deleted (-), and change nothing";
 
 int WritePages(const std::string& directory, const Console& console)
@@ -70,6 +72,7 @@ class Program
     void AddServices();
     void AddLoad();
     void AddSave();
+    void AddExplain();
     void AddModels();
     void AddReference();
     void AddHelp();
@@ -112,7 +115,9 @@ Program::Program(const Console& console) : m_console(console)
                     "text must be ASCII or UTF-8")
         ->check(CLI::Range(1U, 65535U))
         ->option_text("N");
+    m_app.add_flag("--secrets", m_store.secrets, "Show keys and passwords, which are masked without it");
     AddServices();
+    AddExplain();
     AddLoad();
     AddSave();
     AddImport();
@@ -349,6 +354,23 @@ void Program::AddSave()
     command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
 }
 
+void Program::AddExplain()
+{
+    struct Options
+    {
+        ServiceChoice service;
+        ExplainOptions what;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command =
+        Add("explain", "Show each setting of a service: its value in effect, where that comes from, and why",
+            [=, this] { return Explain(m_store, options->service, options->what, m_console); });
+    AddServiceOptions(command, options->service);
+    command.add_option("SETTING", options->what.setting, "A setting's name, or Key\\Name. Default: all");
+    command.add_flag("--changed", options->what.changed, "Show only what differs from the default, as a table");
+    command.add_flag("--json", options->what.json, kJsonHelp);
+}
+
 void Program::AddModels()
 {
     Add(
@@ -431,7 +453,7 @@ void Program::FailUnknownCommand(const std::string& name) const
     for (const auto* command : m_app.get_subcommands({})) {
         commands.push_back(command->get_name());
     }
-    throw UsageError("unknown command \"" + name + "\"; did you mean \"" + Nearest(name, commands) +
+    throw UsageError("unknown command \"" + name + "\"; did you mean \"" + diagnosis::Nearest(name, commands) +
                      "\"? `wqspcfg --help` lists the commands");
 }
 

@@ -54,6 +54,7 @@ struct StoreChoice
     std::optional<std::string> address; // none: the default
     bool view32 = false;
     unsigned codePage = 0;
+    bool secrets = false; // show keys and passwords
 
     // Throws UsageError for an empty address.
     std::string Address() const;

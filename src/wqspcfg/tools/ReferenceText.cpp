@@ -1,6 +1,7 @@
 #include "wqspcfg/tools/ReferenceText.h"
 
 #include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/text/Utf.h"
 
 #include <nlohmann/json.hpp>
@@ -12,6 +13,7 @@ namespace wqspcfg::tools {
 
 namespace {
 
+using diagnosis::KeyText;
 using nlohmann::ordered_json;
 
 std::string Utf8(std::wstring_view text)
@@ -78,25 +80,6 @@ std::string DefaultText(const DescribedSetting& setting)
         text += " (constructed " + ToText(setting.type, *setting.constructed) + ")";
     }
     return text;
-}
-
-// The key as a person would look for it: below the device key by its subkey, elsewhere by its root.
-std::string KeyText(Root root, std::wstring_view subkey)
-{
-    auto key = Utf8(subkey);
-    switch (root) {
-    case Root::Device:
-        return key.empty() ? "(device key)" : key;
-    case Root::Service:
-        return key.empty() ? "(service key)" : "(service key)\\" + key;
-    case Root::Logical:
-        return key.empty() ? "(logical key)" : "(logical key)\\" + key;
-    case Root::Common:
-        return "WQCmnCfg\\" + key;
-    case Root::Absolute:
-        break;
-    }
-    return key;
 }
 
 const char* NameOf(Reference reference) noexcept

@@ -1,10 +1,8 @@
 #include "wqspcfg/tools/ServiceCommands.h"
 
 #include "wqspcfg/catalogue/Catalogue.h"
-#include "wqspcfg/catalogue/ModelSelection.h"
 #include "wqspcfg/core/RegistryRoots.h"
 #include "wqspcfg/core/settings/Reference.h"
-#include "wqspcfg/platform/store/regfile/View32.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/tools/Preview.h"
 #include "wqspcfg/tools/ScratchStore.h"
@@ -12,26 +10,6 @@
 namespace wqspcfg::tools {
 
 namespace {
-
-// The current store for as long as a command runs.
-class CurrentStoreScope
-{
-  public:
-    explicit CurrentStoreScope(std::shared_ptr<Store> store)
-    {
-        SetCurrentStore(std::move(store));
-        ClearStoreError();
-    }
-    ~CurrentStoreScope() { SetCurrentStore(nullptr); }
-    CurrentStoreScope(const CurrentStoreScope&) = delete;
-    CurrentStoreScope& operator=(const CurrentStoreScope&) = delete;
-};
-
-// Status 3 when a registry operation has failed, else `status`.
-int Checked(int status, const Console& console)
-{
-    return LastStoreError() ? console.Fail(LastStoreError()) : status;
-}
 
 // The text of log lines for a terminal.
 class LineLog final : public CLog
@@ -55,76 +33,12 @@ class LineLog final : public CLog
     std::ostream& m_out;
 };
 
-// Opens the store for a command that works with services. One that was filled from a 64-bit Windows, without --view32,
-// has no keys where service providers read them.
-std::shared_ptr<Store> OpenForServices(const StoreChoice& choice, Access access, Error& error)
-{
-    auto store = choice.Open(access, error);
-    const auto transaction = store ? store->Begin(Access::Read, error) : nullptr;
-    if (!transaction) {
-        return nullptr;
-    }
-    KeyId key = 0;
-    if (transaction->OpenKey(Hive::LocalMachine, kXfsKey, key) == Outcome::Missing &&
-        transaction->OpenKey(Hive::LocalMachine, kXfsKey32, key) == Outcome::Found) {
-        const bool isWindows = store->Address().starts_with("windows:");
-        error = {ErrorKind::BadArgument,
-                 store->Address() +
-                     ": the service providers of this terminal are 32-bit programs, whose keys stand "
-                     "under SOFTWARE\\WOW6432Node\\XFS; " +
-                     (isWindows ? "give --view32" : "import the registry export again with `import --view32`")};
-        return nullptr;
-    }
-    return store;
-}
-
 std::string KindOf(bool physical)
 {
     return physical ? "physical" : "logical";
 }
 
-// The class of the service, or null with `status` set. What it is and why goes to standard error.
-const ClassEntry* ChooseClass(const ServiceChoice& choice, const ServiceIdentity& service, const Console& console,
-                              int& status)
-{
-    if (!choice.model.empty()) {
-        const auto* entry = FindClass(Wide(choice.model));
-        if (entry == nullptr) {
-            throw UsageError(NoClass(choice.model));
-        }
-        if (entry->create == nullptr) {
-            throw UsageError(choice.model + " is a part of other classes and cannot be loaded by itself");
-        }
-        if (!service.exists) {
-            console.Note("there is no " + KindOf(choice.physical) + " service \"" + choice.name +
-                         "\"; this is what the class makes of missing keys");
-        } else if (const auto warning = ContradictionOf(service, *entry); !warning.empty()) {
-            console.Note("warning: " + Utf8(warning));
-        }
-        return entry;
-    }
-    if (!service.exists) {
-        const auto other = IdentifyService(CString(Wide(choice.name)), !choice.physical);
-        std::string message = "there is no " + KindOf(choice.physical) + " service \"" + choice.name + "\"";
-        if (other.exists) {
-            message += choice.physical ? "; leave out --physical for the logical service of that name"
-                                       : "; give --physical for the physical service of that name";
-        }
-        status = Checked(kDone, console);
-        status = status == kDone ? console.Fail(kNegative, message) : status;
-        return nullptr;
-    }
-    const auto selection = SelectModel(service);
-    console.Note(Utf8(selection.entry->table().className) + std::string(": ") + Utf8(selection.reason));
-    return selection.entry;
-}
-
 } // namespace
-
-std::string NoClass(const std::string& name)
-{
-    return "there is no class \"" + name + "\"; `wqspcfg models` lists them";
-}
 
 int ListServices(const StoreChoice& choice, const Console& console)
 {

@@ -2,18 +2,9 @@
 // store.
 #pragma once
 
-#include "wqspcfg/tools/Console.h"
-
-#include <string>
+#include "wqspcfg/tools/ServiceAccess.h"
 
 namespace wqspcfg::tools {
-
-struct ServiceChoice
-{
-    std::string name;
-    bool physical = false;
-    std::string model; // a class's name; empty: it is detected
-};
 
 // One line for each service, tab-separated: name, "logical" or "physical", class value, device key name, model class,
 // and the reason for the model class.
@@ -24,7 +15,5 @@ int LoadService(const StoreChoice& choice, const ServiceChoice& service, bool wr
 int SaveService(const StoreChoice& choice, const ServiceChoice& service, bool dryRun, const Console& console);
 // One line for each class, tab-separated: name, base and device class, "-" where there is none.
 int ListModels(const Console& console);
-// The message about a class that does not exist.
-std::string NoClass(const std::string& name);
 
 } // namespace wqspcfg::tools

@@ -1,6 +1,7 @@
 // Keys and values as the program reads and shows them.
 #pragma once
 
+#include "wqspcfg/diagnosis/StoredText.h"
 #include "wqspcfg/platform/base/WinTypes.h"
 #include "wqspcfg/platform/store/Store.h"
 
@@ -24,11 +25,8 @@ std::wstring KeyText(const FullKey& key);
 // In decimal, or in hexadecimal after "0x".
 std::optional<DWORD> ParseNumber(std::wstring_view text);
 
-std::string TypeName(ValueType type);
-
-// A number in decimal, text as it stands (each string of a REG_MULTI_SZ after the other, `separator` between them),
-// everything else as hexadecimal bytes.
-std::wstring DataText(const ValueView& value, std::wstring_view separator);
+using diagnosis::DataText;
+using diagnosis::TypeName;
 
 // `the default value`, or `the value "NAME"`.
 std::string ValueText(std::wstring_view name);

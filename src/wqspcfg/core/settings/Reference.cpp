@@ -52,7 +52,48 @@ void DescribeDefaults(const Setting& row, const Iteration* iteration, DescribedS
     }
 }
 
-DescribedSetting DescribeRow(const Setting& row, const Iteration* iteration)
+void AppendRow(const Setting& row, const Iteration* iteration, std::vector<DescribedSetting>& out)
+{
+    if (row.kind == Kind::Step) {
+        return;
+    }
+    auto described = Describe(row, iteration);
+    for (const auto& entry : row.entries) {
+        auto each = described;
+        each.name = entry.name;
+        each.label.clear();
+        each.defaultValue = {0, entry.text};
+        out.push_back(std::move(each));
+    }
+    if (row.entries.empty()) {
+        out.push_back(std::move(described));
+    }
+}
+
+void Append(std::span<const Setting> rows, std::vector<DescribedSetting>& out, bool conditional = false)
+{
+    for (const auto& row : rows) {
+        const auto first = out.size();
+        if (row.kind == Kind::Group || row.kind == Kind::Step) {
+            Append(row.rows, out, conditional || row.condition != nullptr);
+            for (auto i = first; i < out.size() && row.part != nullptr; ++i) {
+                out[i].part = row.part;
+            }
+            continue;
+        }
+        Walk(std::span(&row, 1), nullptr, EnterAll, [&](const Setting& each, const Iteration* iteration) {
+            AppendRow(each, iteration, out);
+            return true;
+        });
+        for (auto i = first; i < out.size(); ++i) {
+            out[i].conditional = conditional;
+        }
+    }
+}
+
+} // namespace
+
+DescribedSetting Describe(const Setting& row, const Iteration* iteration)
 {
     DescribedSetting described;
     described.root = row.key.root;
@@ -104,47 +145,6 @@ DescribedSetting DescribeRow(const Setting& row, const Iteration* iteration)
     return described;
 }
 
-void AppendRow(const Setting& row, const Iteration* iteration, std::vector<DescribedSetting>& out)
-{
-    if (row.kind == Kind::Step) {
-        return;
-    }
-    auto described = DescribeRow(row, iteration);
-    for (const auto& entry : row.entries) {
-        auto each = described;
-        each.name = entry.name;
-        each.label.clear();
-        each.defaultValue = {0, entry.text};
-        out.push_back(std::move(each));
-    }
-    if (row.entries.empty()) {
-        out.push_back(std::move(described));
-    }
-}
-
-void Append(std::span<const Setting> rows, std::vector<DescribedSetting>& out, bool conditional = false)
-{
-    for (const auto& row : rows) {
-        const auto first = out.size();
-        if (row.kind == Kind::Group || row.kind == Kind::Step) {
-            Append(row.rows, out, conditional || row.condition != nullptr);
-            for (auto i = first; i < out.size() && row.part != nullptr; ++i) {
-                out[i].part = row.part;
-            }
-            continue;
-        }
-        Walk(std::span(&row, 1), nullptr, EnterAll, [&](const Setting& each, const Iteration* iteration) {
-            AppendRow(each, iteration, out);
-            return true;
-        });
-        for (auto i = first; i < out.size(); ++i) {
-            out[i].conditional = conditional;
-        }
-    }
-}
-
-} // namespace
-
 std::vector<DescribedSetting> Describe(const Table& table)
 {
     std::vector<DescribedSetting> out;
@@ -164,6 +164,15 @@ std::vector<DescribedSetting> DescribeOperations(const Table& table)
         }
     }
     return out;
+}
+
+DescribedValue Held(const DescribedSetting& setting, CRegKeyEx& owner)
+{
+    auto& object = setting.part != nullptr ? setting.part(owner) : owner;
+    if (setting.type == Type::String || setting.type == Type::Char) {
+        return {0, HeldText(*setting.row, object, setting.iteration).Std()};
+    }
+    return {HeldNumber(*setting.row, object, setting.iteration), {}};
 }
 
 const char* NameOf(Type type) noexcept

@@ -73,8 +73,14 @@ struct DescribedSetting
 
 // The table's own settings in the order of loading.
 WQSPCFG_API std::vector<DescribedSetting> Describe(const Table& table);
+// One row that is no block; `iteration` is null outside Repeat.
+WQSPCFG_API DescribedSetting Describe(const Setting& row, const Iteration* iteration);
 // Those that one operation of the class reads or writes.
 WQSPCFG_API std::vector<DescribedSetting> DescribeOperations(const Table& table);
+
+// What the setting's member holds in an object of the class, or in the record that a part is. The setting is one value
+// with a member.
+WQSPCFG_API DescribedValue Held(const DescribedSetting& setting, CRegKeyEx& owner);
 
 // "dword", "flag", "string" or "char".
 WQSPCFG_API const char* NameOf(Type type) noexcept;

@@ -177,6 +177,16 @@ void Correct(const Setting& row, CRegKeyEx& object, CString& value, bool found, 
 
 } // namespace
 
+DWORD HeldNumber(const Setting& row, CRegKeyEx& object, unsigned iteration)
+{
+    return HeldOf<DWORD>(row, object, iteration);
+}
+
+CString HeldText(const Setting& row, CRegKeyEx& object, unsigned iteration)
+{
+    return HeldOf<CString>(row, object, iteration);
+}
+
 void Construct(CRegKeyEx& object, std::span<const Setting> rows)
 {
     ForgetLoaded(object); // of an object that lay here before
@@ -524,7 +534,20 @@ void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
 template <class T>
 bool Loading::QueryIteration(const Setting& row, const Iteration& iteration, T& value)
 {
-    const bool found = Find(row, &iteration, value) == Origin::Key;
+    if (m_observer != nullptr) {
+        m_observer->Begin(row, &iteration);
+    }
+    LoadedSetting loaded{m_object, row, &iteration};
+    loaded.origin = Find(row, &iteration, value);
+    const bool found = loaded.origin == Origin::Key;
+    if (m_observer != nullptr) {
+        if constexpr (std::is_same_v<T, DWORD>) {
+            loaded.read = loaded.corrected = loaded.held = value;
+        } else {
+            loaded.textRead = loaded.textHeld = &value;
+        }
+        m_observer->Loaded(loaded);
+    }
     if (GetSavePolicy() == SavePolicy::OwnChanges) {
         RememberLoaded(m_object, row, iteration.index,
                        {found ? std::optional(ContentOf(value)) : std::nullopt, ContentOf(value)}, Log());

@@ -188,6 +188,10 @@ WQSPCFG_API void WriteRecord(const CRegKeyEx& record, std::span<const Setting> r
 WQSPCFG_API bool ReadSetting(const CRegInfo& object, const Setting& row, DWORD& value);
 WQSPCFG_API bool ReadSetting(const CRegInfo& object, const Setting& row, CString& value);
 
+// What the member of a row holds: a number or flag, a text or character. The row has one (`bound`).
+WQSPCFG_API DWORD HeldNumber(const Setting& row, CRegKeyEx& object, unsigned iteration);
+WQSPCFG_API CString HeldText(const Setting& row, CRegKeyEx& object, unsigned iteration);
+
 // Sets every member to what its constructor is to set.
 WQSPCFG_API void Construct(CRegKeyEx& object, std::span<const Setting> rows);
 

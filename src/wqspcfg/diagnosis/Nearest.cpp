@@ -1,11 +1,9 @@
-#include "wqspcfg/tools/Nearest.h"
+#include "wqspcfg/diagnosis/Nearest.h"
 
 #include <algorithm>
 #include <limits>
 
-namespace wqspcfg::tools {
-
-namespace {
+namespace wqspcfg::diagnosis {
 
 std::size_t Distance(std::string_view left, std::string_view right)
 {
@@ -31,14 +29,24 @@ std::size_t Distance(std::string_view left, std::string_view right)
     return rows[left.size() % 3][right.size()];
 }
 
-} // namespace
+namespace {
 
-std::string Nearest(std::string_view name, const std::vector<std::string>& candidates)
+std::string LowerCase(std::string_view text)
+{
+    std::string lower(text);
+    for (auto& ch : lower) {
+        ch = ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch;
+    }
+    return lower;
+}
+
+template <class Measure>
+std::string NearestBy(const std::vector<std::string>& candidates, Measure distanceOf)
 {
     std::string nearest;
     auto least = std::numeric_limits<std::size_t>::max();
     for (const auto& candidate : candidates) {
-        const auto distance = Distance(name, candidate);
+        const auto distance = distanceOf(candidate);
         if (distance < least) {
             least = distance;
             nearest = candidate;
@@ -47,4 +55,17 @@ std::string Nearest(std::string_view name, const std::vector<std::string>& candi
     return nearest;
 }
 
-} // namespace wqspcfg::tools
+} // namespace
+
+std::string Nearest(std::string_view name, const std::vector<std::string>& candidates)
+{
+    return NearestBy(candidates, [&](const std::string& candidate) { return Distance(name, candidate); });
+}
+
+std::string NearestNoCase(std::string_view name, const std::vector<std::string>& candidates)
+{
+    const auto lower = LowerCase(name);
+    return NearestBy(candidates, [&](const std::string& candidate) { return Distance(lower, LowerCase(candidate)); });
+}
+
+} // namespace wqspcfg::diagnosis

@@ -1,0 +1,483 @@
+#include "wqspcfg/diagnosis/Examination.h"
+
+#include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/platform/store/RegistryValue.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/text/CaseFold.h"
+
+#include <algorithm>
+#include <map>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace wqspcfg::diagnosis {
+
+namespace {
+
+std::wstring WithoutEndingBackslash(std::wstring_view path)
+{
+    while (path.ends_with(L'\\')) {
+        path.remove_suffix(1);
+    }
+    return std::wstring(path);
+}
+
+// A place in the registry, for comparison.
+std::wstring PlaceOf(std::wstring_view path, std::wstring_view name)
+{
+    auto place = UpCase(path);
+    place += L'|';
+    place += UpCase(name);
+    return place;
+}
+
+bool IsText(const DescribedSetting& setting)
+{
+    return setting.type == Type::String || setting.type == Type::Char;
+}
+
+ValueView ViewOf(const AskedKey& key)
+{
+    return {key.type, key.data};
+}
+
+// What the key holds, in the setting's form. False where it is of another type.
+bool ToDescribed(const DescribedSetting& setting, const AskedKey& key, DescribedValue& value)
+{
+    if (IsText(setting)) {
+        CString text;
+        if (!ToValue(ViewOf(key), text)) {
+            return false;
+        }
+        value = {0, text.Std()};
+        return true;
+    }
+    DWORD number = 0;
+    if (!ToValue(ViewOf(key), number)) {
+        return false;
+    }
+    value = {number, {}};
+    return true;
+}
+
+// What the member of a row holds after `read` was taken without a correction.
+DescribedValue Taken(const DescribedSetting& setting, const DescribedValue& read)
+{
+    switch (setting.type) {
+    case Type::Flag:
+        return {read.number != 0 ? 1U : 0U, {}};
+    case Type::Char:
+        return {0, read.text.substr(0, 1)};
+    case Type::Dword:
+        return {setting.row->Has(Flags::AsSwitch) ? (read.number != 0 ? 1U : 0U) : read.number, {}};
+    case Type::String:
+    case Type::None:
+        break;
+    }
+    return read;
+}
+
+Source SourceOf(Origin origin)
+{
+    switch (origin) {
+    case Origin::Key:
+        return Source::Key;
+    case Origin::Fallback:
+        return Source::Fallback;
+    case Origin::Missing:
+        return Source::Missing;
+    case Origin::WrongType:
+        return Source::WrongType;
+    case Origin::Kept:
+        return Source::Kept;
+    case Origin::Code:
+        break;
+    }
+    return Source::Code;
+}
+
+// What a Load told of one row.
+struct Event
+{
+    const Setting* row = nullptr;
+    Iteration iteration; // its name is in `iterationName`
+    std::wstring iterationName;
+    bool isIterated = false;
+    std::vector<AskedKey> asked;
+    bool isLoaded = false;
+    CRegKeyEx* object = nullptr;
+    Origin origin = Origin::Code;
+    DescribedValue read;
+    DescribedValue held;
+};
+
+class Recorder final : public LoadObserver
+{
+  public:
+    void Begin(const Setting& row, const Iteration* iteration) override
+    {
+        Event event;
+        event.row = &row;
+        if (iteration != nullptr) {
+            event.isIterated = true;
+            event.iteration = *iteration;
+            event.iterationName = iteration->name != nullptr ? iteration->name : L"";
+        }
+        events.push_back(std::move(event));
+        m_isOpen = true;
+    }
+
+    void Loaded(const LoadedSetting& setting) override
+    {
+        m_isOpen = false;
+        // A row that reads others before its own value is told has none open any more.
+        if (events.empty() || events.back().row != &setting.row) {
+            return;
+        }
+        auto& event = events.back();
+        event.isLoaded = true;
+        event.object = &setting.object;
+        event.origin = setting.origin;
+        event.read.number = setting.read;
+        event.held.number = setting.held;
+        if (setting.textRead != nullptr) {
+            event.read.text = setting.textRead->Std();
+        }
+        if (setting.textHeld != nullptr) {
+            event.held.text = setting.textHeld->Std();
+        }
+    }
+
+    void Asked(std::wstring_view path, std::wstring_view name, Outcome outcome, const ValueView& value) override
+    {
+        if (m_isDone) {
+            return;
+        }
+        AskedKey key{WithoutEndingBackslash(path), std::wstring(name), outcome == Outcome::Found, ValueType::None, {}};
+        if (key.found) {
+            key.type = value.type;
+            key.data.assign(value.data.begin(), value.data.end());
+        }
+        (m_isOpen ? events.back().asked : byCode).push_back(std::move(key));
+    }
+
+    void AskedAll(std::wstring_view, bool) override {}
+
+    // What the session of the Load is asked for from now on does not belong to it.
+    void Stop() { m_isDone = true; }
+
+    std::vector<Event> events;
+    std::vector<AskedKey> byCode;
+
+  private:
+    bool m_isOpen = false;
+    bool m_isDone = false;
+};
+
+class Examiner
+{
+  public:
+    Examiner(const ServiceIdentity& service, const ClassEntry& entry) : m_settings(SettingsOf(entry))
+    {
+        m_out.service = service;
+        m_out.entry = &entry;
+    }
+
+    Examination Run()
+    {
+        CRegInfo::ForgetProcess();
+        const bool isPhysical = m_out.service.logicalName.empty();
+        const CString name(isPhysical ? m_out.service.physicalName : m_out.service.logicalName);
+        const auto object = Create(*m_out.entry, name, isPhysical);
+        std::optional<ObserveLoads> observe;
+        observe.emplace(m_recorder);
+        const ReadScope scope;
+        m_out.isLoaded = object->Load(nullptr);
+        observe.reset();
+        m_recorder.Stop();
+        m_object = object.get();
+        Index();
+        const auto& all = m_settings.All();
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            Add(i);
+        }
+        AddFound();
+        m_out.asked = std::move(m_recorder.byCode);
+        m_out.failure = scope->Failure();
+        m_object = nullptr;
+        return std::move(m_out);
+    }
+
+  private:
+    // A setting whose place only the code knows, such as a card unit's, stands once in the reference with a conversion.
+    static bool IsPattern(const DescribedSetting& setting)
+    {
+        return !setting.wholeKey &&
+               (setting.key.find(L'%') != std::wstring::npos || setting.name.find(L'%') != std::wstring::npos);
+    }
+
+    void Index()
+    {
+        for (auto& event : m_recorder.events) {
+            const auto index = m_settings.IndexOf(*event.row, event.iteration.index);
+            if (index == ClassSettings::npos || IsPattern(m_settings.All()[index].setting)) {
+                if (event.isLoaded) {
+                    m_foundEvents.emplace_back(&event, index);
+                }
+                continue;
+            }
+            // The last one counts; one that asked nothing does not hide what another asked.
+            auto& known = m_byIndex[index];
+            if (known != nullptr && event.asked.empty()) {
+                event.asked = known->asked;
+            }
+            known = &event;
+        }
+        const auto add = [&](const AskedKey& key) { m_byPlace.try_emplace(PlaceOf(key.path, key.name), &key); };
+        for (const auto& event : m_recorder.events) {
+            std::for_each(event.asked.begin(), event.asked.end(), add);
+        }
+        std::for_each(m_recorder.byCode.begin(), m_recorder.byCode.end(), add);
+    }
+
+    ExaminedSetting Begin(const ClassSetting& declared) const
+    {
+        ExaminedSetting out{};
+        out.declared = &declared;
+        const auto& setting = declared.setting;
+        out.path = PathOf(m_out.service, setting.root, setting.key);
+        out.name = setting.readAs.empty() ? setting.name : setting.readAs;
+        out.read = out.value = setting.defaultValue;
+        return out;
+    }
+
+    void Add(std::size_t index)
+    {
+        const auto& declared = m_settings.All()[index];
+        const auto& setting = declared.setting;
+        if (IsPattern(setting)) {
+            return;
+        }
+        if (setting.wholeKey) {
+            // The entries by default are described one by one.
+            if (index == 0 || m_settings.All()[index - 1].setting.row != setting.row) {
+                AddWholeKey(declared);
+            }
+            return;
+        }
+        auto out = Begin(declared);
+        const auto found = m_byIndex.find(index);
+        const auto* event = found != m_byIndex.end() ? found->second : nullptr;
+        if (event != nullptr) {
+            out.asked = event->asked;
+        }
+        if (event != nullptr && event->isLoaded && event->origin != Origin::Code) {
+            out.source = SourceOf(event->origin);
+            out.read = event->read;
+            out.value = event->held;
+        } else if (!setting.computed) {
+            FindRead(out);
+        }
+        // What another row has loaded, or an operation reads once more, is told once.
+        const bool isFirst = m_listed.insert(PlaceOf(out.path, out.name)).second;
+        if (!isFirst && (setting.row->Has(Flags::Preloaded) || !setting.readBy.empty())) {
+            return;
+        }
+        TakeHeld(event, out);
+        Judge(out);
+        m_out.settings.push_back(std::move(out));
+    }
+
+    // Where code reads the setting, or nothing does before an operation asks for it.
+    void FindRead(ExaminedSetting& out)
+    {
+        const auto& setting = out.Setting();
+        const bool isLoads = setting.readBy.empty() && !setting.row->Has(Flags::Documented);
+        std::vector<std::pair<std::wstring, std::wstring>> places{{out.path, out.name}};
+        if (setting.fallback) {
+            places.emplace_back(PathOf(m_out.service, setting.fallback->root, setting.fallback->key),
+                                setting.fallback->name);
+        }
+        bool isRead = false;
+        for (const auto& [path, name] : places) {
+            const auto known = m_byPlace.find(PlaceOf(path, name));
+            if (known == m_byPlace.end() && isLoads) {
+                continue;
+            }
+            isRead = true;
+            const auto key = known != m_byPlace.end() ? *known->second : Ask(path, name);
+            const bool isOwn = &path == &places.front().first;
+            if (out.source != Source::Key && out.source != Source::Fallback) {
+                if (key.found && ToDescribed(setting, key, out.read)) {
+                    out.source = isOwn ? Source::Key : Source::Fallback;
+                } else if (key.found || out.source != Source::WrongType) {
+                    out.source = key.found ? Source::WrongType : Source::Missing;
+                }
+            }
+            if (std::none_of(out.asked.begin(), out.asked.end(), [&](const AskedKey& asked) {
+                    return EqualNoCase(asked.path, key.path) && EqualNoCase(asked.name, key.name);
+                })) {
+                out.asked.push_back(key);
+            }
+        }
+        if (!isRead) {
+            out.source = Source::NotRead;
+        }
+        out.value = Taken(setting, out.read);
+    }
+
+    static AskedKey Ask(const std::wstring& path, const std::wstring& name)
+    {
+        AskedKey key{path, name, false, ValueType::None, {}};
+        const ReadScope scope;
+        ValueView view;
+        if (scope->QueryAt(path, name, view) == Outcome::Found) {
+            key.found = true;
+            key.type = view.type;
+            key.data.assign(view.data.begin(), view.data.end());
+        }
+        return key;
+    }
+
+    void TakeHeld(const Event* event, ExaminedSetting& out) const
+    {
+        const auto& setting = out.Setting();
+        if (!setting.row->bound || !setting.readBy.empty()) {
+            return;
+        }
+        if (event != nullptr && event->object != nullptr) {
+            out.value = IsText(setting)
+                            ? DescribedValue{0, HeldText(*setting.row, *event->object, setting.iteration).Std()}
+                            : DescribedValue{HeldNumber(*setting.row, *event->object, setting.iteration), {}};
+        } else if (!out.declared->isMixin) {
+            out.value = Held(setting, *m_object);
+        }
+    }
+
+    static void Judge(ExaminedSetting& out)
+    {
+        const auto& setting = out.Setting();
+        const bool isDefault = out.source == Source::Missing || out.source == Source::WrongType;
+        if (setting.computed || (isDefault && setting.computedDefault && out.value != setting.defaultValue)) {
+            out.source = Source::Code;
+        }
+        if (out.source == Source::Key || out.source == Source::Fallback || isDefault) {
+            out.isCorrected = out.value != Taken(setting, out.read);
+        }
+    }
+
+    void AddWholeKey(const ClassSetting& declared)
+    {
+        auto out = Begin(declared);
+        out.name = L"*";
+        out.source = Source::Missing;
+        const auto& setting = declared.setting;
+        const ReadScope scope;
+        scope->EnumValues(scope->Open(out.path), [&](std::wstring_view name, const ValueView& view) {
+            AskedKey key{out.path, std::wstring(name), true, view.type, {view.data.begin(), view.data.end()}};
+            DescribedValue value;
+            if (ToDescribed(setting, key, value)) {
+                out.source = Source::Key;
+                out.entries.emplace_back(key.name, IsText(setting) ? value.text : std::to_wstring(value.number));
+            }
+            out.asked.push_back(std::move(key));
+            return true;
+        });
+        if (out.entries.empty()) {
+            for (const auto& entry : setting.row->entries) {
+                out.entries.emplace_back(entry.name, entry.text);
+            }
+        }
+        m_out.settings.push_back(std::move(out));
+    }
+
+    void AddFound()
+    {
+        for (const auto& [event, index] : m_foundEvents) {
+            auto declared = std::make_unique<ClassSetting>();
+            auto iteration = event->iteration;
+            iteration.name = iteration.name != nullptr ? event->iterationName.c_str() : nullptr;
+            declared->setting = Describe(*event->row, event->isIterated ? &iteration : nullptr);
+            if (index != ClassSettings::npos) {
+                const auto& pattern = m_settings.All()[index];
+                declared->table = pattern.table;
+                declared->isSaved = pattern.isSaved;
+            } else {
+                declared->table = &m_out.entry->table();
+                declared->isSaved = declared->setting.saved;
+            }
+            auto out = Begin(*declared);
+            out.source = SourceOf(event->origin);
+            out.asked = event->asked;
+            out.read = out.value = event->held;
+            m_out.found.push_back(std::move(declared));
+            m_out.settings.push_back(std::move(out));
+        }
+    }
+
+    const ClassSettings& m_settings;
+    Examination m_out;
+    Recorder m_recorder;
+    CRegInfo* m_object = nullptr;
+    std::unordered_map<std::size_t, Event*> m_byIndex;
+    std::vector<std::pair<Event*, std::size_t>> m_foundEvents;
+    std::unordered_map<std::wstring, const AskedKey*> m_byPlace;
+    std::unordered_set<std::wstring> m_listed;
+};
+
+} // namespace
+
+bool ExaminedSetting::IsDefault() const
+{
+    const auto& setting = Setting();
+    if (setting.wholeKey) {
+        return source == Source::Missing;
+    }
+    return !setting.computed && !setting.computedDefault && value == Taken(setting, setting.defaultValue);
+}
+
+const AskedKey* ExaminedSetting::KeyInEffect() const noexcept
+{
+    if (source != Source::Key && source != Source::Fallback) {
+        return nullptr;
+    }
+    const auto found = std::find_if(asked.begin(), asked.end(), [&](const AskedKey& key) {
+        const bool isOwn = EqualNoCase(key.path, path) && EqualNoCase(key.name, name);
+        return key.found && isOwn == (source == Source::Key);
+    });
+    return found != asked.end() ? &*found : nullptr;
+}
+
+Examination Examine(const ServiceIdentity& service, const ClassEntry& entry)
+{
+    return Examiner(service, entry).Run();
+}
+
+std::wstring PathOf(const ServiceIdentity& service, Root root, std::wstring_view key)
+{
+    std::wstring path;
+    switch (root) {
+    case Root::Device:
+        path = kDeviceRoot + service.deviceKey;
+        break;
+    case Root::Service:
+        path = kServiceRoot + service.physicalName;
+        break;
+    case Root::Logical:
+        path = kLogicalRoot + service.logicalName;
+        break;
+    case Root::Common:
+        path = std::wstring(kServiceRoot) + kCommonKey;
+        break;
+    case Root::Absolute:
+        break;
+    }
+    path = WithoutEndingBackslash(path);
+    if (!key.empty()) {
+        path += path.empty() ? L"" : L"\\";
+        path += key;
+    }
+    return WithoutEndingBackslash(path);
+}
+
+} // namespace wqspcfg::diagnosis

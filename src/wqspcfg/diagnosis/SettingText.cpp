@@ -1,0 +1,184 @@
+#include "wqspcfg/diagnosis/SettingText.h"
+
+#include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/platform/text/Utf.h"
+
+#include <algorithm>
+
+namespace wqspcfg::diagnosis {
+
+namespace {
+
+constexpr std::size_t kLongestShown = 120;
+
+bool IsText(const DescribedSetting& setting)
+{
+    return setting.type == Type::String || setting.type == Type::Char;
+}
+
+std::string Quoted(std::wstring_view text)
+{
+    const bool isLong = text.size() > kLongestShown;
+    return '"' + Utf8ForMessage(text.substr(0, kLongestShown)) + (isLong ? "...\"" : "\"");
+}
+
+std::string RootText(Root root)
+{
+    return root == Root::Absolute ? "key" : std::string(NameOf(root)) + " key";
+}
+
+} // namespace
+
+std::string KeyText(Root root, std::wstring_view subkey)
+{
+    auto key = Utf8ForMessage(subkey);
+    switch (root) {
+    case Root::Device:
+        return key.empty() ? "(device key)" : key;
+    case Root::Service:
+        return key.empty() ? "(service key)" : "(service key)\\" + key;
+    case Root::Logical:
+        return key.empty() ? "(logical key)" : "(logical key)\\" + key;
+    case Root::Common:
+        return key.empty() ? "WQCmnCfg" : "WQCmnCfg\\" + key;
+    case Root::Absolute:
+        break;
+    }
+    return key;
+}
+
+std::string WordOf(const DescribedSetting& setting, DWORD number)
+{
+    const auto found = std::find_if(setting.allowed.begin(), setting.allowed.end(),
+                                    [&](const DescribedChoice& choice) { return choice.value == number; });
+    return found != setting.allowed.end() ? Utf8ForMessage(found->word) : std::string();
+}
+
+std::string ValueText(const DescribedSetting& setting, const DescribedValue& value)
+{
+    if (IsText(setting)) {
+        return Quoted(value.text);
+    }
+    const auto word = WordOf(setting, value.number);
+    return std::to_string(value.number) + (word.empty() ? "" : " " + word);
+}
+
+std::string AllowedText(const DescribedSetting& setting)
+{
+    std::string text;
+    for (const auto& choice : setting.allowed) {
+        text += (text.empty() ? "" : ", ") + std::to_string(choice.value);
+        if (!choice.word.empty()) {
+            text += ' ' + Utf8ForMessage(choice.word);
+        }
+    }
+    if (setting.range) {
+        text = std::to_string(setting.range->low) + " to " + std::to_string(setting.range->high);
+    }
+    return text;
+}
+
+bool IsAllowed(const DescribedSetting& setting, DWORD number)
+{
+    if (setting.range && (number < setting.range->low || number > setting.range->high)) {
+        return false;
+    }
+    return setting.allowed.empty() || std::any_of(setting.allowed.begin(), setting.allowed.end(),
+                                                  [&](const auto& choice) { return choice.value == number; });
+}
+
+std::string DefaultText(const DescribedSetting& setting)
+{
+    return setting.computed || setting.computedDefault ? "computed" : ValueText(setting, setting.defaultValue);
+}
+
+ValueType StoredType(const DescribedSetting& setting)
+{
+    return IsText(setting) ? ValueType::Sz : ValueType::Dword;
+}
+
+std::string StoredText(ValueType type, std::span<const std::byte> data)
+{
+    const auto text = DataText({type, data}, L" ");
+    const bool isText = type == ValueType::Sz || type == ValueType::ExpandSz || type == ValueType::MultiSz;
+    if (isText) {
+        return TypeName(type) + ' ' + Quoted(text);
+    }
+    return TypeName(type) + (text.empty() ? "" : ' ' + Utf8ForMessage(text.substr(0, kLongestShown))) +
+           (text.size() > kLongestShown ? "..." : "");
+}
+
+std::string SourceText(const ExaminedSetting& setting)
+{
+    const auto& described = setting.Setting();
+    switch (setting.source) {
+    case Source::Key:
+        return RootText(described.root);
+    case Source::Fallback:
+        return "fallback: " + RootText(described.fallback ? described.fallback->root : Root::Common);
+    case Source::Missing:
+    case Source::WrongType:
+        return "default";
+    case Source::Kept:
+        return "kept";
+    case Source::Code:
+        return "class";
+    case Source::NotRead:
+        break;
+    }
+    return "not read";
+}
+
+const char* NameOf(Source source) noexcept
+{
+    switch (source) {
+    case Source::Key:
+        return "key";
+    case Source::Fallback:
+        return "fallback";
+    case Source::Missing:
+        return "missing";
+    case Source::WrongType:
+        return "wrongType";
+    case Source::Kept:
+        return "kept";
+    case Source::Code:
+        return "code";
+    case Source::NotRead:
+        break;
+    }
+    return "notRead";
+}
+
+std::string NoteOn(const ExaminedSetting& setting, const std::function<std::string(const AskedKey&)>& place,
+                   bool showSecrets)
+{
+    const auto& described = setting.Setting();
+    const bool isMasked = described.secret && !showSecrets;
+    std::string notes;
+    const auto note = [&](const std::string& text) { notes += (notes.empty() ? "" : "; ") + text; };
+    for (const auto& key : setting.asked) {
+        if (key.found && !described.wholeKey && key.type != StoredType(described)) {
+            const auto where = place(key);
+            note((isMasked ? TypeName(key.type) : StoredText(key.type, key.data)) +
+                 (where.empty() ? "" : " at " + where) + " ignored: a " + TypeName(StoredType(described)) + " is read");
+        }
+    }
+    const bool isStored = setting.source == Source::Key || setting.source == Source::Fallback;
+    if (isStored && !IsText(described) && !described.wholeKey && !IsAllowed(described, setting.read.number)) {
+        note("not allowed: " + AllowedText(described));
+    }
+    if (setting.isCorrected) {
+        note(isMasked ? "corrected" : "corrected from " + ValueText(described, setting.read));
+    }
+    return notes;
+}
+
+std::string FullPath(std::wstring_view path)
+{
+    const bool isUsers = EqualNoCase(path.substr(0, path.find(L'\\')), L".DEFAULT");
+    return (isUsers ? "HKU\\" : "HKLM\\") + Utf8ForMessage(path);
+}
+
+} // namespace wqspcfg::diagnosis

@@ -1,0 +1,47 @@
+// Settings and their values as a person reads them. The texts are UTF-8 and hold stored text as it is: a program
+// escapes them for a terminal or a page.
+#pragma once
+
+#include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/diagnosis/Examination.h"
+
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace wqspcfg::diagnosis {
+
+// The key as a person would look for it: below the device key by its subkey, elsewhere by its root.
+std::string KeyText(Root root, std::wstring_view subkey);
+
+// "2 leave", "7", "\"COM1\"".
+std::string ValueText(const DescribedSetting& setting, const DescribedValue& value);
+// The word of a number ("leave"); empty where it has none.
+std::string WordOf(const DescribedSetting& setting, DWORD number);
+// "0 eject, 1 retain, 2 leave", "1 to 8"; empty where every value is allowed.
+std::string AllowedText(const DescribedSetting& setting);
+bool IsAllowed(const DescribedSetting& setting, DWORD number);
+// "computed" where the class makes the default.
+std::string DefaultText(const DescribedSetting& setting);
+
+// The registry type that is read: REG_DWORD or REG_SZ.
+ValueType StoredType(const DescribedSetting& setting);
+// "REG_SZ \"4\""; the text is cut when it is long.
+std::string StoredText(ValueType type, std::span<const std::byte> data);
+// What stands in place of a secret.
+inline constexpr char kMasked[] = "********";
+
+// "device key", "common key", "default", ...: where the value in effect comes from.
+std::string SourceText(const ExaminedSetting& setting);
+// The stable name of it for other programs: "key", "fallback", "missing", "wrongType", "kept", "code", "notRead".
+const char* NameOf(Source source) noexcept;
+// What a person should know of the value in effect: that it is not allowed, corrected, or that a stored one is ignored.
+// Empty where there is nothing. `place` gives "FILE:LINE" of a key that was asked, or nothing; a secret is not shown.
+std::string NoteOn(const ExaminedSetting& setting, const std::function<std::string(const AskedKey&)>& place,
+                   bool showSecrets);
+
+// A path as the messages show it, with its hive: "HKLM\SOFTWARE\XFS".
+std::string FullPath(std::wstring_view path);
+
+} // namespace wqspcfg::diagnosis

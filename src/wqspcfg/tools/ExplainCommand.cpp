@@ -1,0 +1,304 @@
+#include "wqspcfg/tools/ExplainCommand.h"
+
+#include "wqspcfg/diagnosis/Examination.h"
+#include "wqspcfg/diagnosis/Nearest.h"
+#include "wqspcfg/diagnosis/SettingText.h"
+#include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/tools/TextTable.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+namespace wqspcfg::tools {
+
+namespace {
+
+using diagnosis::AskedKey;
+using diagnosis::ExaminedSetting;
+using diagnosis::Source;
+using nlohmann::ordered_json;
+
+class Explanation
+{
+  public:
+    Explanation(const diagnosis::Examination& examination, const StoreChoice& choice)
+        : m_examination(examination), m_places(SourceOf(choice)), m_showSecrets(choice.secrets)
+    {}
+
+    void PrintChanged(const std::vector<const ExaminedSetting*>& settings, std::ostream& out)
+    {
+        TextTable table({"KEY", "NAME", "VALUE", "DEFAULT", "ORIGIN", "NOTE"});
+        for (const auto* setting : settings) {
+            const auto key = diagnosis::KeyText(setting->Setting().root, setting->Setting().key);
+            if (setting->Setting().wholeKey) {
+                for (const auto& [name, text] : setting->entries) {
+                    table.Add({key, Utf8(name), Shown(*setting, '"' + Utf8(text) + '"'), "", Origin(*setting), ""});
+                }
+                continue;
+            }
+            table.Add({key, Utf8(setting->name), Value(*setting), Default(*setting), Origin(*setting),
+                       diagnosis::NoteOn(*setting, PlaceOf(), m_showSecrets)});
+        }
+        table.Print(out);
+    }
+
+    void Print(const ExaminedSetting& setting, std::ostream& out)
+    {
+        const auto& described = setting.Setting();
+        const auto line = [&](const std::string& text) { out << DisplayText(text) << '\n'; };
+        const auto key = diagnosis::KeyText(described.root, described.key);
+        const auto note = diagnosis::NoteOn(setting, PlaceOf(), m_showSecrets);
+        if (described.wholeKey) {
+            line(key + ": every value of the key   " + Origin(setting));
+            for (const auto& [name, text] : setting.entries) {
+                line("  " + Utf8(name) + " = " + Shown(setting, '"' + Utf8(text) + '"'));
+            }
+        } else {
+            line(key + " : " + Utf8(setting.name) + " = " + Value(setting) + "   " + Origin(setting) +
+                 (note.empty() ? "" : " (" + note + ")"));
+            const auto* inEffect = setting.KeyInEffect();
+            for (const auto& asked : setting.asked) {
+                line("    " + diagnosis::FullPath(asked.path) + '\\' + Utf8(asked.name) + "  " + Stood(setting, asked) +
+                     (&asked == inEffect ? "  <- in effect" : ""));
+            }
+        }
+        line("    default " + Default(setting) + ", " + Saved(setting) + ", declared by " +
+             Utf8(setting.declared->table->className) + Allowed(setting));
+        line("    " + Utf8(described.meaning));
+    }
+
+    ordered_json ToJson(const ExaminedSetting& setting)
+    {
+        const auto& described = setting.Setting();
+        ordered_json out;
+        out["root"] = NameOf(described.root);
+        out["key"] = Utf8(described.key);
+        out["name"] = Utf8(setting.name);
+        out["type"] = NameOf(described.type);
+        const auto put = [&](const char* name, const char* word, const DescribedValue& value) {
+            if (described.type == Type::String || described.type == Type::Char) {
+                out[name] = Shown(setting, Utf8(value.text));
+            } else if (IsMasked(setting)) {
+                out[name] = diagnosis::kMasked;
+            } else {
+                out[name] = value.number;
+                if (const auto text = diagnosis::WordOf(described, value.number); !text.empty()) {
+                    out[word] = text;
+                }
+            }
+        };
+        if (described.wholeKey) {
+            out["entries"] = ordered_json::object();
+            for (const auto& [name, text] : setting.entries) {
+                out["entries"][Utf8(name)] = Shown(setting, Utf8(text));
+            }
+        } else {
+            put("value", "word", setting.value);
+            if (described.computed || described.computedDefault) {
+                out["default"] = nullptr;
+            } else {
+                put("default", "defaultWord", described.defaultValue);
+            }
+        }
+        out["changed"] = IsChanged(setting);
+        out["source"] = NameOf(setting.source);
+        if (setting.isCorrected) {
+            put("correctedFrom", "correctedFromWord", setting.read);
+        }
+        auto keys = ordered_json::array();
+        const auto* inEffect = setting.KeyInEffect();
+        for (const auto& asked : setting.asked) {
+            ordered_json key;
+            key["path"] = diagnosis::FullPath(asked.path);
+            key["name"] = Utf8(asked.name);
+            key["found"] = asked.found;
+            if (asked.found) {
+                key["type"] = diagnosis::TypeName(asked.type);
+                key["data"] = Shown(setting, Utf8(diagnosis::DataText({asked.type, asked.data}, L"\n")));
+                if (const auto place = m_places.Of(asked.path, &asked.name); !place.empty()) {
+                    key["place"] = place;
+                }
+            }
+            key["inEffect"] = &asked == inEffect;
+            keys.push_back(std::move(key));
+        }
+        out["asked"] = std::move(keys);
+        if (const auto note = diagnosis::NoteOn(setting, PlaceOf(), m_showSecrets); !note.empty()) {
+            out["note"] = note;
+        }
+        out["saved"] = setting.declared->isSaved;
+        if (described.secret) {
+            out["secret"] = true;
+        }
+        out["class"] = Utf8(setting.declared->table->className);
+        out["meaning"] = Utf8(described.meaning);
+        return out;
+    }
+
+    static bool IsChanged(const ExaminedSetting& setting)
+    {
+        const bool isIgnored = std::any_of(setting.asked.begin(), setting.asked.end(), [&](const AskedKey& key) {
+            return key.found && !setting.Setting().wholeKey && key.type != diagnosis::StoredType(setting.Setting());
+        });
+        return !setting.IsDefault() || isIgnored || setting.isCorrected;
+    }
+
+  private:
+    bool IsMasked(const ExaminedSetting& setting) const { return setting.Setting().secret && !m_showSecrets; }
+    std::string Shown(const ExaminedSetting& setting, std::string text) const
+    {
+        return IsMasked(setting) && !text.empty() && text != "\"\"" ? diagnosis::kMasked : std::move(text);
+    }
+    std::string Value(const ExaminedSetting& setting) const
+    {
+        return Shown(setting, diagnosis::ValueText(setting.Setting(), setting.value));
+    }
+    static std::string Default(const ExaminedSetting& setting)
+    {
+        return setting.Setting().wholeKey ? "none" : diagnosis::DefaultText(setting.Setting());
+    }
+
+    std::function<std::string(const AskedKey&)> PlaceOf()
+    {
+        return [this](const AskedKey& key) { return m_places.Of(key.path, &key.name); };
+    }
+
+    std::string Origin(const ExaminedSetting& setting)
+    {
+        auto text = diagnosis::SourceText(setting);
+        if (const auto* key = setting.KeyInEffect()) {
+            if (const auto place = m_places.Of(key->path, &key->name); !place.empty()) {
+                text += ", " + place;
+            }
+        }
+        return text;
+    }
+
+    std::string Stood(const ExaminedSetting& setting, const AskedKey& key)
+    {
+        if (!key.found) {
+            return "missing";
+        }
+        const auto place = m_places.Of(key.path, &key.name);
+        return (IsMasked(setting) ? diagnosis::TypeName(key.type) + ' ' + diagnosis::kMasked
+                                  : diagnosis::StoredText(key.type, key.data)) +
+               (place.empty() ? "" : "  " + place);
+    }
+
+    static std::string Saved(const ExaminedSetting& setting)
+    {
+        const auto& described = setting.Setting();
+        if (!described.writtenBy.empty()) {
+            return "written by " + Utf8(described.writtenBy);
+        }
+        if (!setting.declared->isSaved) {
+            return "not saved";
+        }
+        return described.savedName.empty() ? "saved" : "saved as " + Utf8(described.savedName);
+    }
+
+    static std::string Allowed(const ExaminedSetting& setting)
+    {
+        const auto text = diagnosis::AllowedText(setting.Setting());
+        return text.empty() ? text : "; allowed: " + text;
+    }
+
+    const diagnosis::Examination& m_examination;
+    diagnosis::Places m_places;
+    bool m_showSecrets;
+};
+
+// Whether the setting is meant by "Name" or "Key\Name".
+bool IsNamed(const ExaminedSetting& setting, std::wstring_view text)
+{
+    const auto& described = setting.Setting();
+    const auto isName = [&](std::wstring_view name) {
+        return EqualNoCase(name, setting.name) || EqualNoCase(name, described.name) ||
+               (!described.label.empty() && EqualNoCase(name, described.label)) ||
+               (described.wholeKey && EqualNoCase(name, described.key));
+    };
+    if (isName(text)) {
+        return true;
+    }
+    const auto split = text.find_last_of(L'\\');
+    if (split == std::wstring_view::npos) {
+        return false;
+    }
+    const auto key = text.substr(0, split);
+    return isName(text.substr(split + 1)) &&
+           (EqualNoCase(key, described.key) || EqualNoCase(key, setting.path) ||
+            EqualNoCase(key, Wide(diagnosis::KeyText(described.root, described.key))));
+}
+
+int FailUnknown(const diagnosis::Examination& examination, const std::string& name, const Console& console)
+{
+    std::vector<std::string> names;
+    for (const auto& setting : examination.settings) {
+        names.push_back(Utf8(setting.name));
+    }
+    return console.Fail(kNegative, Utf8(examination.entry->table().className) + " has no setting \"" + name +
+                                       "\"; did you mean \"" + diagnosis::NearestNoCase(name, names) + "\"?");
+}
+
+} // namespace
+
+int Explain(const StoreChoice& choice, const ServiceChoice& service, const ExplainOptions& options,
+            const Console& console)
+{
+    Error error;
+    auto store = OpenForExamination(choice, error);
+    if (!store) {
+        return console.Fail(error);
+    }
+    const CurrentStoreScope current(std::move(store));
+    const auto identity = IdentifyService(CString(Wide(service.name)), service.physical);
+    int status = kDone;
+    const auto* entry = ChooseClass(service, identity, console, status);
+    if (entry == nullptr) {
+        return status;
+    }
+    const auto examination = diagnosis::Examine(identity, *entry);
+    if (examination.failure) {
+        return console.Fail(examination.failure);
+    }
+    const auto wanted = Wide(options.setting);
+    std::vector<const ExaminedSetting*> settings;
+    for (const auto& setting : examination.settings) {
+        if ((options.setting.empty() || IsNamed(setting, wanted)) &&
+            (!options.changed || Explanation::IsChanged(setting))) {
+            settings.push_back(&setting);
+        }
+    }
+    if (settings.empty() && !options.setting.empty() &&
+        std::none_of(examination.settings.begin(), examination.settings.end(),
+                     [&](const ExaminedSetting& setting) { return IsNamed(setting, wanted); })) {
+        return FailUnknown(examination, options.setting, console);
+    }
+    Explanation explanation(examination, choice);
+    if (options.json) {
+        ordered_json out;
+        out["service"] = service.name;
+        out["class"] = Utf8(entry->table().className);
+        out["deviceKey"] = Utf8(identity.deviceKey);
+        out["loaded"] = examination.isLoaded;
+        out["settings"] = ordered_json::array();
+        for (const auto* setting : settings) {
+            out["settings"].push_back(explanation.ToJson(*setting));
+        }
+        console.out << out.dump(1) << '\n';
+    } else if (options.changed) {
+        explanation.PrintChanged(settings, console.out);
+    } else {
+        for (const auto* setting : settings) {
+            explanation.Print(*setting, console.out);
+        }
+    }
+    if (!examination.isLoaded) {
+        console.Note(Utf8(entry->table().className) + "::Load returned false");
+    }
+    return Checked(kDone, console);
+}
+
+} // namespace wqspcfg::tools
