@@ -150,9 +150,6 @@ class Recorder final : public LoadObserver
 
     void Asked(std::wstring_view path, std::wstring_view name, Outcome outcome, const ValueView& value) override
     {
-        if (m_isDone) {
-            return;
-        }
         AskedKey key{WithoutEndingBackslash(path), std::wstring(name), outcome == Outcome::Found, ValueType::None, {}};
         if (key.found) {
             key.type = value.type;
@@ -161,17 +158,19 @@ class Recorder final : public LoadObserver
         (m_isOpen ? events.back().asked : byCode).push_back(std::move(key));
     }
 
-    void AskedAll(std::wstring_view, bool) override {}
-
-    // What the session of the Load is asked for from now on does not belong to it.
-    void Stop() { m_isDone = true; }
+    void AskedAll(std::wstring_view path, bool subkeys) override
+    {
+        if (!subkeys) {
+            listed.push_back(WithoutEndingBackslash(path));
+        }
+    }
 
     std::vector<Event> events;
     std::vector<AskedKey> byCode;
+    std::vector<std::wstring> listed; // keys all of whose values were asked for
 
   private:
     bool m_isOpen = false;
-    bool m_isDone = false;
 };
 
 class Examiner
@@ -194,7 +193,6 @@ class Examiner
         const ReadScope scope;
         m_out.isLoaded = object->Load(nullptr);
         observe.reset();
-        m_recorder.Stop();
         m_object = object.get();
         Index();
         const auto& all = m_settings.All();
@@ -202,7 +200,9 @@ class Examiner
             Add(i);
         }
         AddFound();
+        AddFoundByCode();
         m_out.asked = std::move(m_recorder.byCode);
+        m_out.listed = std::move(m_recorder.listed);
         m_out.failure = scope->Failure();
         m_object = nullptr;
         return std::move(m_out);
@@ -415,6 +415,39 @@ class Examiner
         }
     }
 
+    // What code read itself, and the reference lists with a conversion in its place.
+    void AddFoundByCode()
+    {
+        std::vector<std::pair<const ClassSetting*, std::wstring>> patterns;
+        for (const auto& each : m_settings.All()) {
+            if (IsPattern(each.setting)) {
+                patterns.emplace_back(&each, PathOf(m_out.service, each.setting.root, each.setting.key));
+            }
+        }
+        for (const auto& key : m_recorder.byCode) {
+            const auto found = std::find_if(patterns.begin(), patterns.end(), [&](const auto& pattern) {
+                return MatchesPattern(pattern.second, key.path) &&
+                       MatchesPattern(pattern.first->setting.name, key.name);
+            });
+            if (found == patterns.end() || !m_listed.insert(PlaceOf(key.path, key.name)).second) {
+                continue;
+            }
+            auto declared = std::make_unique<ClassSetting>(*found->first);
+            auto& setting = declared->setting;
+            // Pattern and path have all before the conversion in common.
+            setting.key = key.path.substr(found->second.size() - setting.key.size());
+            setting.name = key.name;
+            auto out = Begin(*declared);
+            out.asked.push_back(key);
+            out.source = !key.found                            ? Source::Missing
+                         : ToDescribed(setting, key, out.read) ? Source::Key
+                                                               : Source::WrongType;
+            out.value = Taken(setting, out.read);
+            m_out.found.push_back(std::move(declared));
+            m_out.settings.push_back(std::move(out));
+        }
+    }
+
     const ClassSettings& m_settings;
     Examination m_out;
     Recorder m_recorder;
@@ -451,6 +484,18 @@ const AskedKey* ExaminedSetting::KeyInEffect() const noexcept
 Examination Examine(const ServiceIdentity& service, const ClassEntry& entry)
 {
     return Examiner(service, entry).Run();
+}
+
+bool MatchesPattern(std::wstring_view pattern, std::wstring_view text)
+{
+    const auto at = pattern.find(L'%');
+    if (at == std::wstring_view::npos) {
+        return EqualNoCase(pattern, text);
+    }
+    const auto head = pattern.substr(0, at);
+    const auto tail = pattern.substr(at + 2);
+    return text.size() > head.size() + tail.size() && EqualNoCase(text.substr(0, head.size()), head) &&
+           EqualNoCase(text.substr(text.size() - tail.size()), tail);
 }
 
 std::wstring PathOf(const ServiceIdentity& service, Root root, std::wstring_view key)

@@ -62,6 +62,7 @@ struct Examination
     bool isLoaded = false;                 // Load returned true
     std::vector<ExaminedSetting> settings; // in the order of loading
     std::vector<AskedKey> asked;           // by code, for no setting
+    std::vector<std::wstring> listed;      // keys all of whose values code asked for
     Error failure;                         // of the store; what was read is then not to be trusted
 
     // Settings that only a Load knows: those of a card unit or a note type.
@@ -72,6 +73,9 @@ struct Examination
 // the class writes while it loads goes to the current store: give it one that forgets. For one thread at a time, as
 // objects of the classes are.
 Examination Examine(const ServiceIdentity& service, const ClassEntry& entry);
+
+// Whether the text is the pattern with some text in place of its one conversion, "%d" or "%s". Case does not count.
+bool MatchesPattern(std::wstring_view pattern, std::wstring_view text);
 
 // The path of a key of this service, relative to its hive, without a backslash at its end.
 std::wstring PathOf(const ServiceIdentity& service, Root root, std::wstring_view key);

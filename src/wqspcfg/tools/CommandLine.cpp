@@ -1,6 +1,7 @@
 #include "wqspcfg/tools/CommandLine.h"
 
 #include "wqspcfg/diagnosis/Nearest.h"
+#include "wqspcfg/tools/CheckCommand.h"
 #include "wqspcfg/tools/ExplainCommand.h"
 #include "wqspcfg/tools/HelpText.h"
 #include "wqspcfg/tools/MaintenanceCommands.h"
@@ -73,6 +74,7 @@ class Program
     void AddLoad();
     void AddSave();
     void AddExplain();
+    void AddCheck();
     void AddModels();
     void AddReference();
     void AddHelp();
@@ -118,6 +120,7 @@ Program::Program(const Console& console) : m_console(console)
     m_app.add_flag("--secrets", m_store.secrets, "Show keys and passwords, which are masked without it");
     AddServices();
     AddExplain();
+    AddCheck();
     AddLoad();
     AddSave();
     AddImport();
@@ -369,6 +372,16 @@ void Program::AddExplain()
     command.add_option("SETTING", options->what.setting, "A setting's name, or Key\\Name. Default: all");
     command.add_flag("--changed", options->what.changed, "Show only what differs from the default, as a table");
     command.add_flag("--json", options->what.json, kJsonHelp);
+}
+
+void Program::AddCheck()
+{
+    const auto options = std::make_shared<CheckCommandOptions>();
+    auto& command = Add("check", "Tell what is wrong with the configuration of the terminal, or of some services",
+                        [=, this] { return CheckTerminal(m_store, *options, m_console); });
+    command.add_option("SERVICE", options->services, "Services by name. Default: the whole terminal");
+    command.add_flag("--strict", options->strict, "Let warnings count for the exit status too");
+    command.add_flag("--json", options->json, kJsonHelp);
 }
 
 void Program::AddModels()

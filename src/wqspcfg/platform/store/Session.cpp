@@ -117,6 +117,9 @@ void ClearStoreError() noexcept
 
 ReadObserver* ObserveReads(ReadObserver* observer) noexcept
 {
+    if (t_session != nullptr) {
+        t_session->m_observer = observer;
+    }
     return std::exchange(t_observer, observer);
 }
 

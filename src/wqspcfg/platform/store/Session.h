@@ -41,7 +41,7 @@ class ReadObserver
     ~ReadObserver() = default;
 };
 
-// Tells `observer`, or nobody when it is null, of the sessions that this thread begins from now on. Gives the one
+// Tells `observer`, or nobody when it is null, of what the sessions of this thread read from now on. Gives the one
 // before.
 WQSPCFG_API ReadObserver* ObserveReads(ReadObserver* observer) noexcept;
 
@@ -79,6 +79,7 @@ class WQSPCFG_API Session
   private:
     friend class ReadScope;
     friend class WriteScope;
+    friend ReadObserver* ObserveReads(ReadObserver* observer) noexcept;
     enum class State : std::uint8_t
     {
         New,

@@ -1,0 +1,718 @@
+#include "wqspcfg/diagnosis/Check.h"
+
+#include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/diagnosis/NameIndex.h"
+#include "wqspcfg/diagnosis/SettingText.h"
+#include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/platform/store/RegistryValue.h"
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/store/regfile/View32.h"
+#include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/platform/text/Utf.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <set>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace wqspcfg::diagnosis {
+
+namespace {
+
+std::string Utf8(std::wstring_view text)
+{
+    return Utf8ForMessage(text);
+}
+
+std::string Quoted(std::wstring_view text)
+{
+    return '"' + Utf8(text) + '"';
+}
+
+// The path without the root that everybody knows: "WQSpCRDWQTYM1200\Comm".
+std::string ShortPath(std::wstring_view path)
+{
+    for (const std::wstring_view root : {kDeviceRoot, kServiceRoot, kLogicalRoot}) {
+        if (path.size() > root.size() && EqualNoCase(path.substr(0, root.size()), root)) {
+            path.remove_prefix(root == kDeviceRoot ? root.size() : root.find_last_of(L'\\', root.size() - 2) + 1);
+            return Utf8(path);
+        }
+    }
+    return Utf8(path);
+}
+
+std::vector<std::wstring> SubkeysOf(std::wstring_view path)
+{
+    std::vector<std::wstring> names;
+    const ReadScope scope;
+    scope->EnumKeys(scope->Open(path), [&](std::wstring_view name) {
+        names.emplace_back(name);
+        return true;
+    });
+    return names;
+}
+
+bool Exists(const std::wstring& path)
+{
+    const ReadScope scope;
+    return scope->Exists(scope->Open(path));
+}
+
+std::wstring WithoutEndingBackslash(std::wstring_view path)
+{
+    return std::wstring(path.substr(0, path.find_last_not_of(L'\\') + 1));
+}
+
+std::string ClassOf(const Examination& examination)
+{
+    return Utf8(examination.entry->table().className);
+}
+
+// Everything that the services read, by place.
+class KnownPlaces
+{
+  public:
+    void Add(const Examination& examination)
+    {
+        for (const auto& setting : examination.settings) {
+            const auto& described = setting.Setting();
+            if (described.wholeKey) {
+                AddWhole(setting.path);
+                continue;
+            }
+            AddValue(setting.path, setting.name);
+            AddValue(setting.path, described.name);
+            if (!described.savedName.empty()) {
+                AddValue(setting.path, described.savedName);
+            }
+            if (described.fallback) {
+                AddValue(PathOf(examination.service, described.fallback->root, described.fallback->key),
+                         described.fallback->name);
+            }
+        }
+        for (const auto& key : examination.asked) {
+            AddValue(key.path, key.name);
+        }
+        for (const auto& path : examination.listed) {
+            AddWhole(path);
+        }
+        for (const auto& each : SettingsOf(*examination.entry).All()) {
+            const auto path = PathOf(examination.service, each.setting.root, each.setting.key);
+            if (path.find(L'%') != std::wstring::npos ||
+                (!each.setting.wholeKey && each.setting.name.find(L'%') != std::wstring::npos)) {
+                m_patterns.emplace_back(path, each.setting.name);
+            }
+        }
+    }
+
+    void AddValue(std::wstring_view path, std::wstring_view name)
+    {
+        auto& names = Key(path);
+        names.insert(UpCase(name));
+    }
+
+    // Whether a value of the key may be read.
+    bool HasValue(const std::wstring& path, const std::wstring& name) const
+    {
+        return HasOwnValue(path, name) || m_whole.contains(UpCase(path)) || MatchesAny(path, &name);
+    }
+    // Whether a setting of its own has this value, which may stand in a key that is read as a whole too.
+    bool HasOwnValue(const std::wstring& path, const std::wstring& name) const
+    {
+        const auto key = m_keys.find(UpCase(path));
+        return key != m_keys.end() && key->second.contains(UpCase(name));
+    }
+    // Whether values of the key, or of keys below it, may be read.
+    bool HasKey(const std::wstring& path) const { return m_above.contains(UpCase(path)) || MatchesAny(path, nullptr); }
+
+  private:
+    std::unordered_set<std::wstring>& Key(std::wstring_view path)
+    {
+        auto upper = UpCase(path);
+        const auto known = m_keys.find(upper);
+        if (known != m_keys.end()) {
+            return known->second;
+        }
+        for (auto end = upper.size(); end != std::wstring::npos && end > 0; end = upper.rfind(L'\\', end - 1)) {
+            if (!m_above.insert(upper.substr(0, end)).second) {
+                break;
+            }
+        }
+        return m_keys[std::move(upper)];
+    }
+    void AddWhole(const std::wstring& path)
+    {
+        Key(path);
+        m_whole.insert(UpCase(path));
+    }
+    bool MatchesAny(std::wstring_view path, const std::wstring* name) const
+    {
+        return std::any_of(m_patterns.begin(), m_patterns.end(), [&](const auto& pattern) {
+            return MatchesPattern(pattern.first, path) && (name == nullptr || MatchesPattern(pattern.second, *name));
+        });
+    }
+
+    std::unordered_map<std::wstring, std::unordered_set<std::wstring>> m_keys;
+    std::unordered_set<std::wstring> m_whole;
+    std::unordered_set<std::wstring> m_above; // keys, and those that they stand below
+    std::vector<std::pair<std::wstring, std::wstring>> m_patterns;
+};
+
+class Checker
+{
+  public:
+    Checker(const CheckOptions& options, Places& places) : m_options(options), m_places(places) {}
+
+    Checkup Run()
+    {
+        const ReadScope scope;
+        AddServices();
+        CollectKnown();
+        for (const auto& examination : m_out.services) {
+            if (IsWanted(examination.service)) {
+                CheckIdentity(examination);
+                CheckSettings(examination);
+            }
+        }
+        CheckPorts();
+        CheckNames();
+        if (m_options.services.empty()) {
+            CheckDeviceKeys();
+            CheckView32();
+        }
+        m_out.failure = scope->Failure();
+        for (const auto& examination : m_out.services) {
+            if (!m_out.failure) {
+                m_out.failure = examination.failure;
+            }
+        }
+        return std::move(m_out);
+    }
+
+  private:
+    bool IsWanted(const ServiceIdentity& service) const
+    {
+        return m_options.services.empty() ||
+               std::any_of(m_options.services.begin(), m_options.services.end(),
+                           [&](const std::wstring& name) { return EqualNoCase(name, NameOf(service)); });
+    }
+
+    void AddServices()
+    {
+        std::set<std::wstring> named; // providers that a logical service names
+        for (const auto& name : SubkeysOf(kLogicalRoot)) {
+            m_logical.insert(UpCase(name));
+            Add(IdentifyService(CString(name), false));
+            named.insert(UpCase(m_out.services.back().service.physicalName));
+        }
+        for (const auto& name : SubkeysOf(kServiceRoot)) {
+            if (!EqualNoCase(name, WithoutEndingBackslash(kCommonKey)) && !named.contains(UpCase(name))) {
+                Add(IdentifyService(CString(name), true));
+            }
+        }
+    }
+
+    void Add(ServiceIdentity service)
+    {
+        const auto* entry = SelectModel(service).entry;
+        m_out.services.push_back(Examine(service, *entry));
+    }
+
+    // The same finding in two services that share a key is one.
+    void Report(Finding finding)
+    {
+        const auto key = std::to_string(static_cast<int>(finding.kind)) + Utf8(UpCase(finding.path)) + '|' +
+                         (finding.name ? Utf8(UpCase(*finding.name)) : std::string("|")) + finding.message;
+        if (m_reported.insert(key).second) {
+            finding.place = m_places.Of(finding.path, finding.name ? &*finding.name : nullptr);
+            m_out.findings.push_back(std::move(finding));
+        }
+    }
+
+    void Report(Severity severity, FindingKind kind, const Examination& examination, std::wstring path,
+                std::optional<std::wstring> name, std::string message)
+    {
+        Report({severity, kind, NameOf(examination.service), std::move(path), std::move(name), std::move(message), {}});
+    }
+
+    // ---- services ----
+
+    void CheckIdentity(const Examination& examination)
+    {
+        const auto& service = examination.service;
+        const bool isLogical = !service.logicalName.empty();
+        const auto logical = kLogicalRoot + service.logicalName;
+        const auto& own = isLogical ? logical : kServiceRoot + service.physicalName;
+        const auto title = "service " + Utf8(NameOf(service));
+        if (isLogical && service.physicalName.empty()) {
+            Report(Severity::Error, FindingKind::NoProvider, examination, logical, std::nullopt,
+                   title + " names no service provider: its value Provider is missing");
+            return;
+        }
+        const auto provider = kServiceRoot + service.physicalName;
+        const bool hasProvider = Exists(provider);
+        const bool hasDevice = !service.deviceKey.empty() && Exists(kDeviceRoot + service.deviceKey);
+        if (!hasProvider) {
+            Report(Severity::Error, FindingKind::NoProvider, examination, own,
+                   isLogical ? std::optional<std::wstring>(L"Provider") : std::nullopt,
+                   title + ": its service provider " + Utf8(service.physicalName) + " has no service key" +
+                       (hasDevice ? "" : " and no device key"));
+        } else if (!hasDevice) {
+            Report(Severity::Error, FindingKind::NoDeviceKey, examination, provider, std::nullopt,
+                   title + ": its service provider " + Utf8(service.physicalName) + " has no device key" +
+                       (service.deviceKey.empty() ? ": the value ExeDllMother of its service key is missing"
+                                                  : " " + Utf8(service.deviceKey)));
+        }
+        if (const auto contradiction = ContradictionOf(service, *examination.entry); !contradiction.empty()) {
+            Report(Severity::Error, FindingKind::ClassContradicts, examination, own, L"Class",
+                   title + ": " + Utf8(contradiction));
+        }
+    }
+
+    // All that any service reads.
+    void CollectKnown()
+    {
+        for (const auto& examination : m_out.services) {
+            m_known.Add(examination);
+            // What the XFS manager reads of the service key.
+            for (const auto* name : {L"vendor_name", L"version", L"dllname"}) {
+                m_known.AddValue(kServiceRoot + examination.service.physicalName, name);
+            }
+        }
+    }
+
+    void CheckPorts()
+    {
+        struct User
+        {
+            const Examination* examination;
+            const ExaminedSetting* setting;
+        };
+        std::map<DWORD, std::vector<User>> byPort;
+        for (const auto& examination : m_out.services) {
+            for (const auto& setting : examination.settings) {
+                // A port by default may be one that the device does not use, as where it is connected by USB.
+                if (setting.Setting().refersTo == Reference::SerialPort && setting.source == Source::Key &&
+                    setting.value.number != 0) {
+                    byPort[setting.value.number].push_back({&examination, &setting});
+                }
+            }
+        }
+        for (const auto& [port, users] : byPort) {
+            for (std::size_t i = 1; i < users.size(); ++i) {
+                const auto& first = users.front();
+                const auto& other = users[i];
+                if (EqualNoCase(first.examination->service.deviceKey, other.examination->service.deviceKey) ||
+                    !IsWanted(other.examination->service)) {
+                    continue;
+                }
+                Report(Severity::Error, FindingKind::SharedPort, *other.examination, other.setting->path,
+                       other.setting->name,
+                       ShortPath(other.setting->path) + '\\' + Utf8(other.setting->name) + " is serial port " +
+                           std::to_string(port) + ", which " + Utf8(NameOf(first.examination->service)) +
+                           " uses too (" + ShortPath(first.setting->path) + '\\' + Utf8(first.setting->name) + ")");
+            }
+        }
+    }
+
+    void CheckDeviceKeys()
+    {
+        std::set<std::wstring> used;
+        for (const auto& examination : m_out.services) {
+            used.insert(UpCase(examination.service.deviceKey));
+        }
+        for (const auto& name : SubkeysOf(kDeviceRoot)) {
+            if (!used.contains(UpCase(name))) {
+                Report({Severity::Warning,
+                        FindingKind::UnusedDeviceKey,
+                        {},
+                        kDeviceRoot + name,
+                        std::nullopt,
+                        "device key " + Utf8(name) + " belongs to no service",
+                        {}});
+            }
+        }
+    }
+
+    void CheckView32()
+    {
+        const std::wstring key(kXfsKey32);
+        if (!m_options.view32 && Exists(key) && Exists(std::wstring(kXfsKey))) {
+            Report({Severity::Warning,
+                    FindingKind::View32,
+                    {},
+                    key,
+                    std::nullopt,
+                    "the keys of 32-bit programs under " + Utf8(key) + " are not read; give --view32 to read them",
+                    {}});
+        }
+    }
+
+    // ---- values ----
+
+    void CheckSettings(const Examination& examination)
+    {
+        for (const auto& setting : examination.settings) {
+            if (setting.source != Source::NotRead) {
+                CheckTypes(examination, setting);
+                CheckValue(examination, setting);
+            }
+        }
+        CheckCardUnits(examination);
+        CheckNoteTypes(examination);
+    }
+
+    static std::string FullName(const ExaminedSetting& setting)
+    {
+        return ShortPath(setting.path) + '\\' + Utf8(setting.name);
+    }
+
+    void CheckTypes(const Examination& examination, const ExaminedSetting& setting)
+    {
+        const auto& described = setting.Setting();
+        const bool isMasked = described.secret && !m_options.showSecrets;
+        for (const auto& key : setting.asked) {
+            const bool isOwn = described.wholeKey || EqualNoCase(key.name, setting.name) ||
+                               (described.fallback && EqualNoCase(key.name, described.fallback->name));
+            if (!key.found || !isOwn || IsRightType(described, key) ||
+                (described.wholeKey && m_known.HasOwnValue(key.path, key.name))) {
+                continue;
+            }
+            const auto effect = setting.source == Source::WrongType
+                                    ? "the default " + DefaultText(described) + " is in effect"
+                                    : std::string("it is ignored");
+            Report(Severity::Error, FindingKind::WrongType, examination, key.path, key.name,
+                   ShortPath(key.path) + '\\' + Utf8(key.name) + " is " +
+                       (isMasked ? TypeName(key.type) : StoredText(key.type, key.data)) + ", a " +
+                       TypeName(StoredType(described)) + " is read: " + effect);
+        }
+    }
+
+    static bool IsRightType(const DescribedSetting& setting, const AskedKey& key)
+    {
+        if (key.type != StoredType(setting)) {
+            return false;
+        }
+        DWORD number = 0;
+        return key.type != ValueType::Dword || ToValue(ValueView{key.type, key.data}, number);
+    }
+
+    void CheckValue(const Examination& examination, const ExaminedSetting& setting)
+    {
+        const auto& described = setting.Setting();
+        const auto* key = setting.KeyInEffect();
+        if (key == nullptr || described.wholeKey) {
+            if (described.required && setting.source == Source::Missing && HasValues(setting.path)) {
+                Report(Severity::Error, FindingKind::MissingValue, examination, setting.path, std::nullopt,
+                       FullName(setting) + " is missing, which " + ClassOf(examination) + " needs beside the others");
+            }
+            return;
+        }
+        const bool isMasked = described.secret && !m_options.showSecrets;
+        const auto full = ShortPath(key->path) + '\\' + Utf8(key->name);
+        const bool isNumber = described.type == Type::Dword || described.type == Type::Flag;
+        if (isNumber && !IsAllowed(described, setting.read.number)) {
+            Report(Severity::Error, FindingKind::NotAllowed, examination, key->path, key->name,
+                   full + " is " + (isMasked ? kMasked : std::to_string(setting.read.number)) +
+                       "; allowed: " + AllowedText(described) +
+                       (setting.isCorrected ? "; " + ValueText(described, setting.value) + " is in effect" : ""));
+        } else if (setting.isCorrected && described.corrected) {
+            Report(Severity::Warning, FindingKind::Corrected, examination, key->path, key->name,
+                   full + " is " + (isMasked ? kMasked : ValueText(described, setting.read)) + "; " +
+                       ClassOf(examination) + " takes " + (isMasked ? kMasked : ValueText(described, setting.value)) +
+                       " instead");
+        }
+        if (described.refersTo == Reference::LogicalService && !setting.value.text.empty() &&
+            !m_logical.contains(UpCase(setting.value.text))) {
+            Report(Severity::Error, FindingKind::NoSuchService, examination, key->path, key->name,
+                   full + " names the service " + Quoted(setting.value.text) + ", which is not there");
+        }
+    }
+
+    static bool HasValues(const std::wstring& path)
+    {
+        bool has = false;
+        const ReadScope scope;
+        scope->EnumValues(scope->Open(path), [&](std::wstring_view, const ValueView&) {
+            has = true;
+            return false;
+        });
+        return has;
+    }
+
+    // ---- card units and note types ----
+
+    static const ExaminedSetting* Find(const Examination& examination, std::wstring_view key, std::wstring_view name)
+    {
+        const auto found =
+            std::find_if(examination.settings.begin(), examination.settings.end(), [&](const ExaminedSetting& setting) {
+                return EqualNoCase(setting.Setting().key, key) && EqualNoCase(setting.name, name);
+            });
+        return found != examination.settings.end() ? &*found : nullptr;
+    }
+
+    void CheckCardUnits(const Examination& examination)
+    {
+        constexpr std::wstring_view kUnits = L"CardUnit";
+        const auto* current = Find(examination, kUnits, L"CurNumber");
+        if (current == nullptr) {
+            return;
+        }
+        std::map<DWORD, std::wstring> byNumber;
+        for (const auto& unit : SubkeysOf(current->path)) {
+            const auto key = std::wstring(kUnits) + L'\\' + unit;
+            const auto path = current->path + L'\\' + unit;
+            const auto report = [&](std::optional<std::wstring> name, const std::string& what) {
+                Report(Severity::Error, FindingKind::Inconsistent, examination, path, std::move(name),
+                       ShortPath(path) + what);
+            };
+            const auto numberOf = [&](const wchar_t* name) -> DWORD {
+                const auto* setting = Find(examination, key, name);
+                return setting != nullptr ? setting->value.number : 0;
+            };
+            const auto number = numberOf(L"Number") & 0xFFFF;
+            if (number == 0) {
+                report(std::nullopt, " has no Number: the card unit is not loaded");
+                continue;
+            }
+            const auto [other, isNew] = byNumber.emplace(number, unit);
+            if (!isNew) {
+                report(L"Number", "\\Number is " + std::to_string(number) + ", as that of " + Utf8(other->second));
+            }
+            const auto count = numberOf(L"Count");
+            const auto most = numberOf(L"MaxCount");
+            if (most != 0 && count > most) {
+                report(L"Count",
+                       "\\Count is " + std::to_string(count) + ", more than MaxCount " + std::to_string(most));
+            }
+        }
+        const auto number = current->value.number;
+        if (current->source == Source::Key && number != 0 && !byNumber.contains(number)) {
+            Report(Severity::Error, FindingKind::Inconsistent, examination, current->path, current->name,
+                   FullName(*current) + " is " + std::to_string(number) + ", and no card unit has that number");
+        }
+    }
+
+    void CheckNoteTypes(const Examination& examination)
+    {
+        const auto* count = Find(examination, L"NoteType", L"Count");
+        if (count == nullptr) {
+            return;
+        }
+        std::set<std::wstring> expected;
+        const std::array<const wchar_t*, 5> names{L"NoteID", L"CurrencyID", L"Value", L"Release", L"Config"};
+        const auto subkeys = SubkeysOf(count->path);
+        std::set<std::wstring> present;
+        for (const auto& subkey : subkeys) {
+            present.insert(UpCase(subkey));
+        }
+        const auto most = std::min<DWORD>(count->value.number, static_cast<DWORD>(subkeys.size()) + 1);
+        for (DWORD i = 1; i <= most; ++i) {
+            const auto subkey = L"NoteType" + std::to_wstring(i);
+            const auto path = count->path + L'\\' + subkey;
+            expected.insert(UpCase(subkey));
+            if (!present.contains(UpCase(subkey))) {
+                Report(Severity::Error, FindingKind::Inconsistent, examination, count->path, count->name,
+                       FullName(*count) + " is " + std::to_string(count->value.number) + ", and " + Utf8(subkey) +
+                           " is missing: the note types are not loaded");
+                return;
+            }
+            for (const auto* name : names) {
+                const auto* setting = Find(examination, L"NoteType\\" + subkey, name);
+                if (setting != nullptr && setting->source == Source::Missing) {
+                    Report(Severity::Error, FindingKind::MissingValue, examination, path, std::nullopt,
+                           ShortPath(path) + '\\' + Utf8(name) +
+                               " is missing: the note types from there on are not "
+                               "loaded");
+                }
+            }
+            const auto* currency = Find(examination, L"NoteType\\" + subkey, L"CurrencyID");
+            if (currency != nullptr && currency->source == Source::Key && currency->value.text.size() != 3) {
+                Report(Severity::Error, FindingKind::NotAllowed, examination, path, L"CurrencyID",
+                       FullName(*currency) + " is " + Quoted(currency->value.text) +
+                           "; a currency has exactly 3 characters: the note types from there on are not loaded");
+            }
+        }
+        for (const auto& subkey : subkeys) {
+            if (!expected.contains(UpCase(subkey)) && MatchesPattern(L"NoteType%d", subkey)) {
+                Report(Severity::Warning, FindingKind::Inconsistent, examination, count->path + L'\\' + subkey,
+                       std::nullopt,
+                       ShortPath(count->path) + '\\' + Utf8(subkey) + " is not read: Count is " +
+                           std::to_string(count->value.number));
+            }
+        }
+    }
+
+    // ---- names ----
+
+    void CheckNames()
+    {
+        std::set<std::wstring> visited;
+        for (const auto& examination : m_out.services) {
+            const auto& service = examination.service;
+            if (!IsWanted(service)) {
+                continue;
+            }
+            const auto visit = [&](const wchar_t* root, const std::wstring& name, Root kind) {
+                if (!name.empty() && visited.insert(UpCase(root + name)).second) {
+                    VisitKey(examination, {root + name, L"", kind});
+                }
+            };
+            visit(kDeviceRoot, service.deviceKey, Root::Device);
+            visit(kServiceRoot, service.physicalName, Root::Service);
+            visit(kLogicalRoot, service.logicalName, Root::Logical);
+        }
+        if (m_options.services.empty() && !m_out.services.empty()) {
+            VisitKey(m_out.services.front(),
+                     {WithoutEndingBackslash(std::wstring(kServiceRoot) + kCommonKey), L"", Root::Common});
+        }
+    }
+
+    struct VisitedKey
+    {
+        std::wstring path;
+        std::wstring subkey; // below the root
+        Root root;
+    };
+
+    void VisitKey(const Examination& examination, const VisitedKey& key)
+    {
+        std::vector<std::wstring> unknown;
+        {
+            const ReadScope scope;
+            scope->EnumValues(scope->Open(key.path), [&](std::wstring_view name, const ValueView&) {
+                const std::wstring text(name);
+                if (!m_known.HasValue(key.path, text) && !(key.subkey.empty() && text.empty())) {
+                    unknown.push_back(text);
+                }
+                return true;
+            });
+        }
+        const auto subkeys = SubkeysOf(key.path);
+        const bool isKnown = m_known.HasKey(key.path) || key.subkey.empty();
+        if (!isKnown && key.root == Root::Device && !(unknown.empty() && subkeys.empty())) {
+            ReportKey(examination, key);
+            return;
+        }
+        for (const auto& name : unknown) {
+            ReportName(examination, key, name);
+        }
+        for (const auto& name : subkeys) {
+            VisitKey(examination,
+                     {key.path + L'\\' + name, key.subkey.empty() ? name : key.subkey + L'\\' + name, key.root});
+        }
+    }
+
+    void ReportKey(const Examination& examination, const VisitedKey& key)
+    {
+        const auto& index = NameIndex::Of(*examination.entry);
+        const auto model = NameIndex::All().ModelOfKey(key.root, key.subkey, *examination.entry);
+        if (!model.text.empty()) {
+            Report(Severity::Warning, FindingKind::OtherModel, examination, key.path, std::nullopt,
+                   ShortPath(key.path) + " belongs to " + model.text + "; this service is a " + ClassOf(examination));
+            return;
+        }
+        const auto near = index.NearestKey(key.root, key.subkey);
+        Report(Severity::Warning, FindingKind::UnknownKey, examination, key.path, std::nullopt,
+               ShortPath(key.path) + " is not read by " + ClassOf(examination) +
+                   (near.empty() ? std::string() : "; did you mean " + near + "?"));
+    }
+
+    void ReportName(const Examination& examination, const VisitedKey& key, const std::wstring& name)
+    {
+        const auto full = ShortPath(key.path) + '\\' + Utf8(name);
+        const auto& own = NameIndex::Of(*examination.entry);
+        const auto& all = NameIndex::All();
+        // Installers and other programs keep values beside those that are read: only what looks like a slip is told.
+        const bool isOurs = key.root == Root::Device;
+        if (!isOurs && all.Has(key.root, key.subkey, name)) {
+            return; // of a device model that this terminal does not have
+        }
+        const auto report = [&](FindingKind kind, const std::string& what) {
+            Report(Severity::Warning, kind, examination, key.path, name, full + what);
+        };
+        const auto reader = key.root == Root::Common ? std::string("any class") : ClassOf(examination);
+        if (const auto elsewhere = own.KeysOf(name); isOurs && !elsewhere.empty()) {
+            return report(FindingKind::ReadElsewhere, " is not read: " + reader + " reads " + Utf8(name) + " from " +
+                                                          elsewhere + ", not from " + KeyText(key.root, key.subkey));
+        }
+        const auto isStored = [&](const std::wstring& other) {
+            const ReadScope scope;
+            ValueView view;
+            return scope->QueryAt(key.path, other, view) == Outcome::Found;
+        };
+        const auto near = own.NearestName(key.root, key.subkey, name, isStored, isOurs);
+        if (!isOurs && near.empty()) {
+            return;
+        }
+        const auto model = all.ModelOf(key.root, key.subkey, name, *examination.entry);
+        if (isOurs && !model.text.empty() && (near.empty() || model.isSameDevice)) {
+            return report(FindingKind::OtherModel,
+                          " belongs to " + model.text + "; this service is a " + ClassOf(examination));
+        }
+        report(FindingKind::UnknownName,
+               " is not read by " + reader + (near.empty() ? std::string() : "; did you mean " + near + "?"));
+    }
+
+    const CheckOptions& m_options;
+    Places& m_places;
+    Checkup m_out;
+    KnownPlaces m_known;
+    std::set<std::wstring> m_logical; // names of logical services in capitals
+    std::set<std::string> m_reported;
+};
+
+} // namespace
+
+const std::wstring& NameOf(const ServiceIdentity& service) noexcept
+{
+    return service.logicalName.empty() ? service.physicalName : service.logicalName;
+}
+
+Checkup Check(const CheckOptions& options, Places& places)
+{
+    return Checker(options, places).Run();
+}
+
+const char* NameOf(FindingKind kind) noexcept
+{
+    switch (kind) {
+    case FindingKind::WrongType:
+        return "wrongType";
+    case FindingKind::NotAllowed:
+        return "notAllowed";
+    case FindingKind::Corrected:
+        return "corrected";
+    case FindingKind::MissingValue:
+        return "missingValue";
+    case FindingKind::UnknownName:
+        return "unknownName";
+    case FindingKind::UnknownKey:
+        return "unknownKey";
+    case FindingKind::ReadElsewhere:
+        return "readElsewhere";
+    case FindingKind::OtherModel:
+        return "otherModel";
+    case FindingKind::NoProvider:
+        return "noProvider";
+    case FindingKind::NoDeviceKey:
+        return "noDeviceKey";
+    case FindingKind::UnusedDeviceKey:
+        return "unusedDeviceKey";
+    case FindingKind::ClassContradicts:
+        return "classContradicts";
+    case FindingKind::SharedPort:
+        return "sharedPort";
+    case FindingKind::NoSuchService:
+        return "noSuchService";
+    case FindingKind::Inconsistent:
+        return "inconsistent";
+    case FindingKind::View32:
+        break;
+    }
+    return "view32";
+}
+
+} // namespace wqspcfg::diagnosis

@@ -1,0 +1,227 @@
+#include "wqspcfg/diagnosis/NameIndex.h"
+
+#include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/diagnosis/Examination.h"
+#include "wqspcfg/diagnosis/Nearest.h"
+#include "wqspcfg/diagnosis/SettingText.h"
+#include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/platform/text/Utf.h"
+
+#include <algorithm>
+#include <limits>
+#include <map>
+#include <memory>
+#include <mutex>
+
+namespace wqspcfg::diagnosis {
+
+namespace {
+
+// Names that differ in nothing else are taken for the same: case, spaces, underscores.
+std::string Plain(std::wstring_view name)
+{
+    std::string plain;
+    for (const char ch : Utf8ForMessage(UpCase(name))) {
+        if (ch != ' ' && ch != '_' && ch != '\t') {
+            plain += ch;
+        }
+    }
+    return plain;
+}
+
+// How far a name may be from one that was meant by it.
+std::size_t Reach(std::size_t length)
+{
+    return length <= 3 ? 1 : length <= 8 ? 2 : 3;
+}
+
+class Candidates
+{
+  public:
+    explicit Candidates(std::wstring_view name) : m_plain(Plain(name)), m_least(2 * Reach(m_plain.size()) + 1) {}
+
+    void Try(std::wstring_view candidate, const std::string& text, bool isLessLikely)
+    {
+        const auto plain = Plain(candidate);
+        const auto longer = std::max(plain.size(), m_plain.size());
+        const auto shorter = std::min(plain.size(), m_plain.size());
+        if (longer - shorter > Reach(m_plain.size()) || plain.empty()) {
+            return;
+        }
+        const auto distance = 2 * Distance(m_plain, plain) + (isLessLikely ? 1 : 0);
+        // A short name may not be another one altogether.
+        if (distance < m_least && distance < 2 * longer) {
+            m_least = distance;
+            m_nearest = text;
+        }
+    }
+
+    std::string Nearest() && { return std::move(m_nearest); }
+
+  private:
+    std::string m_plain;
+    std::size_t m_least;
+    std::string m_nearest;
+};
+
+} // namespace
+
+const NameIndex& NameIndex::Of(const ClassEntry& entry)
+{
+    static std::mutex mutex;
+    static std::map<const ClassEntry*, std::unique_ptr<NameIndex>> known;
+    const std::lock_guard lock(mutex);
+    auto& index = known[&entry];
+    if (index == nullptr) {
+        index = std::make_unique<NameIndex>();
+        for (const auto* table : Lineage(entry.table())) {
+            index->Add(*table);
+            if (table->mixin != nullptr) {
+                index->Add(table->mixin());
+            }
+        }
+    }
+    return *index;
+}
+
+const NameIndex& NameIndex::All()
+{
+    static const NameIndex index = [] {
+        NameIndex all;
+        for (const auto* entry : AllClasses()) {
+            all.Add(entry->table());
+        }
+        return all;
+    }();
+    return index;
+}
+
+void NameIndex::Add(const Table& table)
+{
+    const auto add = [&](Root root, const std::wstring& key, const std::wstring& name) {
+        m_byName[UpCase(name)].push_back(m_entries.size());
+        m_entries.push_back({root, key, name, &table});
+    };
+    for (const bool isLoads : {true, false}) {
+        for (const auto& setting : isLoads ? wqspcfg::Describe(table) : DescribeOperations(table)) {
+            add(setting.root, setting.key, setting.readAs.empty() ? setting.name : setting.readAs);
+            if (setting.fallback) {
+                add(setting.fallback->root, setting.fallback->key, setting.fallback->name);
+            }
+        }
+    }
+}
+
+bool NameIndex::Has(Root root, std::wstring_view subkey, std::wstring_view name) const
+{
+    return std::any_of(m_entries.begin(), m_entries.end(), [&](const Entry& entry) {
+        return entry.root == root && MatchesPattern(entry.key, subkey) && MatchesPattern(entry.name, name);
+    });
+}
+
+std::string NameIndex::KeysOf(std::wstring_view name) const
+{
+    const auto found = m_byName.find(UpCase(name));
+    if (found == m_byName.end()) {
+        return {};
+    }
+    std::vector<std::string> keys;
+    for (const auto index : found->second) {
+        const auto text = KeyText(m_entries[index].root, m_entries[index].key);
+        if (std::find(keys.begin(), keys.end(), text) == keys.end()) {
+            keys.push_back(text);
+        }
+    }
+    std::string all;
+    for (const auto& key : keys) {
+        all += (all.empty() ? "" : &key == &keys.back() ? " and " : ", ") + key;
+    }
+    return all;
+}
+
+std::string NameIndex::NearestName(Root root, std::wstring_view subkey, std::wstring_view name,
+                                   const std::function<bool(const std::wstring& name)>& isStored, bool elsewhere) const
+{
+    Candidates here(name);
+    Candidates other(name);
+    for (const auto& entry : m_entries) {
+        if (entry.name.find(L'%') != std::wstring::npos) {
+            continue;
+        }
+        if (entry.root == root && MatchesPattern(entry.key, subkey)) {
+            if (const bool stored = isStored(entry.name); elsewhere || !stored) {
+                here.Try(entry.name, Utf8ForMessage(entry.name), stored);
+            }
+        } else if (elsewhere) {
+            other.Try(entry.name, KeyText(entry.root, entry.key) + '\\' + Utf8ForMessage(entry.name), false);
+        }
+    }
+    auto nearest = std::move(here).Nearest();
+    return !nearest.empty() ? nearest : std::move(other).Nearest();
+}
+
+std::string NameIndex::NearestKey(Root root, std::wstring_view subkey) const
+{
+    Candidates candidates(subkey);
+    for (const auto& entry : m_entries) {
+        if (entry.root == root && !entry.key.empty()) {
+            candidates.Try(entry.key, Utf8ForMessage(entry.key), false);
+        }
+    }
+    return std::move(candidates).Nearest();
+}
+
+NameIndex::Model NameIndex::ModelOf(Root root, std::wstring_view subkey, std::wstring_view name,
+                                    const ClassEntry& entry) const
+{
+    const auto found = m_byName.find(UpCase(name));
+    if (found == m_byName.end()) {
+        return {};
+    }
+    std::set<const Table*> tables;
+    for (const auto index : found->second) {
+        if (m_entries[index].root == root && MatchesPattern(m_entries[index].key, subkey)) {
+            tables.insert(m_entries[index].table);
+        }
+    }
+    return Describe(std::move(tables), entry);
+}
+
+NameIndex::Model NameIndex::ModelOfKey(Root root, std::wstring_view subkey, const ClassEntry& entry) const
+{
+    std::set<const Table*> tables;
+    for (const auto& each : m_entries) {
+        if (each.root == root && MatchesPattern(each.key, subkey)) {
+            tables.insert(each.table);
+        }
+    }
+    return Describe(std::move(tables), entry);
+}
+
+NameIndex::Model NameIndex::Describe(std::set<const Table*> tables, const ClassEntry& entry) const
+{
+    for (const auto* table : Lineage(entry.table())) {
+        tables.erase(table);
+    }
+    if (tables.empty()) {
+        return {};
+    }
+    const auto* deviceClass = DeviceClassOf(entry.table());
+    std::vector<const Table*> sorted(tables.begin(), tables.end());
+    const auto isSame = [&](const Table* table) {
+        const auto* other = DeviceClassOf(*table);
+        return deviceClass != nullptr && other != nullptr && std::wstring_view(deviceClass) == other;
+    };
+    std::sort(sorted.begin(), sorted.end(), [&](const Table* left, const Table* right) {
+        return isSame(left) != isSame(right) ? isSame(left) : std::wstring_view(left->className) < right->className;
+    });
+    Model model{Utf8ForMessage(sorted.front()->className), isSame(sorted.front())};
+    const auto others = static_cast<std::size_t>(std::count_if(
+        sorted.begin(), sorted.end(), [&](const Table* table) { return isSame(table) == model.isSameDevice; }));
+    if (others > 1) {
+        model.text += " and " + std::to_string(others - 1) + " more";
+    }
+    return model;
+}
+
+} // namespace wqspcfg::diagnosis
