@@ -204,8 +204,9 @@ class Checker
         std::set<std::wstring> named; // providers that a logical service names
         for (const auto& name : SubkeysOf(kLogicalRoot)) {
             m_logical.insert(UpCase(name));
-            Add(IdentifyService(CString(name), false));
-            named.insert(UpCase(m_out.services.back().service.physicalName));
+            auto service = IdentifyService(CString(name), false);
+            named.insert(UpCase(service.physicalName));
+            Add(std::move(service));
         }
         for (const auto& name : SubkeysOf(kServiceRoot)) {
             if (!EqualNoCase(name, WithoutEndingBackslash(kCommonKey)) && !named.contains(UpCase(name))) {
@@ -216,6 +217,9 @@ class Checker
 
     void Add(ServiceIdentity service)
     {
+        if (m_options.alone && !IsWanted(service)) {
+            return;
+        }
         const auto* entry = SelectModel(service).entry;
         m_out.services.push_back(Examine(service, *entry));
     }
@@ -355,10 +359,8 @@ class Checker
     void CheckSettings(const Examination& examination)
     {
         for (const auto& setting : examination.settings) {
-            if (setting.source != Source::NotRead) {
-                CheckTypes(examination, setting);
-                CheckValue(examination, setting);
-            }
+            CheckTypes(examination, setting);
+            CheckValue(examination, setting);
         }
         CheckCardUnits(examination);
         CheckNoteTypes(examination);
@@ -390,6 +392,14 @@ class Checker
         }
     }
 
+    static const AskedKey* FirstOfRightType(const ExaminedSetting& setting)
+    {
+        const auto found = std::find_if(setting.asked.begin(), setting.asked.end(), [&](const AskedKey& key) {
+            return key.found && IsRightType(setting.Setting(), key);
+        });
+        return found != setting.asked.end() ? &*found : nullptr;
+    }
+
     static bool IsRightType(const DescribedSetting& setting, const AskedKey& key)
     {
         if (key.type != StoredType(setting)) {
@@ -402,7 +412,8 @@ class Checker
     void CheckValue(const Examination& examination, const ExaminedSetting& setting)
     {
         const auto& described = setting.Setting();
-        const auto* key = setting.KeyInEffect();
+        // One that is not read now may be read when another setting is changed.
+        const auto* key = setting.source == Source::NotRead ? FirstOfRightType(setting) : setting.KeyInEffect();
         if (key == nullptr || described.wholeKey) {
             if (described.required && setting.source == Source::Missing && HasValues(setting.path)) {
                 Report(Severity::Error, FindingKind::MissingValue, examination, setting.path, std::nullopt,
@@ -413,9 +424,10 @@ class Checker
         const bool isMasked = described.secret && !m_options.showSecrets;
         const auto full = ShortPath(key->path) + '\\' + Utf8(key->name);
         const bool isNumber = described.type == Type::Dword || described.type == Type::Flag;
-        if (isNumber && !IsAllowed(described, setting.read.number)) {
+        DWORD number = 0;
+        if (isNumber && ToValue(ValueView{key->type, key->data}, number) && !IsAllowed(described, number)) {
             Report(Severity::Error, FindingKind::NotAllowed, examination, key->path, key->name,
-                   full + " is " + (isMasked ? kMasked : std::to_string(setting.read.number)) +
+                   full + " is " + (isMasked ? kMasked : std::to_string(number)) +
                        "; allowed: " + AllowedText(described) +
                        (setting.isCorrected ? "; " + ValueText(described, setting.value) + " is in effect" : ""));
         } else if (setting.isCorrected && described.corrected) {
@@ -593,7 +605,7 @@ class Checker
         const auto subkeys = SubkeysOf(key.path);
         const bool isKnown = m_known.HasKey(key.path) || key.subkey.empty();
         if (!isKnown && key.root == Root::Device && !(unknown.empty() && subkeys.empty())) {
-            ReportKey(examination, key);
+            ReportUnknownKey(examination, key, unknown, !subkeys.empty());
             return;
         }
         for (const auto& name : unknown) {
@@ -605,19 +617,33 @@ class Checker
         }
     }
 
-    void ReportKey(const Examination& examination, const VisitedKey& key)
+    // A key of which nothing is read. Its values may be at home in another one, each for itself, unless the key's own
+    // name is misspelt.
+    void ReportUnknownKey(const Examination& examination, const VisitedKey& key,
+                          const std::vector<std::wstring>& values, bool hasMore)
     {
-        const auto& index = NameIndex::Of(*examination.entry);
-        const auto model = NameIndex::All().ModelOfKey(key.root, key.subkey, *examination.entry);
-        if (!model.text.empty()) {
-            Report(Severity::Warning, FindingKind::OtherModel, examination, key.path, std::nullopt,
-                   ShortPath(key.path) + " belongs to " + model.text + "; this service is a " + ClassOf(examination));
+        const auto& own = NameIndex::Of(*examination.entry);
+        const auto near = own.NearestKey(key.root, key.subkey);
+        for (const auto& name : values) {
+            if (near.empty() && !own.KeysOf(name).empty()) {
+                ReportName(examination, key, name);
+            } else {
+                hasMore = true;
+            }
+        }
+        if (!hasMore) {
             return;
         }
-        const auto near = index.NearestKey(key.root, key.subkey);
-        Report(Severity::Warning, FindingKind::UnknownKey, examination, key.path, std::nullopt,
-               ShortPath(key.path) + " is not read by " + ClassOf(examination) +
-                   (near.empty() ? std::string() : "; did you mean " + near + "?"));
+        const auto model = NameIndex::All().ModelOfKey(key.root, key.subkey, *examination.entry);
+        const auto path = ShortPath(key.path);
+        if (!model.text.empty() && (near.empty() || model.isSameDevice)) {
+            Report(Severity::Warning, FindingKind::OtherModel, examination, key.path, std::nullopt,
+                   path + " belongs to " + model.text + "; this service is a " + ClassOf(examination));
+        } else {
+            Report(Severity::Warning, FindingKind::UnknownKey, examination, key.path, std::nullopt,
+                   path + " is not read by " + ClassOf(examination) +
+                       (near.empty() ? std::string() : "; did you mean " + near + "?"));
+        }
     }
 
     void ReportName(const Examination& examination, const VisitedKey& key, const std::wstring& name)

@@ -49,8 +49,9 @@ struct Finding
 
 struct CheckOptions
 {
-    std::vector<std::wstring> services; // only these and what they read; empty: the whole terminal
-    bool view32 = false;                // the keys of 32-bit programs are read
+    std::vector<std::wstring> services{}; // only these and what they read; empty: the whole terminal
+    bool alone = false;                   // look at no other service, and so not for ports that others use too
+    bool view32 = false;                  // the keys of 32-bit programs are read
     bool showSecrets = false;
 };
 

@@ -301,11 +301,8 @@ class Examiner
         bool isRead = false;
         for (const auto& [path, name] : places) {
             const auto known = m_byPlace.find(PlaceOf(path, name));
-            if (known == m_byPlace.end() && isLoads) {
-                continue;
-            }
-            isRead = true;
             const auto key = known != m_byPlace.end() ? *known->second : Ask(path, name);
+            isRead = isRead || known != m_byPlace.end() || !isLoads;
             const bool isOwn = &path == &places.front().first;
             if (out.source != Source::Key && out.source != Source::Fallback) {
                 if (key.found && ToDescribed(setting, key, out.read)) {
@@ -322,6 +319,7 @@ class Examiner
         }
         if (!isRead) {
             out.source = Source::NotRead;
+            out.read = setting.defaultValue;
         }
         out.value = Taken(setting, out.read);
     }

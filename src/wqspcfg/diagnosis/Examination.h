@@ -41,7 +41,7 @@ struct ExaminedSetting
     std::wstring path;            // of its own key, as in AskedKey
     std::wstring name;            // under which its own key is asked
     Source source = Source::NotRead;
-    std::vector<AskedKey> asked; // in order
+    std::vector<AskedKey> asked; // in order; of a setting that is not read, the keys that it would be read from
     DescribedValue read;         // as a key holds it, or the default
     DescribedValue value;        // in effect
     bool isCorrected = false;    // the class made `value` of `read`, which is another one

@@ -32,7 +32,7 @@ std::string Plain(std::wstring_view name)
 // How far a name may be from one that was meant by it.
 std::size_t Reach(std::size_t length)
 {
-    return length <= 3 ? 1 : length <= 8 ? 2 : 3;
+    return length <= 5 ? 1 : length <= 9 ? 2 : 3;
 }
 
 class Candidates
@@ -48,7 +48,10 @@ class Candidates
         if (longer - shorter > Reach(m_plain.size()) || plain.empty()) {
             return;
         }
-        const auto distance = 2 * Distance(m_plain, plain) + (isLessLikely ? 1 : 0);
+        // One digit too many is the likeliest slip.
+        const bool isDigitMore = m_plain.size() == plain.size() + 1 && m_plain.starts_with(plain) &&
+                                 m_plain.back() >= '0' && m_plain.back() <= '9';
+        const auto distance = (isDigitMore ? 1 : 2 * Distance(m_plain, plain)) + (isLessLikely ? 1 : 0);
         // A short name may not be another one altogether.
         if (distance < m_least && distance < 2 * longer) {
             m_least = distance;

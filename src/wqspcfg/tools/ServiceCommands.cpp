@@ -3,6 +3,7 @@
 #include "wqspcfg/catalogue/Catalogue.h"
 #include "wqspcfg/core/RegistryRoots.h"
 #include "wqspcfg/core/settings/Reference.h"
+#include "wqspcfg/diagnosis/Check.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/tools/Preview.h"
 #include "wqspcfg/tools/ScratchStore.h"
@@ -36,6 +37,16 @@ class LineLog final : public CLog
 std::string KindOf(bool physical)
 {
     return physical ? "physical" : "logical";
+}
+
+// How many findings a check of the service has.
+void NoteFindings(const StoreChoice& choice, const std::string& name, const Console& console)
+{
+    diagnosis::Places places({});
+    const auto checkup = diagnosis::Check({.services = {Wide(name)}, .alone = true, .view32 = choice.view32}, places);
+    if (!checkup.findings.empty()) {
+        console.Note(Counted(checkup.findings.size(), "finding") + "; see `wqspcfg check " + name + "`");
+    }
 }
 
 } // namespace
@@ -90,7 +101,11 @@ int LoadService(const StoreChoice& choice, const ServiceChoice& service, bool wr
         status = kNegative;
         console.Note(Utf8(entry->table().className) + "::Load returned false");
     }
-    return Checked(status, console);
+    status = Checked(status, console);
+    if (service.model.empty() && status != kFailed) {
+        NoteFindings(choice, service.name, console);
+    }
+    return status;
 }
 
 namespace {
