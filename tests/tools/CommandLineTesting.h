@@ -1,0 +1,72 @@
+// Runs the program's commands within the test.
+#pragma once
+
+#include "support/ConfigTest.h"
+#include "wqspcfg/tools/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace wqspcfg::tools {
+
+inline constexpr char kService[] = "HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Phys";
+inline constexpr char kLogical[] = "HKEY_USERS\\.DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc";
+inline constexpr char kComm[] = "HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm";
+
+// Each test has a directory of its own. On Windows, which has no embedded store, the file that the commands work on is
+// a registry export.
+class CommandLineTest : public test::ConfigTest
+{
+  protected:
+    CommandLineTest()
+        : m_directory(std::filesystem::temp_directory_path() /
+                      ("wqspcfg-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name())))
+    {
+        std::filesystem::remove_all(m_directory);
+        std::filesystem::create_directories(m_directory);
+    }
+    ~CommandLineTest() override
+    {
+        std::error_code code;
+        std::filesystem::remove_all(m_directory, code);
+    }
+
+    std::string File(const std::string& name) const { return (m_directory / name).string(); }
+    std::string StoreAddress() const { return "lmdb:" + File("store"); }
+
+    int RunOn(const std::string& store, std::vector<std::string> arguments, const std::string& input = {})
+    {
+        arguments.insert(arguments.begin(), {"--store", store});
+        std::istringstream in(input);
+        std::ostringstream out;
+        std::ostringstream err;
+        const int status = tools::Run(arguments, in, out, err, m_outIsTerminal);
+        m_out = out.str();
+        m_err = err.str();
+        ResetProcess();
+        return status;
+    }
+    int Run(std::vector<std::string> arguments, const std::string& input = {})
+    {
+        return RunOn(StoreAddress(), std::move(arguments), input);
+    }
+
+    void MakeTerminal()
+    {
+        ASSERT_EQ(Run({"set", kLogical, "Provider", "Phys"}), 0) << m_err;
+        ASSERT_EQ(Run({"set", kLogical, "Class", "CRD"}), 0);
+        ASSERT_EQ(Run({"set", kService, "Executable", "WQSpCRDWQTYM1200.exe"}), 0);
+        ASSERT_EQ(Run({"set", kComm, "BaudRate", "38400"}), 0);
+    }
+
+    std::filesystem::path m_directory;
+    bool m_outIsTerminal = false;
+    std::string m_out;
+    std::string m_err;
+};
+
+} // namespace wqspcfg::tools

@@ -1,0 +1,125 @@
+#include "CommandLineTesting.h"
+
+#include <nlohmann/json.hpp>
+
+#include <fstream>
+
+namespace wqspcfg::tools {
+
+namespace {
+
+using nlohmann::json;
+
+class DiagnosisCommandsTest : public CommandLineTest
+{
+  protected:
+    // A registry export with a card dispenser and what `more` adds to its device key.
+    std::string Export(const std::string& more = {}) const
+    {
+        const auto file = File("terminal.reg");
+        std::ofstream(file, std::ios::binary)
+            << "Windows Registry Editor Version 5.00\n\n"
+               "[HKEY_USERS\\.DEFAULT\\XFS\\LOGICAL_SERVICES\\CardDispenser]\n"
+               "\"Class\"=\"CRD\"\n\"Provider\"=\"WQSpCRDWQTYM1200\"\n\n"
+               "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\WQSpCRDWQTYM1200]\n"
+               "\"ExeDllMother\"=\"WQSpCRDWQTYM1200.exe\"\n\n"
+               "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200]\n\n"
+               "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm]\n"
+            << more;
+        return "reg:" + file;
+    }
+
+    std::string Place(int line) const { return File("terminal.reg") + ':' + std::to_string(line); }
+};
+
+} // namespace
+
+TEST_F(DiagnosisCommandsTest, CheckNamesFaultsWithTheirLines)
+{
+    const auto sound = Export("\"Port\"=dword:4\n\"BaudRate\"=dword:2580\n");
+    EXPECT_EQ(RunOn(sound, {"check", "--strict"}), 0);
+    EXPECT_EQ(m_out + m_err, "");
+
+    const auto faulty = Export("\"Port\"=\"4\"\n\"BuadRate\"=dword:2580\n");
+    EXPECT_EQ(RunOn(faulty, {"check"}), 1);
+    EXPECT_EQ(m_out, Place(13) +
+                         ": error: WQSpCRDWQTYM1200\\Comm\\Port is REG_SZ \"4\", a REG_DWORD is read: the default "
+                         "1 is in effect\n" +
+                         Place(14) +
+                         ": warning: WQSpCRDWQTYM1200\\Comm\\BuadRate is not read by "
+                         "CSpCRDWQTYM1200RegInfo; did you mean BaudRate?\n");
+    EXPECT_EQ(m_err, "wqspcfg: 1 error, 1 warning\n");
+    EXPECT_EQ(RunOn(faulty, {"load", "CardDispenser"}), 0);
+    EXPECT_NE(m_err.find("2 findings; see `wqspcfg check CardDispenser`"), std::string::npos) << m_err;
+
+    EXPECT_EQ(RunOn(faulty, {"check", "--json"}), 1);
+    const auto out = json::parse(m_out);
+    EXPECT_EQ(out["errors"], 1);
+    EXPECT_EQ(out["findings"][1]["kind"], "unknownName");
+    EXPECT_EQ(out["findings"][1]["name"], "BuadRate");
+    EXPECT_EQ(out["findings"][1]["place"], Place(14));
+
+    const auto slip = Export("\"BuadRate\"=dword:2580\n");
+    EXPECT_EQ(RunOn(slip, {"check"}), 0) << "a warning";
+    EXPECT_EQ(RunOn(slip, {"check", "--strict"}), 1);
+    EXPECT_EQ(RunOn(slip, {"check", "Nobody"}), 1);
+    EXPECT_NE(m_err.find("there is no service \"Nobody\""), std::string::npos) << m_err;
+    EXPECT_EQ(RunOn("reg:" + File("none.reg"), {"check"}), 3);
+}
+
+TEST_F(DiagnosisCommandsTest, ExplainTellsValueOriginAndKeys)
+{
+    const auto store = Export("\"Port\"=\"4\"\n\"BaudRate\"=dword:9600\n\"BluetoothPassWord\"=\"hunter2\"\n");
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "Comm\\port"}), 0) << m_err;
+    EXPECT_EQ(m_out, "Comm : Port = 1   default (REG_SZ \"4\" at " + Place(13) +
+                         " ignored: a REG_DWORD is read)\n"
+                         "    HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm\\Port  REG_SZ \"4\"  " +
+                         Place(13) +
+                         "\n    default 1, saved, declared by CSpCRDWQTYM1200RegInfo\n    serial port number\n");
+
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "--changed"}), 0);
+    EXPECT_NE(m_out.find("Comm           BaudRate           38400"), std::string::npos) << m_out;
+    EXPECT_NE(m_out.find("********"), std::string::npos) << m_out;
+    EXPECT_EQ(m_out.find("hunter2"), std::string::npos);
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "BluetoothPassWord", "--secrets"}), 0);
+    EXPECT_NE(m_out.find("hunter2"), std::string::npos);
+
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "BaudRate", "--json"}), 0);
+    const auto setting = json::parse(m_out)["settings"][0];
+    EXPECT_EQ(setting["value"], 38400);
+    EXPECT_EQ(setting["source"], "key");
+    EXPECT_EQ(setting["asked"][0]["place"], Place(14));
+    EXPECT_EQ(setting["asked"][0]["inEffect"], true);
+
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "BuadRate"}), 1);
+    EXPECT_NE(m_err.find("has no setting \"BuadRate\"; did you mean \"BaudRate\"?"), std::string::npos) << m_err;
+    EXPECT_EQ(RunOn(store, {"explain", "Nobody"}), 1);
+}
+
+// A terminal is shown what it can show; JSON is well-formed whatever is stored.
+TEST_F(DiagnosisCommandsTest, HostileTextStaysText)
+{
+    const std::string hostile = "\"Port\"=\"a\\\\r\x1b[31m\xe2\x80\xae" + std::string(1 << 20, 'x') +
+                                "\"\n"
+                                "\"ev\\\\il\x1b[2J\"=\"<script>\"\n"
+                                // a lone surrogate
+                                "\"BluetoothName\"=hex(1):00,d8,0a,00,1b,00,00,00\n"
+                                "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\<b>]\n"
+                                "\"x\"=dword:1\n";
+    const auto store = Export(hostile);
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{"check"}, {"explain", "CardDispenser"}, {"explain", "CardDispenser", "--changed"}}) {
+        RunOn(store, command);
+        const auto all = m_out + m_err;
+        EXPECT_NE(all, "");
+        EXPECT_EQ(all.find('\x1b'), std::string::npos);
+        EXPECT_EQ(all.find("\xe2\x80\xae"), std::string::npos);
+        EXPECT_LT(all.size(), 200000U);
+        auto json = command;
+        json.emplace_back("--json");
+        RunOn(store, json);
+        EXPECT_TRUE(json::accept(m_out)) << command.front();
+    }
+}
+
+} // namespace wqspcfg::tools
