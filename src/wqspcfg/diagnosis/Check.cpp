@@ -70,94 +70,52 @@ std::string ClassOf(const Examination& examination)
     return Utf8(examination.entry->table().className);
 }
 
-// Everything that the services read, by place.
-class KnownPlaces
+// What code of the services' classes reads besides what their tables say.
+class CodePlaces
 {
   public:
     void Add(const Examination& examination)
     {
-        for (const auto& setting : examination.settings) {
-            const auto& described = setting.Setting();
-            if (described.wholeKey) {
-                AddWhole(setting.path);
-                continue;
-            }
-            AddValue(setting.path, setting.name);
-            AddValue(setting.path, described.name);
-            if (!described.savedName.empty()) {
-                AddValue(setting.path, described.savedName);
-            }
-            if (described.fallback) {
-                AddValue(PathOf(examination.service, described.fallback->root, described.fallback->key),
-                         described.fallback->name);
-            }
-        }
         for (const auto& key : examination.asked) {
             AddValue(key.path, key.name);
         }
         for (const auto& path : examination.listed) {
-            AddWhole(path);
+            m_whole.insert(path);
+            AddKey(path);
         }
-        for (const auto& each : SettingsOf(*examination.entry).All()) {
-            const auto path = PathOf(examination.service, each.setting.root, each.setting.key);
-            if (path.find(L'%') != std::wstring::npos ||
-                (!each.setting.wholeKey && each.setting.name.find(L'%') != std::wstring::npos)) {
-                m_patterns.emplace_back(path, each.setting.name);
+        for (const auto& setting : examination.settings) {
+            if (setting.Setting().root == Root::Absolute) {
+                AddValue(setting.path, setting.name);
             }
         }
     }
-
-    void AddValue(std::wstring_view path, std::wstring_view name)
+    void AddValue(const std::wstring& path, const std::wstring& name)
     {
-        auto& names = Key(path);
-        names.insert(UpCase(name));
+        m_values[path].insert(name);
+        AddKey(path);
     }
 
-    // Whether a value of the key may be read.
     bool HasValue(const std::wstring& path, const std::wstring& name) const
     {
-        return HasOwnValue(path, name) || m_whole.contains(UpCase(path)) || MatchesAny(path, &name);
+        const auto key = m_values.find(path);
+        return m_whole.contains(path) || (key != m_values.end() && key->second.contains(name));
     }
-    // Whether a setting of its own has this value, which may stand in a key that is read as a whole too.
-    bool HasOwnValue(const std::wstring& path, const std::wstring& name) const
-    {
-        const auto key = m_keys.find(UpCase(path));
-        return key != m_keys.end() && key->second.contains(UpCase(name));
-    }
-    // Whether values of the key, or of keys below it, may be read.
-    bool HasKey(const std::wstring& path) const { return m_above.contains(UpCase(path)) || MatchesAny(path, nullptr); }
+    // Also a key above one that is read.
+    bool HasKey(const std::wstring& path) const { return m_above.contains(path); }
 
   private:
-    std::unordered_set<std::wstring>& Key(std::wstring_view path)
+    void AddKey(const std::wstring& path)
     {
-        auto upper = UpCase(path);
-        const auto known = m_keys.find(upper);
-        if (known != m_keys.end()) {
-            return known->second;
-        }
-        for (auto end = upper.size(); end != std::wstring::npos && end > 0; end = upper.rfind(L'\\', end - 1)) {
-            if (!m_above.insert(upper.substr(0, end)).second) {
+        for (auto end = path.size(); end != std::wstring::npos && end > 0; end = path.rfind(L'\\', end - 1)) {
+            if (!m_above.insert(path.substr(0, end)).second) {
                 break;
             }
         }
-        return m_keys[std::move(upper)];
-    }
-    void AddWhole(const std::wstring& path)
-    {
-        Key(path);
-        m_whole.insert(UpCase(path));
-    }
-    bool MatchesAny(std::wstring_view path, const std::wstring* name) const
-    {
-        return std::any_of(m_patterns.begin(), m_patterns.end(), [&](const auto& pattern) {
-            return MatchesPattern(pattern.first, path) && (name == nullptr || MatchesPattern(pattern.second, *name));
-        });
     }
 
-    std::unordered_map<std::wstring, std::unordered_set<std::wstring>> m_keys;
-    std::unordered_set<std::wstring> m_whole;
-    std::unordered_set<std::wstring> m_above; // keys, and those that they stand below
-    std::vector<std::pair<std::wstring, std::wstring>> m_patterns;
+    std::unordered_map<std::wstring, NameSet, HasherNoCase, EqualToNoCase> m_values;
+    NameSet m_whole;
+    NameSet m_above;
 };
 
 class Checker
@@ -275,11 +233,17 @@ class Checker
         }
     }
 
-    // All that any service reads.
     void CollectKnown()
     {
         for (const auto& examination : m_out.services) {
             m_known.Add(examination);
+            const auto& settings = SettingsOf(*examination.entry);
+            for (const auto root : {Root::Device, Root::Service, Root::Logical, Root::Common}) {
+                auto& readers = m_readers[PathOf(examination.service, root, {})];
+                if (std::find(readers.begin(), readers.end(), &settings) == readers.end()) {
+                    readers.push_back(&settings);
+                }
+            }
             // What the XFS manager reads of the service key.
             for (const auto* name : {L"vendor_name", L"version", L"dllname"}) {
                 m_known.AddValue(kServiceRoot + examination.service.physicalName, name);
@@ -379,7 +343,8 @@ class Checker
             const bool isOwn = described.wholeKey || EqualNoCase(key.name, setting.name) ||
                                (described.fallback && EqualNoCase(key.name, described.fallback->name));
             if (!key.found || !isOwn || IsRightType(described, key) ||
-                (described.wholeKey && m_known.HasOwnValue(key.path, key.name))) {
+                (described.wholeKey &&
+                 SettingsOf(*examination.entry).ReadsValue(described.root, described.key, key.name))) {
                 continue;
             }
             const auto effect = setting.source == Source::WrongType
@@ -569,7 +534,7 @@ class Checker
             }
             const auto visit = [&](const wchar_t* root, const std::wstring& name, Root kind) {
                 if (!name.empty() && visited.insert(UpCase(root + name)).second) {
-                    VisitKey(examination, {root + name, L"", kind});
+                    VisitKey(examination, m_readers[root + name], {root + name, L"", kind});
                 }
             };
             visit(kDeviceRoot, service.deviceKey, Root::Device);
@@ -577,8 +542,8 @@ class Checker
             visit(kLogicalRoot, service.logicalName, Root::Logical);
         }
         if (m_options.services.empty() && !m_out.services.empty()) {
-            VisitKey(m_out.services.front(),
-                     {WithoutEndingBackslash(std::wstring(kServiceRoot) + kCommonKey), L"", Root::Common});
+            const auto common = PathOf(m_out.services.front().service, Root::Common, {});
+            VisitKey(m_out.services.front(), m_readers[common], {common, L"", Root::Common});
         }
     }
 
@@ -589,21 +554,28 @@ class Checker
         Root root;
     };
 
-    void VisitKey(const Examination& examination, const VisitedKey& key)
+    void VisitKey(const Examination& examination, const std::vector<const ClassSettings*>& readers,
+                  const VisitedKey& key)
     {
         std::vector<std::wstring> unknown;
         {
             const ReadScope scope;
             scope->EnumValues(scope->Open(key.path), [&](std::wstring_view name, const ValueView&) {
                 const std::wstring text(name);
-                if (!m_known.HasValue(key.path, text) && !(key.subkey.empty() && text.empty())) {
+                const bool isRead = std::any_of(readers.begin(), readers.end(), [&](const ClassSettings* reader) {
+                    return reader->MayRead(key.root, key.subkey, text);
+                });
+                if (!isRead && !m_known.HasValue(key.path, text) && !(key.subkey.empty() && text.empty())) {
                     unknown.push_back(text);
                 }
                 return true;
             });
         }
         const auto subkeys = SubkeysOf(key.path);
-        const bool isKnown = m_known.HasKey(key.path) || key.subkey.empty();
+        const bool isKnown = key.subkey.empty() || m_known.HasKey(key.path) ||
+                             std::any_of(readers.begin(), readers.end(), [&](const ClassSettings* reader) {
+                                 return reader->MayReadKey(key.root, key.subkey);
+                             });
         if (!isKnown && key.root == Root::Device && !(unknown.empty() && subkeys.empty())) {
             ReportUnknownKey(examination, key, unknown, !subkeys.empty());
             return;
@@ -612,7 +584,7 @@ class Checker
             ReportName(examination, key, name);
         }
         for (const auto& name : subkeys) {
-            VisitKey(examination,
+            VisitKey(examination, readers,
                      {key.path + L'\\' + name, key.subkey.empty() ? name : key.subkey + L'\\' + name, key.root});
         }
     }
@@ -685,7 +657,9 @@ class Checker
     const CheckOptions& m_options;
     Places& m_places;
     Checkup m_out;
-    KnownPlaces m_known;
+    CodePlaces m_known;
+    // The classes that read the keys of a root: a service's device key, its service key, ...
+    std::unordered_map<std::wstring, std::vector<const ClassSettings*>, HasherNoCase, EqualToNoCase> m_readers;
     std::set<std::wstring> m_logical; // names of logical services in capitals
     std::set<std::string> m_reported;
 };

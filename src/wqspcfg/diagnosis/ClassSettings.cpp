@@ -1,5 +1,7 @@
 #include "wqspcfg/diagnosis/ClassSettings.h"
 
+#include "wqspcfg/platform/text/CaseFold.h"
+
 #include <algorithm>
 #include <map>
 #include <memory>
@@ -41,13 +43,96 @@ ClassSettings::ClassSettings(const ClassEntry& entry) : m_entry(entry)
             append(tables[i]->mixin(), true, tables[i]->savesBase && isSaved[i]);
         }
     }
+    m_places.clear();
 }
 
 void ClassSettings::Append(DescribedSetting setting, const Table& table, bool isMixin, bool isSaved)
 {
     m_byRow.try_emplace({setting.row, setting.iteration}, m_settings.size());
     m_byText.try_emplace(TextOf(*setting.row), m_settings.size());
-    m_settings.push_back({std::move(setting), &table, isSaved, isMixin});
+    ClassSetting added{std::move(setting), &table, isSaved, isMixin};
+    const auto& described = added.setting;
+    added.isPattern = !described.wholeKey && (described.key.find(L'%') != std::wstring::npos ||
+                                              described.name.find(L'%') != std::wstring::npos);
+    const auto key = UpCase(std::to_wstring(static_cast<int>(described.root)) + described.key);
+    added.isRepeated =
+        !m_places.insert(key + L'|' + UpCase(described.readAs.empty() ? described.name : described.readAs)).second;
+    const auto known = std::find_if(m_keys.begin(), m_keys.end(), [&](const ClassKey& each) {
+        return each.root == described.root && each.subkey == described.key;
+    });
+    added.key = static_cast<std::size_t>(known - m_keys.begin());
+    if (known == m_keys.end()) {
+        m_keys.push_back({described.root, described.key});
+    }
+    if (added.isPattern) {
+        m_patterns.push_back(m_settings.size());
+    } else {
+        auto& names = NamesOf(described.root, described.key);
+        names.isWhole = names.isWhole || described.wholeKey;
+        if (!described.wholeKey) {
+            names.names.insert(described.readAs.empty() ? described.name : described.readAs);
+            names.names.insert(described.name);
+            if (!described.savedName.empty()) {
+                names.names.insert(described.savedName);
+            }
+        }
+        if (described.fallback) {
+            NamesOf(described.fallback->root, described.fallback->key).names.insert(described.fallback->name);
+        }
+    }
+    m_settings.push_back(std::move(added));
+}
+
+ClassSettings::KeyNames& ClassSettings::NamesOf(Root root, const std::wstring& subkey)
+{
+    auto& above = m_above[static_cast<std::size_t>(root)];
+    for (auto end = subkey.size();
+         end != std::wstring::npos && above.insert(subkey.substr(0, end)).second && end > 0;) {
+        end = subkey.rfind(L'\\', end - 1);
+    }
+    return m_names[static_cast<std::size_t>(root)][subkey];
+}
+
+bool ClassSettings::ReadsValue(Root root, std::wstring_view subkey, std::wstring_view name) const
+{
+    const auto& keys = m_names[static_cast<std::size_t>(root)];
+    const auto key = keys.find(subkey);
+    return key != keys.end() && key->second.names.find(name) != key->second.names.end();
+}
+
+bool ClassSettings::MayRead(Root root, std::wstring_view subkey, std::wstring_view name) const
+{
+    const auto& keys = m_names[static_cast<std::size_t>(root)];
+    const auto key = keys.find(subkey);
+    if (key != keys.end() && (key->second.isWhole || key->second.names.find(name) != key->second.names.end())) {
+        return true;
+    }
+    return std::any_of(m_patterns.begin(), m_patterns.end(), [&](std::size_t index) {
+        const auto& setting = m_settings[index].setting;
+        return setting.root == root && MatchesPattern(setting.key, subkey) && MatchesPattern(setting.name, name);
+    });
+}
+
+bool ClassSettings::MayReadKey(Root root, std::wstring_view subkey) const
+{
+    const auto& above = m_above[static_cast<std::size_t>(root)];
+    return above.find(subkey) != above.end() ||
+           std::any_of(m_patterns.begin(), m_patterns.end(), [&](std::size_t index) {
+               const auto& setting = m_settings[index].setting;
+               return setting.root == root && MatchesPattern(setting.key, subkey);
+           });
+}
+
+bool MatchesPattern(std::wstring_view pattern, std::wstring_view text)
+{
+    const auto at = pattern.find(L'%');
+    if (at == std::wstring_view::npos) {
+        return EqualNoCase(pattern, text);
+    }
+    const auto head = pattern.substr(0, at);
+    const auto tail = pattern.substr(at + 2);
+    return text.size() > head.size() + tail.size() && EqualNoCase(text.substr(0, head.size()), head) &&
+           EqualNoCase(text.substr(text.size() - tail.size()), tail);
 }
 
 std::size_t ClassSettings::IndexOf(const Setting& row, unsigned iteration) const

@@ -22,14 +22,25 @@ std::wstring WithoutEndingBackslash(std::wstring_view path)
     return std::wstring(path);
 }
 
-// A place in the registry, for comparison.
-std::wstring PlaceOf(std::wstring_view path, std::wstring_view name)
+// A place in the registry; keys and names compare without regard to case.
+struct Place
 {
-    auto place = UpCase(path);
-    place += L'|';
-    place += UpCase(name);
-    return place;
-}
+    std::wstring_view path;
+    std::wstring_view name;
+
+    bool operator==(const Place& other) const noexcept
+    {
+        return EqualNoCase(name, other.name) && EqualNoCase(path, other.path);
+    }
+};
+
+struct HashPlace
+{
+    std::size_t operator()(const Place& place) const noexcept
+    {
+        return HashNoCase(place.path) * 31 + HashNoCase(place.name);
+    }
+};
 
 bool IsText(const DescribedSetting& setting)
 {
@@ -194,7 +205,12 @@ class Examiner
         m_out.isLoaded = object->Load(nullptr);
         observe.reset();
         m_object = object.get();
+        for (const auto& key : m_settings.Keys()) {
+            m_paths.push_back(PathOf(m_out.service, key.root, key.subkey));
+        }
+        m_byIndex.assign(m_settings.All().size(), nullptr);
         Index();
+        m_out.settings.reserve(m_settings.All().size());
         const auto& all = m_settings.All();
         for (std::size_t i = 0; i < all.size(); ++i) {
             Add(i);
@@ -209,18 +225,11 @@ class Examiner
     }
 
   private:
-    // A setting whose place only the code knows, such as a card unit's, stands once in the reference with a conversion.
-    static bool IsPattern(const DescribedSetting& setting)
-    {
-        return !setting.wholeKey &&
-               (setting.key.find(L'%') != std::wstring::npos || setting.name.find(L'%') != std::wstring::npos);
-    }
-
     void Index()
     {
         for (auto& event : m_recorder.events) {
             const auto index = m_settings.IndexOf(*event.row, event.iteration.index);
-            if (index == ClassSettings::npos || IsPattern(m_settings.All()[index].setting)) {
+            if (index == ClassSettings::npos || m_settings.All()[index].isPattern) {
                 if (event.isLoaded) {
                     m_foundEvents.emplace_back(&event, index);
                 }
@@ -233,19 +242,22 @@ class Examiner
             }
             known = &event;
         }
-        const auto add = [&](const AskedKey& key) { m_byPlace.try_emplace(PlaceOf(key.path, key.name), &key); };
+        // What a row's own query has asked is told with the row.
+        const auto add = [&](const AskedKey& key) { m_byPlace.try_emplace({key.path, key.name}, &key); };
         for (const auto& event : m_recorder.events) {
-            std::for_each(event.asked.begin(), event.asked.end(), add);
+            if (!event.isLoaded || event.origin == Origin::Code) {
+                std::for_each(event.asked.begin(), event.asked.end(), add);
+            }
         }
         std::for_each(m_recorder.byCode.begin(), m_recorder.byCode.end(), add);
     }
 
-    ExaminedSetting Begin(const ClassSetting& declared) const
+    ExaminedSetting Begin(const ClassSetting& declared, bool isKnownKey = true) const
     {
         ExaminedSetting out{};
         out.declared = &declared;
         const auto& setting = declared.setting;
-        out.path = PathOf(m_out.service, setting.root, setting.key);
+        out.path = isKnownKey ? m_paths[declared.key] : PathOf(m_out.service, setting.root, setting.key);
         out.name = setting.readAs.empty() ? setting.name : setting.readAs;
         out.read = out.value = setting.defaultValue;
         return out;
@@ -255,7 +267,7 @@ class Examiner
     {
         const auto& declared = m_settings.All()[index];
         const auto& setting = declared.setting;
-        if (IsPattern(setting)) {
+        if (declared.isPattern) {
             return;
         }
         if (setting.wholeKey) {
@@ -265,9 +277,13 @@ class Examiner
             }
             return;
         }
-        auto out = Begin(declared);
-        const auto found = m_byIndex.find(index);
-        const auto* event = found != m_byIndex.end() ? found->second : nullptr;
+        // What another row has loaded, or an operation reads once more, is told once.
+        if (declared.isRepeated && (setting.row->Has(Flags::Preloaded) || !setting.readBy.empty())) {
+            return;
+        }
+        m_out.settings.push_back(Begin(declared));
+        auto& out = m_out.settings.back();
+        auto* event = m_byIndex[index];
         if (event != nullptr) {
             out.asked = event->asked;
         }
@@ -278,14 +294,8 @@ class Examiner
         } else if (!setting.computed) {
             FindRead(out);
         }
-        // What another row has loaded, or an operation reads once more, is told once.
-        const bool isFirst = m_listed.insert(PlaceOf(out.path, out.name)).second;
-        if (!isFirst && (setting.row->Has(Flags::Preloaded) || !setting.readBy.empty())) {
-            return;
-        }
         TakeHeld(event, out);
         Judge(out);
-        m_out.settings.push_back(std::move(out));
     }
 
     // Where code reads the setting, or nothing does before an operation asks for it.
@@ -300,7 +310,7 @@ class Examiner
         }
         bool isRead = false;
         for (const auto& [path, name] : places) {
-            const auto known = m_byPlace.find(PlaceOf(path, name));
+            const auto known = m_byPlace.find({path, name});
             const auto key = known != m_byPlace.end() ? *known->second : Ask(path, name);
             isRead = isRead || known != m_byPlace.end() || !isLoads;
             const bool isOwn = &path == &places.front().first;
@@ -404,7 +414,7 @@ class Examiner
                 declared->table = &m_out.entry->table();
                 declared->isSaved = declared->setting.saved;
             }
-            auto out = Begin(*declared);
+            auto out = Begin(*declared, false);
             out.source = SourceOf(event->origin);
             out.asked = event->asked;
             out.read = out.value = event->held;
@@ -418,16 +428,17 @@ class Examiner
     {
         std::vector<std::pair<const ClassSetting*, std::wstring>> patterns;
         for (const auto& each : m_settings.All()) {
-            if (IsPattern(each.setting)) {
+            if (each.isPattern) {
                 patterns.emplace_back(&each, PathOf(m_out.service, each.setting.root, each.setting.key));
             }
         }
+        std::unordered_set<Place, HashPlace> listed;
         for (const auto& key : m_recorder.byCode) {
             const auto found = std::find_if(patterns.begin(), patterns.end(), [&](const auto& pattern) {
                 return MatchesPattern(pattern.second, key.path) &&
                        MatchesPattern(pattern.first->setting.name, key.name);
             });
-            if (found == patterns.end() || !m_listed.insert(PlaceOf(key.path, key.name)).second) {
+            if (found == patterns.end() || !listed.insert({key.path, key.name}).second) {
                 continue;
             }
             auto declared = std::make_unique<ClassSetting>(*found->first);
@@ -435,7 +446,7 @@ class Examiner
             // Pattern and path have all before the conversion in common.
             setting.key = key.path.substr(found->second.size() - setting.key.size());
             setting.name = key.name;
-            auto out = Begin(*declared);
+            auto out = Begin(*declared, false);
             out.asked.push_back(key);
             out.source = !key.found                            ? Source::Missing
                          : ToDescribed(setting, key, out.read) ? Source::Key
@@ -450,10 +461,10 @@ class Examiner
     Examination m_out;
     Recorder m_recorder;
     CRegInfo* m_object = nullptr;
-    std::unordered_map<std::size_t, Event*> m_byIndex;
+    std::vector<std::wstring> m_paths; // of the class's keys
+    std::vector<Event*> m_byIndex;     // null where there is none
     std::vector<std::pair<Event*, std::size_t>> m_foundEvents;
-    std::unordered_map<std::wstring, const AskedKey*> m_byPlace;
-    std::unordered_set<std::wstring> m_listed;
+    std::unordered_map<Place, const AskedKey*, HashPlace> m_byPlace;
 };
 
 } // namespace
@@ -482,18 +493,6 @@ const AskedKey* ExaminedSetting::KeyInEffect() const noexcept
 Examination Examine(const ServiceIdentity& service, const ClassEntry& entry)
 {
     return Examiner(service, entry).Run();
-}
-
-bool MatchesPattern(std::wstring_view pattern, std::wstring_view text)
-{
-    const auto at = pattern.find(L'%');
-    if (at == std::wstring_view::npos) {
-        return EqualNoCase(pattern, text);
-    }
-    const auto head = pattern.substr(0, at);
-    const auto tail = pattern.substr(at + 2);
-    return text.size() > head.size() + tail.size() && EqualNoCase(text.substr(0, head.size()), head) &&
-           EqualNoCase(text.substr(text.size() - tail.size()), tail);
 }
 
 std::wstring PathOf(const ServiceIdentity& service, Root root, std::wstring_view key)

@@ -74,9 +74,6 @@ struct Examination
 // objects of the classes are.
 Examination Examine(const ServiceIdentity& service, const ClassEntry& entry);
 
-// Whether the text is the pattern with some text in place of its one conversion, "%d" or "%s". Case does not count.
-bool MatchesPattern(std::wstring_view pattern, std::wstring_view text);
-
 // The path of a key of this service, relative to its hive, without a backslash at its end.
 std::wstring PathOf(const ServiceIdentity& service, Root root, std::wstring_view key);
 

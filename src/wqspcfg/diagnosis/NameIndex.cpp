@@ -1,7 +1,7 @@
 #include "wqspcfg/diagnosis/NameIndex.h"
 
 #include "wqspcfg/core/settings/Reference.h"
-#include "wqspcfg/diagnosis/Examination.h"
+#include "wqspcfg/diagnosis/ClassSettings.h"
 #include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/text/CaseFold.h"
