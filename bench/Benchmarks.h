@@ -13,6 +13,7 @@ void RegisterLoad();      // a whole Load, beside the same values in other store
 void RegisterServices();  // Loads of many services in one store
 void RegisterSave();      // a whole Save, beside raw commits of the same values
 void RegisterValue();     // one value by its full path
+void RegisterDiagnosis(); // the examination of a service, checks of exports
 void RegisterFootprint(); // the memory of one loaded object
 
 // A terminal's store.

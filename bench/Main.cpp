@@ -13,6 +13,7 @@ int main(int argc, char** argv)
     bench::RegisterServices();
     bench::RegisterSave();
     bench::RegisterValue();
+    bench::RegisterDiagnosis();
     bench::RegisterFootprint();
     benchmark::RunSpecifiedBenchmarks();
     wqspcfg::SetCurrentStore(nullptr);

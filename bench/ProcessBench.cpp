@@ -123,6 +123,37 @@ void Start(benchmark::State& state, std::size_t values, bool load)
     }
 }
 
+std::string Terminal()
+{
+    const auto directory = bench::Scratch() / "terminal";
+    if (!std::filesystem::exists(directory)) {
+        RunProgram(BENCH_WQSPCFG, {"--store", "lmdb:" + directory, "import", BENCH_EXAMPLE});
+    }
+    return "lmdb:" + directory;
+}
+
+// What the program tells of a service, beside the lines of its Load.
+void Explain(benchmark::State& state, bool explain)
+{
+    const auto store = Terminal();
+    for (auto _ : state) {
+        state.SetIterationTime(RunProgram(BENCH_WQSPCFG, {"--store", store, explain ? "explain" : "load",
+                                                          "CardDispenser", "--model", "CSpCRDWQTYM1200RegInfo"})
+                                   .seconds);
+    }
+}
+
+// A check of the whole terminal, beside a program that loads all its services.
+void Check(benchmark::State& state, bool check)
+{
+    const auto store = Terminal();
+    for (auto _ : state) {
+        state.SetIterationTime(
+            (check ? RunProgram(BENCH_WQSPCFG, {"--store", store, "check"}) : RunProgram(BENCH_LOAD_ALL, {store}))
+                .seconds);
+    }
+}
+
 void Transfer(benchmark::State& state, std::size_t values, bool import)
 {
     const auto file = RegFile(values);
@@ -170,6 +201,13 @@ int main(int argc, char** argv)
                 ->Unit(benchmark::kMillisecond);
         }
     }
+    const auto add = [](const char* name, void (*run)(benchmark::State&, bool), bool ours) {
+        benchmark::RegisterBenchmark(name, run, ours)->UseManualTime()->Unit(benchmark::kMillisecond);
+    };
+    add("Explain/limit", Explain, false);
+    add("Explain/WQSpCfg", Explain, true);
+    add("Check/limit", Check, false);
+    add("Check/WQSpCfg", Check, true);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -17,7 +17,7 @@ import subprocess
 
 SECONDS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
 # What only computes is told in processor time, which other programs on the machine disturb less.
-PROCESSOR_TIME = ("Load/", "Services/", "Value/")
+PROCESSOR_TIME = ("Load/", "Services/", "Value/", "Examine/", "Exports/")
 CLASSES = ["CSpIDCDCT10NRegInfo", "CSPCRMWQ09RegInfo"]
 TERMINAL = 10000
 PEERS = ["SQLite", "GLib", "Boost", "per value"]
@@ -132,6 +132,25 @@ def transfer_row(results, what):
     )
 
 
+def diagnosis_rows(results):
+    def against(work, what, most):
+        limit, ours = results.of(work, "limit", "WQSpCfg")
+        return row(what, f"≤ {most}", {"limit": ours <= most * limit}, ours, limit)
+
+    exports = results.counted["Exports/WQSpCfg"]
+    each = results.times["Exports/WQSpCfg"]
+    return [
+        against("Explain", "start to end of `wqspcfg explain` of a service, beside `wqspcfg load`", 2),
+        against("Check", "start to end of `wqspcfg check` of the example terminal, beside a program that loads all its services", 3),
+        row(
+            f"1,000 registry exports of {exports['values']:,.0f} values opened and checked",
+            "≥ 100 a second; memory flat",
+            {"speed": each <= 0.01, "memory": exports["growth"] < 2**20},
+            f"{1 / each:.0f} a second; memory grows by {max(exports['growth'], 0) / 1024:.0f} KiB",
+        ),
+    ]
+
+
 def windows_row(results, class_name):
     work = f"Windows/{class_name}"
     limit, ours, each = results.of(work, "limit", "WQSpCfg", "per value")
@@ -151,6 +170,7 @@ def comparison(results, programs):
     rows += [value_row(results, 10**n) for n in range(3, 7)]
     rows += [save_row(results, name) for name in CLASSES]
     rows += [start_row(results), transfer_row(results, "Import"), transfer_row(results, "Export")]
+    rows += diagnosis_rows(results)
     if any(name.startswith("Windows/") for name in results.times):
         rows += [windows_row(results, name) for name in CLASSES]
     memory = results.counted["Footprint"]

@@ -118,6 +118,33 @@ class CodePlaces
     NameSet m_above;
 };
 
+// The settings of an examination by key and name.
+class SettingIndex
+{
+  public:
+    explicit SettingIndex(const Examination& examination)
+    {
+        for (const auto& setting : examination.settings) {
+            m_byKey[setting.Setting().key].try_emplace(setting.name, &setting);
+        }
+    }
+
+    const ExaminedSetting* Find(std::wstring_view key, std::wstring_view name) const
+    {
+        const auto names = m_byKey.find(key);
+        if (names == m_byKey.end()) {
+            return nullptr;
+        }
+        const auto found = names->second.find(name);
+        return found != names->second.end() ? found->second : nullptr;
+    }
+
+  private:
+    template <class T>
+    using Map = std::unordered_map<std::wstring, T, HasherNoCase, EqualToNoCase>;
+    Map<Map<const ExaminedSetting*>> m_byKey;
+};
+
 class Checker
 {
   public:
@@ -326,8 +353,13 @@ class Checker
             CheckTypes(examination, setting);
             CheckValue(examination, setting);
         }
-        CheckCardUnits(examination);
-        CheckNoteTypes(examination);
+        const auto* deviceClass = DeviceClassOf(examination.entry->table());
+        if (deviceClass != nullptr &&
+            (deviceClass == std::wstring_view(L"CRD") || deviceClass == std::wstring_view(L"CRM"))) {
+            const SettingIndex index(examination);
+            CheckCardUnits(examination, index);
+            CheckNoteTypes(examination, index);
+        }
     }
 
     static std::string FullName(const ExaminedSetting& setting)
@@ -387,24 +419,24 @@ class Checker
             return;
         }
         const bool isMasked = described.secret && !m_options.showSecrets;
-        const auto full = ShortPath(key->path) + '\\' + Utf8(key->name);
+        const auto full = [&] { return ShortPath(key->path) + '\\' + Utf8(key->name); };
         const bool isNumber = described.type == Type::Dword || described.type == Type::Flag;
         DWORD number = 0;
         if (isNumber && ToValue(ValueView{key->type, key->data}, number) && !IsAllowed(described, number)) {
             Report(Severity::Error, FindingKind::NotAllowed, examination, key->path, key->name,
-                   full + " is " + (isMasked ? kMasked : std::to_string(number)) +
+                   full() + " is " + (isMasked ? kMasked : std::to_string(number)) +
                        "; allowed: " + AllowedText(described) +
                        (setting.isCorrected ? "; " + ValueText(described, setting.value) + " is in effect" : ""));
         } else if (setting.isCorrected && described.corrected) {
             Report(Severity::Warning, FindingKind::Corrected, examination, key->path, key->name,
-                   full + " is " + (isMasked ? kMasked : ValueText(described, setting.read)) + "; " +
+                   full() + " is " + (isMasked ? kMasked : ValueText(described, setting.read)) + "; " +
                        ClassOf(examination) + " takes " + (isMasked ? kMasked : ValueText(described, setting.value)) +
                        " instead");
         }
         if (described.refersTo == Reference::LogicalService && !setting.value.text.empty() &&
             !m_logical.contains(UpCase(setting.value.text))) {
             Report(Severity::Error, FindingKind::NoSuchService, examination, key->path, key->name,
-                   full + " names the service " + Quoted(setting.value.text) + ", which is not there");
+                   full() + " names the service " + Quoted(setting.value.text) + ", which is not there");
         }
     }
 
@@ -421,19 +453,10 @@ class Checker
 
     // ---- card units and note types ----
 
-    static const ExaminedSetting* Find(const Examination& examination, std::wstring_view key, std::wstring_view name)
-    {
-        const auto found =
-            std::find_if(examination.settings.begin(), examination.settings.end(), [&](const ExaminedSetting& setting) {
-                return EqualNoCase(setting.Setting().key, key) && EqualNoCase(setting.name, name);
-            });
-        return found != examination.settings.end() ? &*found : nullptr;
-    }
-
-    void CheckCardUnits(const Examination& examination)
+    void CheckCardUnits(const Examination& examination, const SettingIndex& index)
     {
         constexpr std::wstring_view kUnits = L"CardUnit";
-        const auto* current = Find(examination, kUnits, L"CurNumber");
+        const auto* current = index.Find(kUnits, L"CurNumber");
         if (current == nullptr) {
             return;
         }
@@ -446,7 +469,7 @@ class Checker
                        ShortPath(path) + what);
             };
             const auto numberOf = [&](const wchar_t* name) -> DWORD {
-                const auto* setting = Find(examination, key, name);
+                const auto* setting = index.Find(key, name);
                 return setting != nullptr ? setting->value.number : 0;
             };
             const auto number = numberOf(L"Number") & 0xFFFF;
@@ -472,9 +495,9 @@ class Checker
         }
     }
 
-    void CheckNoteTypes(const Examination& examination)
+    void CheckNoteTypes(const Examination& examination, const SettingIndex& index)
     {
-        const auto* count = Find(examination, L"NoteType", L"Count");
+        const auto* count = index.Find(L"NoteType", L"Count");
         if (count == nullptr) {
             return;
         }
@@ -497,7 +520,7 @@ class Checker
                 return;
             }
             for (const auto* name : names) {
-                const auto* setting = Find(examination, L"NoteType\\" + subkey, name);
+                const auto* setting = index.Find(L"NoteType\\" + subkey, name);
                 if (setting != nullptr && setting->source == Source::Missing) {
                     Report(Severity::Error, FindingKind::MissingValue, examination, path, std::nullopt,
                            ShortPath(path) + '\\' + Utf8(name) +
@@ -505,7 +528,7 @@ class Checker
                                "loaded");
                 }
             }
-            const auto* currency = Find(examination, L"NoteType\\" + subkey, L"CurrencyID");
+            const auto* currency = index.Find(L"NoteType\\" + subkey, L"CurrencyID");
             if (currency != nullptr && currency->source == Source::Key && currency->value.text.size() != 3) {
                 Report(Severity::Error, FindingKind::NotAllowed, examination, path, L"CurrencyID",
                        FullName(*currency) + " is " + Quoted(currency->value.text) +
@@ -622,11 +645,16 @@ class Checker
     {
         const auto full = ShortPath(key.path) + '\\' + Utf8(name);
         const auto& own = NameIndex::Of(*examination.entry);
-        const auto& all = NameIndex::All();
+        const auto isStored = [&](const std::wstring& other) {
+            const ReadScope scope;
+            ValueView view;
+            return scope->QueryAt(key.path, other, view) == Outcome::Found;
+        };
         // Installers and other programs keep values beside those that are read: only what looks like a slip is told.
         const bool isOurs = key.root == Root::Device;
-        if (!isOurs && all.Has(key.root, key.subkey, name)) {
-            return; // of a device model that this terminal does not have
+        const auto near = own.NearestName(key.root, key.subkey, name, isStored, isOurs);
+        if (!isOurs && (near.empty() || NameIndex::All().Has(key.root, key.subkey, name))) {
+            return;
         }
         const auto report = [&](FindingKind kind, const std::string& what) {
             Report(Severity::Warning, kind, examination, key.path, name, full + what);
@@ -636,17 +664,9 @@ class Checker
             return report(FindingKind::ReadElsewhere, " is not read: " + reader + " reads " + Utf8(name) + " from " +
                                                           elsewhere + ", not from " + KeyText(key.root, key.subkey));
         }
-        const auto isStored = [&](const std::wstring& other) {
-            const ReadScope scope;
-            ValueView view;
-            return scope->QueryAt(key.path, other, view) == Outcome::Found;
-        };
-        const auto near = own.NearestName(key.root, key.subkey, name, isStored, isOurs);
-        if (!isOurs && near.empty()) {
-            return;
-        }
-        const auto model = all.ModelOf(key.root, key.subkey, name, *examination.entry);
-        if (isOurs && !model.text.empty() && (near.empty() || model.isSameDevice)) {
+        const auto model =
+            isOurs ? NameIndex::All().ModelOf(key.root, key.subkey, name, *examination.entry) : NameIndex::Model{};
+        if (!model.text.empty() && (near.empty() || model.isSameDevice)) {
             return report(FindingKind::OtherModel,
                           " belongs to " + model.text + "; this service is a " + ClassOf(examination));
         }

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <map>
-#include <memory>
 #include <mutex>
 #include <utility>
 
@@ -109,7 +108,7 @@ bool ClassSettings::MayRead(Root root, std::wstring_view subkey, std::wstring_vi
     }
     return std::any_of(m_patterns.begin(), m_patterns.end(), [&](std::size_t index) {
         const auto& setting = m_settings[index].setting;
-        return setting.root == root && MatchesPattern(setting.key, subkey) && MatchesPattern(setting.name, name);
+        return setting.root == root && MatchesPattern(setting.name, name) && MatchesPattern(setting.key, subkey);
     });
 }
 
@@ -147,11 +146,11 @@ std::size_t ClassSettings::IndexOf(const Setting& row, unsigned iteration) const
 const ClassSettings& SettingsOf(const ClassEntry& entry)
 {
     static std::mutex mutex;
-    static std::map<const ClassEntry*, std::unique_ptr<const ClassSettings>> known;
+    static auto& known = *new std::map<const ClassEntry*, const ClassSettings*>; // lives as long as the process
     const std::lock_guard lock(mutex);
     auto& settings = known[&entry];
     if (settings == nullptr) {
-        settings = std::make_unique<const ClassSettings>(entry);
+        settings = new ClassSettings(entry);
     }
     return *settings;
 }

@@ -38,7 +38,10 @@ struct HashPlace
 {
     std::size_t operator()(const Place& place) const noexcept
     {
-        return HashNoCase(place.path) * 31 + HashNoCase(place.name);
+        // Keys of one service begin alike.
+        constexpr std::size_t kEnd = 16;
+        const auto end = place.path.substr(place.path.size() - std::min(place.path.size(), kEnd));
+        return HashNoCase(end) * 31 + HashNoCase(place.name);
     }
 };
 
@@ -435,8 +438,8 @@ class Examiner
         std::unordered_set<Place, HashPlace> listed;
         for (const auto& key : m_recorder.byCode) {
             const auto found = std::find_if(patterns.begin(), patterns.end(), [&](const auto& pattern) {
-                return MatchesPattern(pattern.second, key.path) &&
-                       MatchesPattern(pattern.first->setting.name, key.name);
+                return MatchesPattern(pattern.first->setting.name, key.name) &&
+                       MatchesPattern(pattern.second, key.path);
             });
             if (found == patterns.end() || !listed.insert({key.path, key.name}).second) {
                 continue;

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <limits>
 #include <map>
-#include <memory>
 #include <mutex>
 
 namespace wqspcfg::diagnosis {
@@ -72,46 +71,43 @@ class Candidates
 const NameIndex& NameIndex::Of(const ClassEntry& entry)
 {
     static std::mutex mutex;
-    static std::map<const ClassEntry*, std::unique_ptr<NameIndex>> known;
+    static auto& known = *new std::map<const ClassEntry*, NameIndex>; // lives as long as the process
     const std::lock_guard lock(mutex);
-    auto& index = known[&entry];
-    if (index == nullptr) {
-        index = std::make_unique<NameIndex>();
-        for (const auto* table : Lineage(entry.table())) {
-            index->Add(*table);
-            if (table->mixin != nullptr) {
-                index->Add(table->mixin());
-            }
+    const auto [index, isNew] = known.try_emplace(&entry);
+    if (isNew) {
+        for (const auto& each : SettingsOf(entry).All()) {
+            index->second.Add(each.setting, *each.table);
         }
     }
-    return *index;
+    return index->second;
 }
 
 const NameIndex& NameIndex::All()
 {
-    static const NameIndex index = [] {
-        NameIndex all;
+    static const auto& index = *[] {
+        auto* all = new NameIndex; // lives as long as the process
         for (const auto* entry : AllClasses()) {
-            all.Add(entry->table());
+            const auto& table = entry->table();
+            for (const bool isLoads : {true, false}) {
+                for (const auto& setting : isLoads ? wqspcfg::Describe(table) : DescribeOperations(table)) {
+                    all->Add(setting, table);
+                }
+            }
         }
         return all;
     }();
     return index;
 }
 
-void NameIndex::Add(const Table& table)
+void NameIndex::Add(const DescribedSetting& setting, const Table& table)
 {
     const auto add = [&](Root root, const std::wstring& key, const std::wstring& name) {
         m_byName[UpCase(name)].push_back(m_entries.size());
         m_entries.push_back({root, key, name, &table});
     };
-    for (const bool isLoads : {true, false}) {
-        for (const auto& setting : isLoads ? wqspcfg::Describe(table) : DescribeOperations(table)) {
-            add(setting.root, setting.key, setting.readAs.empty() ? setting.name : setting.readAs);
-            if (setting.fallback) {
-                add(setting.fallback->root, setting.fallback->key, setting.fallback->name);
-            }
-        }
+    add(setting.root, setting.key, setting.readAs.empty() ? setting.name : setting.readAs);
+    if (setting.fallback) {
+        add(setting.fallback->root, setting.fallback->key, setting.fallback->name);
     }
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "wqspcfg/catalogue/Catalogue.h"
-#include "wqspcfg/core/settings/Key.h"
+#include "wqspcfg/core/settings/Reference.h"
 
 #include <functional>
 #include <set>
@@ -51,7 +51,7 @@ class NameIndex
         const Table* table;
     };
 
-    void Add(const Table& table);
+    void Add(const DescribedSetting& setting, const Table& table);
     Model Describe(std::set<const Table*> tables, const ClassEntry& entry) const;
 
     std::vector<Entry> m_entries;
