@@ -91,15 +91,23 @@ class CodePlaces
     }
     void AddValue(const std::wstring& path, const std::wstring& name)
     {
-        m_values[path].insert(name);
-        AddKey(path);
+        // Values of one key come one after the other.
+        if (m_last == nullptr || m_lastPath != path) {
+            m_last = &m_values[path];
+            m_lastPath = path;
+            AddKey(path);
+        }
+        m_last->insert(name);
     }
 
-    bool HasValue(const std::wstring& path, const std::wstring& name) const
+    // The names of values of a key; null where there are none.
+    const NameSet* ValuesOf(const std::wstring& path) const
     {
         const auto key = m_values.find(path);
-        return m_whole.contains(path) || (key != m_values.end() && key->second.contains(name));
+        return key != m_values.end() ? &key->second : nullptr;
     }
+    // All values of the key are read.
+    bool IsWhole(const std::wstring& path) const { return m_whole.contains(path); }
     // Also a key above one that is read.
     bool HasKey(const std::wstring& path) const { return m_above.contains(path); }
 
@@ -114,6 +122,8 @@ class CodePlaces
     }
 
     std::unordered_map<std::wstring, NameSet, HasherNoCase, EqualToNoCase> m_values;
+    std::wstring m_lastPath;
+    NameSet* m_last = nullptr; // of m_lastPath
     NameSet m_whole;
     NameSet m_above;
 };
@@ -581,15 +591,16 @@ class Checker
                   const VisitedKey& key)
     {
         std::vector<std::wstring> unknown;
-        {
+        if (!m_known.IsWhole(key.path)) {
+            const auto* byCode = m_known.ValuesOf(key.path);
             const ReadScope scope;
             scope->EnumValues(scope->Open(key.path), [&](std::wstring_view name, const ValueView&) {
-                const std::wstring text(name);
-                const bool isRead = std::any_of(readers.begin(), readers.end(), [&](const ClassSettings* reader) {
-                    return reader->MayRead(key.root, key.subkey, text);
-                });
-                if (!isRead && !m_known.HasValue(key.path, text) && !(key.subkey.empty() && text.empty())) {
-                    unknown.push_back(text);
+                const bool isRead = (byCode != nullptr && byCode->find(name) != byCode->end()) ||
+                                    std::any_of(readers.begin(), readers.end(), [&](const ClassSettings* reader) {
+                                        return reader->MayRead(key.root, key.subkey, name);
+                                    });
+                if (!isRead && !(key.subkey.empty() && name.empty())) {
+                    unknown.emplace_back(name);
                 }
                 return true;
             });

@@ -132,7 +132,7 @@ int CompareNoCase(std::wstring_view left, std::wstring_view right) noexcept
 
 bool EqualNoCase(std::wstring_view left, std::wstring_view right) noexcept
 {
-    return left.size() == right.size() && CompareNoCase(left, right) == 0;
+    return left.size() == right.size() && (left == right || CompareNoCase(left, right) == 0);
 }
 
 std::size_t HashNoCase(std::wstring_view text) noexcept
