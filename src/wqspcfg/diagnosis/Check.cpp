@@ -629,9 +629,9 @@ class Checker
                           const std::vector<std::wstring>& values, bool hasMore)
     {
         const auto& own = NameIndex::Of(*examination.entry);
-        const auto near = own.NearestKey(key.root, key.subkey);
+        const auto meant = own.NearestKey(key.root, key.subkey);
         for (const auto& name : values) {
-            if (near.empty() && !own.KeysOf(name).empty()) {
+            if (meant.empty() && !own.KeysOf(name).empty()) {
                 ReportName(examination, key, name);
             } else {
                 hasMore = true;
@@ -642,13 +642,13 @@ class Checker
         }
         const auto model = NameIndex::All().ModelOfKey(key.root, key.subkey, *examination.entry);
         const auto path = ShortPath(key.path);
-        if (!model.text.empty() && (near.empty() || model.isSameDevice)) {
+        if (!model.text.empty() && (meant.empty() || model.isSameDevice)) {
             Report(Severity::Warning, FindingKind::OtherModel, examination, key.path, std::nullopt,
                    path + " belongs to " + model.text + "; this service is a " + ClassOf(examination));
         } else {
             Report(Severity::Warning, FindingKind::UnknownKey, examination, key.path, std::nullopt,
                    path + " is not read by " + ClassOf(examination) +
-                       (near.empty() ? std::string() : "; did you mean " + near + "?"));
+                       (meant.empty() ? std::string() : "; did you mean " + meant + "?"));
         }
     }
 
@@ -663,8 +663,8 @@ class Checker
         };
         // Installers and other programs keep values beside those that are read: only what looks like a slip is told.
         const bool isOurs = key.root == Root::Device;
-        const auto near = own.NearestName(key.root, key.subkey, name, isStored, isOurs);
-        if (!isOurs && (near.empty() || NameIndex::All().Has(key.root, key.subkey, name))) {
+        const auto meant = own.NearestName(key.root, key.subkey, name, isStored, isOurs);
+        if (!isOurs && (meant.empty() || NameIndex::All().Has(key.root, key.subkey, name))) {
             return;
         }
         const auto report = [&](FindingKind kind, const std::string& what) {
@@ -677,12 +677,12 @@ class Checker
         }
         const auto model =
             isOurs ? NameIndex::All().ModelOf(key.root, key.subkey, name, *examination.entry) : NameIndex::Model{};
-        if (!model.text.empty() && (near.empty() || model.isSameDevice)) {
+        if (!model.text.empty() && (meant.empty() || model.isSameDevice)) {
             return report(FindingKind::OtherModel,
                           " belongs to " + model.text + "; this service is a " + ClassOf(examination));
         }
         report(FindingKind::UnknownName,
-               " is not read by " + reader + (near.empty() ? std::string() : "; did you mean " + near + "?"));
+               " is not read by " + reader + (meant.empty() ? std::string() : "; did you mean " + meant + "?"));
     }
 
     const CheckOptions& m_options;
