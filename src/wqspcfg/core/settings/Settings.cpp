@@ -7,6 +7,7 @@
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/text/Utf.h"
 
+#include <cstdint>
 #include <utility>
 
 namespace wqspcfg {
@@ -20,6 +21,7 @@ void AppendPath(std::wstring& path, Root root, std::wstring_view subkey, std::ws
                 std::wstring_view service, std::wstring_view logical)
 {
     const auto below = [&](std::wstring_view above, std::wstring_view name) {
+        path.reserve(above.size() + name.size() + 1 + subkey.size());
         path += above;
         path += name;
         if (!subkey.empty()) {
@@ -232,27 +234,34 @@ SettingKeys::SettingKeys(CString strDeviceKeyName, CString strServiceName, CStri
 std::wstring SettingKeys::PathOf(Key key, const Iteration* iteration) const
 {
     std::wstring path;
+    Append(path, key, iteration);
+    return path;
+}
+
+void SettingKeys::Append(std::wstring& path, Key key, const Iteration* iteration) const
+{
     if (iteration != nullptr) {
         AppendPath(path, key.root, ForIteration(key.subkey, iteration), m_deviceKeyName.View(), m_serviceName.View(),
                    m_logicalName.View());
     } else {
         AppendPath(path, key.root, key.subkey, m_deviceKeyName.View(), m_serviceName.View(), m_logicalName.View());
     }
-    return path;
 }
 
 Session::Key SettingKeys::Open(Session& session, Key key, const Iteration* iteration)
 {
     // Subkeys of rows are literals: one address is one text.
-    const Iteration current = iteration != nullptr ? *iteration : Iteration{};
-    if (key.subkey != m_lastKey.subkey || key.root != m_lastKey.root || m_lastIterated != (iteration != nullptr) ||
-        current.name != m_lastIteration.name || current.number != m_lastIteration.number) {
-        m_lastOpened = session.Open(PathOf(key, iteration));
-        m_lastKey = key;
-        m_lastIteration = current;
-        m_lastIterated = iteration != nullptr;
+    const auto address = reinterpret_cast<std::uintptr_t>(key.subkey) / alignof(wchar_t);
+    auto& known = m_known[(address ^ address / kKnown ^ static_cast<std::uintptr_t>(key.root)) % kKnown];
+    const bool isSameIteration = iteration == nullptr ? !known.isIterated
+                                                      : known.isIterated && iteration->name == known.iteration.name &&
+                                                            iteration->number == known.iteration.number;
+    if (key.subkey != known.key.subkey || key.root != known.key.root || !isSameIteration) {
+        m_path.clear();
+        Append(m_path, key, iteration);
+        known = {key, iteration != nullptr ? *iteration : Iteration{}, iteration != nullptr, session.Open(m_path)};
     }
-    return m_lastOpened;
+    return known.opened;
 }
 
 // ---- the configuration log ----
@@ -421,7 +430,7 @@ void Loading::ReadValue(const Setting& row, const Iteration* iteration)
         }
         m_complete = m_complete && (found || !row.Has(Flags::Needed));
     }
-    const bool remember = IsWritten(row) && GetSavePolicy() == SavePolicy::OwnChanges;
+    const bool remember = m_remembers && IsWritten(row);
     T read{};
     if (kNumber || m_observer != nullptr || remember) {
         read = value;
@@ -515,7 +524,7 @@ void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
             static_cast<Texts*>(map)->SetAt(entry.name, entry.text);
         }
     }
-    if (IsWritten(row) && GetSavePolicy() == SavePolicy::OwnChanges) {
+    if (m_remembers && IsWritten(row)) {
         auto content = ContentOf(*static_cast<const Texts*>(map));
         RememberLoaded(m_object, row, IndexOf(iteration), {content, content}, Log());
     }
@@ -548,7 +557,7 @@ bool Loading::QueryIteration(const Setting& row, const Iteration& iteration, T& 
         }
         m_observer->Loaded(loaded);
     }
-    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+    if (m_remembers) {
         RememberLoaded(m_object, row, iteration.index,
                        {found ? std::optional(ContentOf(value)) : std::nullopt, ContentOf(value)}, Log());
     }

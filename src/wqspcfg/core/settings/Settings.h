@@ -2,12 +2,14 @@
 #pragma once
 
 #include "wqspcfg/core/RegInfo.h"
+#include "wqspcfg/core/SavePolicy.h"
 #include "wqspcfg/core/settings/Observer.h"
 #include "wqspcfg/core/settings/SaveOrder.h"
 #include "wqspcfg/core/settings/Setting.h"
 #include "wqspcfg/platform/store/KeyHandle.h"
 #include "wqspcfg/platform/store/Session.h"
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -35,7 +37,7 @@ struct Table
     bool savesBase = true;                      // false: Save leaves out what the bases save
 };
 
-// Where the keys of one object's settings are, and the last one opened: most rows share it with their neighbours.
+// Where the keys of one object's settings are, and those that were opened: rows share them.
 class SettingKeys
 {
   public:
@@ -46,13 +48,22 @@ class SettingKeys
     const CString& DeviceKeyName() const noexcept { return m_deviceKeyName; }
 
   private:
+    void Append(std::wstring& path, Key key, const Iteration* iteration) const;
+
     CString m_deviceKeyName;
     CString m_serviceName;
     CString m_logicalName;
-    Key m_lastKey{Root::Device, nullptr};
-    Iteration m_lastIteration;
-    bool m_lastIterated = false;
-    Session::Key m_lastOpened = 0;
+    // Keys that were opened, by the address of their subkey.
+    struct KnownKey
+    {
+        Key key{Root::Device, nullptr};
+        Iteration iteration{};
+        bool isIterated = false;
+        Session::Key opened = 0;
+    };
+    static constexpr std::size_t kKnown = 16;
+    std::array<KnownKey, kKnown> m_known;
+    std::wstring m_path; // reused
 };
 
 // Writes the configuration lines of what is loaded.
@@ -140,6 +151,7 @@ class WQSPCFG_API Loading
     HKEY m_recordKey = nullptr;
     std::optional<KeyReader> m_record; // of a record
     bool m_complete = true;            // no needed setting was missing
+    bool m_remembers = GetSavePolicy() == SavePolicy::OwnChanges;
 };
 
 // One Save: everything written within it becomes durable together, or nothing does. An object without a device key (a

@@ -203,25 +203,7 @@ const Session::WrittenValue* Session::FindWritten(std::wstring_view path, std::w
     return nullptr;
 }
 
-Outcome Session::Query(Key key, std::wstring_view name, ValueView& value)
-{
-    const auto outcome = Ask(key, name, value);
-    if (m_observer != nullptr) {
-        m_observer->Asked(m_keys[key].path, name, outcome, value);
-    }
-    return outcome;
-}
-
-Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueView& value)
-{
-    const auto outcome = AskAt(path, name, value);
-    if (m_observer != nullptr) {
-        m_observer->Asked(path, name, outcome, value);
-    }
-    return outcome;
-}
-
-Outcome Session::Ask(Key key, std::wstring_view name, ValueView& value)
+[[gnu::always_inline]] inline Outcome Session::Ask(Key key, std::wstring_view name, ValueView& value)
 {
     if (!m_overlay.empty()) {
         if (const auto* written = FindWritten(m_keys[key].path, name)) {
@@ -245,6 +227,24 @@ Outcome Session::Ask(Key key, std::wstring_view name, ValueView& value)
         return outcome;
     }
     return Find(opened) ? Checked(m_transaction->Query(opened.id, name, value)) : Outcome::Missing;
+}
+
+Outcome Session::Query(Key key, std::wstring_view name, ValueView& value)
+{
+    const auto outcome = Ask(key, name, value);
+    if (m_observer != nullptr) {
+        m_observer->Asked(m_keys[key].path, name, outcome, value);
+    }
+    return outcome;
+}
+
+Outcome Session::QueryAt(std::wstring_view path, std::wstring_view name, ValueView& value)
+{
+    const auto outcome = AskAt(path, name, value);
+    if (m_observer != nullptr) {
+        m_observer->Asked(path, name, outcome, value);
+    }
+    return outcome;
 }
 
 Outcome Session::AskAt(std::wstring_view path, std::wstring_view name, ValueView& value)
