@@ -60,11 +60,6 @@ bool Exists(const std::wstring& path)
     return scope->Exists(scope->Open(path));
 }
 
-std::wstring WithoutEndingBackslash(std::wstring_view path)
-{
-    return std::wstring(path.substr(0, path.find_last_not_of(L'\\') + 1));
-}
-
 std::string ClassOf(const Examination& examination)
 {
     return Utf8(examination.entry->table().className);
@@ -177,46 +172,23 @@ class Checker
             CheckDeviceKeys();
             CheckView32();
         }
-        m_out.failure = scope->Failure();
-        for (const auto& examination : m_out.services) {
-            if (!m_out.failure) {
-                m_out.failure = examination.failure;
-            }
+        if (!m_out.failure) {
+            m_out.failure = scope->Failure();
         }
         return std::move(m_out);
     }
 
   private:
-    bool IsWanted(const ServiceIdentity& service) const
-    {
-        return m_options.services.empty() ||
-               std::any_of(m_options.services.begin(), m_options.services.end(),
-                           [&](const std::wstring& name) { return EqualNoCase(name, NameOf(service)); });
-    }
+    bool IsWanted(const ServiceIdentity& service) const { return IsAmong(service, m_options.services); }
 
     void AddServices()
     {
-        std::set<std::wstring> named; // providers that a logical service names
         for (const auto& name : SubkeysOf(kLogicalRoot)) {
             m_logical.insert(UpCase(name));
-            auto service = IdentifyService(CString(name), false);
-            named.insert(UpCase(service.physicalName));
-            Add(std::move(service));
         }
-        for (const auto& name : SubkeysOf(kServiceRoot)) {
-            if (!EqualNoCase(name, WithoutEndingBackslash(kCommonKey)) && !named.contains(UpCase(name))) {
-                Add(IdentifyService(CString(name), true));
-            }
-        }
-    }
-
-    void Add(ServiceIdentity service)
-    {
-        if (m_options.alone && !IsWanted(service)) {
-            return;
-        }
-        const auto* entry = SelectModel(service).entry;
-        m_out.services.push_back(Examine(service, *entry));
+        auto terminal = ExamineTerminal(m_options.alone ? m_options.services : std::vector<std::wstring>());
+        m_out.services = std::move(terminal.services);
+        m_out.failure = std::move(terminal.failure);
     }
 
     // The same finding in two services that share a key is one.
@@ -281,8 +253,7 @@ class Checker
                     readers.push_back(&settings);
                 }
             }
-            // What the XFS manager reads of the service key.
-            for (const auto* name : {L"vendor_name", L"version", L"dllname"}) {
+            for (const auto* name : kManagerNames) {
                 m_known.AddValue(kServiceRoot + examination.service.physicalName, name);
             }
         }
@@ -696,11 +667,6 @@ class Checker
 };
 
 } // namespace
-
-const std::wstring& NameOf(const ServiceIdentity& service) noexcept
-{
-    return service.logicalName.empty() ? service.physicalName : service.logicalName;
-}
 
 Checkup Check(const CheckOptions& options, Places& places)
 {

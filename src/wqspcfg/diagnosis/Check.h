@@ -3,6 +3,7 @@
 
 #include "wqspcfg/diagnosis/Examination.h"
 #include "wqspcfg/diagnosis/Places.h"
+#include "wqspcfg/diagnosis/Terminal.h"
 
 #include <optional>
 #include <string>
@@ -66,8 +67,6 @@ struct Checkup
 // As with Examine, what classes write while they load goes to the current store.
 Checkup Check(const CheckOptions& options, Places& places);
 
-// The logical name, or that of a service provider that no logical service names.
-const std::wstring& NameOf(const ServiceIdentity& service) noexcept;
 // The stable name for other programs: "wrongType".
 const char* NameOf(FindingKind kind) noexcept;
 

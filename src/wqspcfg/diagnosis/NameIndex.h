@@ -13,6 +13,9 @@
 
 namespace wqspcfg::diagnosis {
 
+// What the XFS manager reads of a service key.
+inline constexpr const wchar_t* kManagerNames[] = {L"vendor_name", L"version", L"dllname"};
+
 class NameIndex
 {
   public:

@@ -1,5 +1,6 @@
 #include "wqspcfg/diagnosis/Places.h"
 
+#include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/store/regfile/RegFile.h"
 #include "wqspcfg/platform/store/regfile/View32.h"
 #include "wqspcfg/platform/text/CaseFold.h"
@@ -87,7 +88,7 @@ std::string Places::Of(std::wstring_view path, const std::wstring* name)
     if (m_lines == nullptr) {
         m_lines = std::make_unique<Lines>(m_source);
     }
-    const auto hive = EqualNoCase(path.substr(0, path.find(L'\\')), L".DEFAULT") ? Hive::Users : Hive::LocalMachine;
+    const auto hive = HiveOf(path);
     std::size_t line = 0;
     if (m_source.view32) {
         if (const auto rest = RestBelow(kXfsKey, hive, path)) {

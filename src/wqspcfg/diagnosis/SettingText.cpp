@@ -175,10 +175,44 @@ std::string NoteOn(const ExaminedSetting& setting, const std::function<std::stri
     return notes;
 }
 
+Naming NamingOf(const ExaminedSetting& setting, std::wstring_view text)
+{
+    const auto& described = setting.Setting();
+    // What a whole key's row is named is a pattern, or its first entry by default.
+    const auto isName = [&](std::wstring_view name) {
+        return EqualNoCase(name, setting.name) || (!described.wholeKey && EqualNoCase(name, described.name));
+    };
+    if (isName(text) || (described.wholeKey && EqualNoCase(text, described.key))) {
+        return Naming::Name;
+    }
+    if (const auto split = text.find_last_of(L'\\');
+        split != std::wstring_view::npos && isName(text.substr(split + 1))) {
+        const auto key = text.substr(0, split);
+        std::wstring full;
+        AppendWideFromUtf8(KeyText(described.root, described.key), full);
+        if (EqualNoCase(key, full) || EqualNoCase(key, setting.path)) {
+            return Naming::FullName;
+        }
+        if (EqualNoCase(key, described.key)) {
+            return Naming::KeyAndName;
+        }
+    }
+    return !described.label.empty() && EqualNoCase(text, described.label) ? Naming::Label : Naming::None;
+}
+
+std::string FullNameOf(const ExaminedSetting& setting)
+{
+    return KeyText(setting.Setting().root, setting.Setting().key) + '\\' + Utf8ForMessage(setting.name);
+}
+
+Hive HiveOf(std::wstring_view path)
+{
+    return EqualNoCase(path.substr(0, path.find(L'\\')), L".DEFAULT") ? Hive::Users : Hive::LocalMachine;
+}
+
 std::string FullPath(std::wstring_view path)
 {
-    const bool isUsers = EqualNoCase(path.substr(0, path.find(L'\\')), L".DEFAULT");
-    return (isUsers ? "HKU\\" : "HKLM\\") + Utf8ForMessage(path);
+    return (HiveOf(path) == Hive::Users ? "HKU\\" : "HKLM\\") + Utf8ForMessage(path);
 }
 
 } // namespace wqspcfg::diagnosis

@@ -41,6 +41,22 @@ const char* NameOf(Source source) noexcept;
 std::string NoteOn(const ExaminedSetting& setting, const std::function<std::string(const AskedKey&)>& place,
                    bool showSecrets);
 
+// How a person may mean a setting by a text, the surest last.
+enum class Naming : std::uint8_t
+{
+    None,
+    Label,      // its label in the log
+    Name,       // its name; of a whole key, the key
+    KeyAndName, // its key below the root, and its name
+    FullName,   // KeyText and its name, or its path and its name
+};
+// Case does not count.
+Naming NamingOf(const ExaminedSetting& setting, std::wstring_view text);
+// KeyText and its name: "Comm\Port".
+std::string FullNameOf(const ExaminedSetting& setting);
+
+// The hive that the first component of a path names.
+Hive HiveOf(std::wstring_view path);
 // A path as the messages show it, with its hive: "HKLM\SOFTWARE\XFS".
 std::string FullPath(std::wstring_view path);
 

@@ -1,6 +1,7 @@
 #include "wqspcfg/diagnosis/StoredText.h"
 
 #include "wqspcfg/platform/text/Utf.h"
+#include "wqspcfg/platform/utility/StringUtility.h"
 
 #include <algorithm>
 
@@ -84,6 +85,14 @@ std::wstring DataText(const ValueView& value, std::wstring_view separator)
         start = end + 1;
     }
     return all;
+}
+
+std::optional<DWORD> ParseNumber(std::wstring_view text)
+{
+    if (text.starts_with(L"0x") || text.starts_with(L"0X")) {
+        return ParseDword(text.substr(2), 16);
+    }
+    return ParseDword(text);
 }
 
 } // namespace wqspcfg::diagnosis

@@ -1,7 +1,9 @@
 #include "wqspcfg/tools/CommandLine.h"
 
 #include "wqspcfg/diagnosis/Nearest.h"
+#include "wqspcfg/tools/ChangeCommand.h"
 #include "wqspcfg/tools/CheckCommand.h"
+#include "wqspcfg/tools/DiffCommand.h"
 #include "wqspcfg/tools/ExplainCommand.h"
 #include "wqspcfg/tools/HelpText.h"
 #include "wqspcfg/tools/MaintenanceCommands.h"
@@ -75,6 +77,8 @@ class Program
     void AddSave();
     void AddExplain();
     void AddCheck();
+    void AddDiff();
+    void AddChange();
     void AddModels();
     void AddReference();
     void AddHelp();
@@ -121,6 +125,8 @@ Program::Program(const Console& console) : m_console(console)
     AddServices();
     AddExplain();
     AddCheck();
+    AddDiff();
+    AddChange();
     AddLoad();
     AddSave();
     AddImport();
@@ -268,8 +274,8 @@ void Program::AddSet()
         ->required();
     command
         .add_option("--type", options->type,
-                    "sz or dword. Default: the type of the value that is there; for a new value dword when DATA is a "
-                    "number, else sz")
+                    "sz or dword. Default: the type of the value that is there; for a new value the type that a "
+                    "service reads, else dword when DATA is a number, else sz")
         ->check(CLI::IsMember({"sz", "dword"}))
         ->option_text("TYPE");
 }
@@ -382,6 +388,40 @@ void Program::AddCheck()
     command.add_option("SERVICE", options->services, "Services by name. Default: the whole terminal");
     command.add_flag("--strict", options->strict, "Let warnings count for the exit status too");
     command.add_flag("--json", options->json, kJsonHelp);
+}
+
+void Program::AddDiff()
+{
+    const auto options = std::make_shared<DiffOptions>();
+    auto& command = Add("diff", "Compare two terminals by the values in effect, defaults included",
+                        [=, this] { return Diff(m_store, *options, m_console); });
+    command.add_option("LEFT", options->left, "The address of a store, as --store takes it")->required();
+    command.add_option("RIGHT", options->right, "The address of the other one")->required();
+    command.add_option("SERVICE", options->services, "Services by name. Default: all");
+    command.add_flag("--raw", options->raw, "Compare the stored values, key by key");
+    command.add_flag("--json", options->json, kJsonHelp);
+}
+
+void Program::AddChange()
+{
+    struct Options
+    {
+        ServiceChoice service;
+        ChangeOptions what;
+    };
+    const auto options = std::make_shared<Options>();
+    auto& command = Add("change", "Set settings of a service by their names, all in one write transaction or none",
+                        [=, this] { return Change(m_store, options->service, options->what, m_console); });
+    AddServiceOptions(command, options->service);
+    command.add_option(
+        "SETTING", options->what.values,
+        "NAME=VALUE: a setting's name, or Key\\Name, and its new value: a text, a number in decimal or as 0x..., or "
+        "the word of an allowed value");
+    command.add_option("--unset", options->what.unset, "Delete the value of this setting; may be given several times")
+        ->allow_extra_args(false)
+        ->option_text("NAME");
+    command.add_flag("--dry-run", options->what.dryRun, "Print the changes and change nothing");
+    command.add_flag("--json", options->what.json, kJsonHelp);
 }
 
 void Program::AddModels()

@@ -4,7 +4,6 @@
 #include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
-#include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/tools/TextTable.h"
 
 #include <nlohmann/json.hpp>
@@ -17,7 +16,6 @@ namespace {
 
 using diagnosis::AskedKey;
 using diagnosis::ExaminedSetting;
-using diagnosis::Source;
 using nlohmann::ordered_json;
 
 class Explanation
@@ -210,26 +208,9 @@ class Explanation
     bool m_showSecrets;
 };
 
-// Whether the setting is meant by "Name" or "Key\Name".
 bool IsNamed(const ExaminedSetting& setting, std::wstring_view text)
 {
-    const auto& described = setting.Setting();
-    const auto isName = [&](std::wstring_view name) {
-        return EqualNoCase(name, setting.name) || EqualNoCase(name, described.name) ||
-               (!described.label.empty() && EqualNoCase(name, described.label)) ||
-               (described.wholeKey && EqualNoCase(name, described.key));
-    };
-    if (isName(text)) {
-        return true;
-    }
-    const auto split = text.find_last_of(L'\\');
-    if (split == std::wstring_view::npos) {
-        return false;
-    }
-    const auto key = text.substr(0, split);
-    return isName(text.substr(split + 1)) &&
-           (EqualNoCase(key, described.key) || EqualNoCase(key, setting.path) ||
-            EqualNoCase(key, Wide(diagnosis::KeyText(described.root, described.key))));
+    return diagnosis::NamingOf(setting, text) != diagnosis::Naming::None;
 }
 
 int FailUnknown(const diagnosis::Examination& examination, const std::string& name, const Console& console)

@@ -1,10 +1,14 @@
 #include "wqspcfg/tools/StoreCommands.h"
 
+#include "wqspcfg/diagnosis/Change.h"
+#include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/store/Backup.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
 #include "wqspcfg/tools/OutputFile.h"
 #include "wqspcfg/tools/Preview.h"
+#include "wqspcfg/tools/ScratchStore.h"
+#include "wqspcfg/tools/ServiceAccess.h"
 #include "wqspcfg/tools/ValueText.h"
 
 #include <algorithm>
@@ -349,6 +353,40 @@ int Get(const StoreChoice& choice, const std::string& key, const std::string& na
     });
 }
 
+namespace {
+
+// What the services of the store make of a value, which is about to be set.
+diagnosis::Reading ReadingOf(const std::shared_ptr<Store>& store, const FullKey& which, std::wstring_view name)
+{
+    if (which.hive != diagnosis::HiveOf(which.path)) {
+        return {};
+    }
+    const CurrentStoreScope current(std::make_shared<ScratchStore>(store));
+    return diagnosis::ReadingOf(which.path, name);
+}
+
+// Warns of what the services do not read as it is set.
+void WarnOf(const diagnosis::Reading& reading, bool isDword, DWORD number, const std::string& value,
+            const Console& console)
+{
+    const auto warn = [&](const std::string& text) { console.Note("warning: " + text); };
+    if (!reading.warning.empty()) {
+        warn(reading.warning);
+    }
+    if (!reading.type) {
+        return;
+    }
+    if (isDword != (*reading.type == ValueType::Dword)) {
+        warn(value + " is set as a " + TypeName(isDword ? ValueType::Dword : ValueType::Sz) + ", and a " +
+             TypeName(*reading.type) + " is read: it will be ignored");
+    } else if (isDword && !diagnosis::IsAllowed(*reading.setting, number)) {
+        warn(value + " is set to " + std::to_string(number) +
+             ", which is not allowed; allowed: " + diagnosis::AllowedText(*reading.setting));
+    }
+}
+
+} // namespace
+
 int Set(const StoreChoice& choice, const std::string& key, const std::string& name, const std::string& data,
         DataType type, const Console& console)
 {
@@ -361,6 +399,7 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
     if (!store) {
         return console.Fail(error);
     }
+    const auto reading = ReadingOf(store, which, wideName);
     return Within(*store, Access::Write, console, [&](Transaction& transaction) -> int {
         KeyId id = 0;
         if (transaction.CreateKey(which.hive, which.path, id) == Outcome::Failed) {
@@ -372,7 +411,9 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
             if (found == Outcome::Failed) {
                 return console.Fail(transaction.LastError());
             }
-            if (found == Outcome::Missing) {
+            if (found == Outcome::Missing && reading.type && (number || *reading.type == ValueType::Sz)) {
+                type = *reading.type == ValueType::Dword ? DataType::Dword : DataType::Sz;
+            } else if (found == Outcome::Missing) {
                 // "007" is rather a text.
                 const bool isPlain = wideData.size() == 1 || wideData.front() != L'0' || wideData.starts_with(L"0x") ||
                                      wideData.starts_with(L"0X");
@@ -397,7 +438,11 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
             bytes.insert(bytes.end(), 2, std::byte{0});
             outcome = transaction.SetValue(id, wideName, {ValueType::Sz, bytes});
         }
-        return outcome == Outcome::Failed ? console.Fail(transaction.LastError()) : int{kDone};
+        if (outcome == Outcome::Failed) {
+            return console.Fail(transaction.LastError());
+        }
+        WarnOf(reading, type == DataType::Dword, number.value_or(0), ValueText(wideName), console);
+        return kDone;
     });
 }
 

@@ -22,10 +22,12 @@ int Get(const StoreChoice& choice, const std::string& key, const std::string& na
 
 enum class DataType
 {
-    Auto, // as the value that is there; for a new one a number is a REG_DWORD and all else a REG_SZ
+    // As the value that is there; a new one as a service reads it, else a number is a REG_DWORD and all else a REG_SZ.
+    Auto,
     Sz,
     Dword,
 };
+// Warns on standard error of what no service reads, or not as it is set; it is set all the same.
 int Set(const StoreChoice& choice, const std::string& key, const std::string& name, const std::string& data,
         DataType type, const Console& console);
 

@@ -2,7 +2,6 @@
 
 #include "wqspcfg/platform/store/FlatKey.h"
 #include "wqspcfg/platform/store/regfile/RegFile.h"
-#include "wqspcfg/platform/utility/StringUtility.h"
 #include "wqspcfg/tools/Console.h"
 
 namespace wqspcfg::tools {
@@ -34,14 +33,6 @@ std::wstring KeyText(const FullKey& key)
         text += key.path;
     }
     return text;
-}
-
-std::optional<DWORD> ParseNumber(std::wstring_view text)
-{
-    if (text.starts_with(L"0x") || text.starts_with(L"0X")) {
-        return ParseDword(text.substr(2), 16);
-    }
-    return ParseDword(text);
 }
 
 std::string ValueText(std::wstring_view name)

@@ -2,10 +2,8 @@
 #pragma once
 
 #include "wqspcfg/diagnosis/StoredText.h"
-#include "wqspcfg/platform/base/WinTypes.h"
 #include "wqspcfg/platform/store/Store.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,10 +20,8 @@ FullKey ParseKey(const std::string& text);
 // With the hive's long name.
 std::wstring KeyText(const FullKey& key);
 
-// In decimal, or in hexadecimal after "0x".
-std::optional<DWORD> ParseNumber(std::wstring_view text);
-
 using diagnosis::DataText;
+using diagnosis::ParseNumber;
 using diagnosis::TypeName;
 
 // `the default value`, or `the value "NAME"`.
