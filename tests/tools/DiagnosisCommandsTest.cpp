@@ -122,4 +122,49 @@ TEST_F(DiagnosisCommandsTest, HostileTextStaysText)
     }
 }
 
+// The README's example, as it stands there.
+TEST_F(DiagnosisCommandsTest, TheExampleOfTheReadmeRuns)
+{
+#if defined(_WIN32)
+    GTEST_SKIP() << "the example works on an embedded store";
+#else
+    std::ifstream file(std::filesystem::path(WQSPCFG_SOURCE_DIR) / "README.md");
+    std::string line;
+    std::string expected;
+    std::size_t commands = 0;
+    m_out.clear();
+    while (std::getline(file, line)) {
+        const bool isCommand = line.starts_with("    $ wqspcfg ");
+        if (commands != 0 && (isCommand || line.empty())) {
+            EXPECT_EQ(m_out, expected) << "before: " << line;
+            expected.clear();
+        }
+        if (isCommand) {
+            std::vector<std::string> arguments;
+            std::istringstream words(line.substr(14));
+            for (std::string word; words >> word;) {
+                if (word.starts_with('\'')) {
+                    word = word.substr(1, word.size() - 2);
+                }
+                if (word == "examples/faulty.reg") {
+                    word = std::string(WQSPCFG_SOURCE_DIR) + '/' + word;
+                } else if (word.ends_with(".html")) {
+                    word = File("report.html");
+                }
+                arguments.push_back(word);
+            }
+            const bool isSound = arguments.front() != "check" || arguments.size() > 1;
+            EXPECT_EQ(Run(arguments), isSound ? 0 : 1) << line << '\n' << m_err;
+            ++commands;
+        } else if (commands != 0 && line.empty()) {
+            break;
+        } else if (commands != 0) {
+            expected += line.substr(4) + '\n';
+        }
+    }
+    EXPECT_EQ(commands, 7U);
+    EXPECT_GT(std::filesystem::file_size(File("report.html")), 10000U);
+#endif
+}
+
 } // namespace wqspcfg::tools

@@ -93,6 +93,17 @@ std::string DefaultText(const DescribedSetting& setting)
     return setting.computed || setting.computedDefault ? "computed" : ValueText(setting, setting.defaultValue);
 }
 
+std::string SavedText(const DescribedSetting& setting, bool isSaved)
+{
+    if (!setting.writtenBy.empty()) {
+        return "written by " + Utf8ForMessage(setting.writtenBy);
+    }
+    if (!isSaved) {
+        return "not saved";
+    }
+    return setting.savedName.empty() ? "saved" : "saved as " + Utf8ForMessage(setting.savedName);
+}
+
 ValueType StoredType(const DescribedSetting& setting)
 {
     return IsText(setting) ? ValueType::Sz : ValueType::Dword;
@@ -107,6 +118,15 @@ std::string StoredText(ValueType type, std::span<const std::byte> data)
     }
     return TypeName(type) + (text.empty() ? "" : ' ' + Utf8ForMessage(text.substr(0, kLongestShown))) +
            (text.size() > kLongestShown ? "..." : "");
+}
+
+bool IsChanged(const ExaminedSetting& setting)
+{
+    const auto& described = setting.Setting();
+    const bool isIgnored = std::any_of(setting.asked.begin(), setting.asked.end(), [&](const AskedKey& key) {
+        return key.found && !described.wholeKey && key.type != StoredType(described);
+    });
+    return !setting.IsDefault() || isIgnored || setting.isCorrected;
 }
 
 std::string SourceText(const ExaminedSetting& setting)

@@ -25,12 +25,18 @@ bool IsAllowed(const DescribedSetting& setting, DWORD number);
 // "computed" where the class makes the default.
 std::string DefaultText(const DescribedSetting& setting);
 
+// "saved", "saved as NAME", "written by OPERATION" or "not saved"; `isSaved` is ClassSetting's.
+std::string SavedText(const DescribedSetting& setting, bool isSaved);
+
 // The registry type that is read: REG_DWORD or REG_SZ.
 ValueType StoredType(const DescribedSetting& setting);
 // "REG_SZ \"4\""; the text is cut when it is long.
 std::string StoredText(ValueType type, std::span<const std::byte> data);
 // What stands in place of a secret.
 inline constexpr char kMasked[] = "********";
+
+// The value in effect is not the default, or a stored one is ignored or corrected.
+bool IsChanged(const ExaminedSetting& setting);
 
 // "device key", "common key", "default", ...: where the value in effect comes from.
 std::string SourceText(const ExaminedSetting& setting);

@@ -8,6 +8,7 @@
 #include "wqspcfg/tools/HelpText.h"
 #include "wqspcfg/tools/MaintenanceCommands.h"
 #include "wqspcfg/tools/ReferenceText.h"
+#include "wqspcfg/tools/ReportCommand.h"
 #include "wqspcfg/tools/ServiceCommands.h"
 #include "wqspcfg/tools/StoreCommands.h"
 
@@ -79,6 +80,7 @@ class Program
     void AddCheck();
     void AddDiff();
     void AddChange();
+    void AddReport();
     void AddModels();
     void AddReference();
     void AddHelp();
@@ -124,6 +126,7 @@ Program::Program(const Console& console) : m_console(console)
     m_app.add_flag("--secrets", m_store.secrets, "Show keys and passwords, which are masked without it");
     AddServices();
     AddExplain();
+    AddReport();
     AddCheck();
     AddDiff();
     AddChange();
@@ -424,6 +427,19 @@ void Program::AddChange()
     command.add_flag("--json", options->what.json, kJsonHelp);
 }
 
+void Program::AddReport()
+{
+    const auto options = std::make_shared<ReportCommandOptions>();
+    auto& command = Add("report", "Write the terminal's settings and findings as a page for a browser",
+                        [=, this] { return Report(m_store, *options, m_console); });
+    command.add_option("-o", options->file, "The file to write. Default: standard output")->option_text("FILE");
+    command
+        .add_option_function<std::string>(
+            "--against", [=](const std::string& address) { options->against = address; },
+            "Show how the settings differ from those of another store")
+        ->option_text("ADDRESS");
+}
+
 void Program::AddModels()
 {
     Add(
@@ -452,6 +468,7 @@ void Program::AddReference()
             }
             WriteReference(only,
                            options->format == "json"       ? ReferenceFormat::Json
+                           : options->format == "html"     ? ReferenceFormat::Html
                            : options->format == "markdown" ? ReferenceFormat::Markdown
                                                            : ReferenceFormat::Text,
                            m_console.out);
@@ -459,8 +476,8 @@ void Program::AddReference()
         },
         Uses::Nothing);
     command.add_option("CLASS", options->className, "The name of a class");
-    command.add_option("--format", options->format, "text, markdown or json. Default: text")
-        ->check(CLI::IsMember({"text", "markdown", "json"}))
+    command.add_option("--format", options->format, "text, markdown, json or html. Default: text")
+        ->check(CLI::IsMember({"text", "markdown", "json", "html"}))
         ->option_text("FORMAT");
     command.add_option("--pages", options->pages, "Write a Markdown page for each device class into this directory")
         ->option_text("DIRECTORY");

@@ -28,6 +28,19 @@ std::string StoreChoice::Address() const
     return DefaultStoreAddress();
 }
 
+StoreChoice StoreChoice::At(const std::string& other, const std::string& option) const
+{
+    if (other.empty()) {
+        throw UsageError(option + " is given an empty address");
+    }
+    auto choice = *this;
+    choice.address = other;
+    const bool isFile = other.starts_with("reg:");
+    choice.view32 = view32 && other != "windows:64" && (isFile || other.starts_with("windows:"));
+    choice.codePage = isFile ? codePage : 0;
+    return choice;
+}
+
 void StoreChoice::Check(bool isImport) const
 {
     const auto store = Address();

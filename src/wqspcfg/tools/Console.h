@@ -58,6 +58,9 @@ struct StoreChoice
 
     // Throws UsageError for an empty address.
     std::string Address() const;
+    // How another store is read, whose address `option` gives: with those of --view32 and --codepage that apply to it.
+    // Throws UsageError for an empty address.
+    StoreChoice At(const std::string& other, const std::string& option) const;
     // Throws UsageError where --view32 or --codepage cannot apply. `isImport`: they may concern the imported file.
     void Check(bool isImport) const;
     std::shared_ptr<Store> Open(Access access, Error& error, bool isImport = false) const;

@@ -33,31 +33,6 @@ struct Side
     diagnosis::StoredKeys stored;
 };
 
-// How one of the two stores is read: with those of --view32 and --codepage that apply to it.
-StoreChoice ChoiceFor(const StoreChoice& choice, const std::string& address)
-{
-    if (address.empty()) {
-        throw UsageError("diff is given an empty address");
-    }
-    const auto applies = [&](bool view32, unsigned codePage) {
-        StoreChoice one = choice;
-        one.address = address;
-        one.view32 = view32;
-        one.codePage = codePage;
-        try {
-            one.Check(false);
-            return true;
-        } catch (const UsageError&) {
-            return false;
-        }
-    };
-    auto own = choice;
-    own.address = address;
-    own.view32 = choice.view32 && applies(true, 0);
-    own.codePage = choice.codePage != 0 && applies(false, choice.codePage) ? choice.codePage : 0;
-    return own;
-}
-
 bool Examine(Side& side, const std::vector<std::wstring>& names, Error& error)
 {
     auto store = OpenForExamination(side.choice, error);
@@ -326,8 +301,8 @@ int Diff(const StoreChoice& choice, const DiffOptions& options, const Console& c
     if (choice.address) {
         throw UsageError("--store does not apply to diff, which is given both addresses");
     }
-    Side left(ChoiceFor(choice, options.left));
-    Side right(ChoiceFor(choice, options.right));
+    Side left(choice.At(options.left, "diff"));
+    Side right(choice.At(options.right, "diff"));
     if ((choice.view32 && !left.choice.view32 && !right.choice.view32) ||
         (choice.codePage != 0 && left.choice.codePage == 0 && right.choice.codePage == 0)) {
         auto refused = choice; // says why

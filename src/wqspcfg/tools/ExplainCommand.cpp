@@ -21,9 +21,7 @@ using nlohmann::ordered_json;
 class Explanation
 {
   public:
-    Explanation(const diagnosis::Examination& examination, const StoreChoice& choice)
-        : m_examination(examination), m_places(SourceOf(choice)), m_showSecrets(choice.secrets)
-    {}
+    explicit Explanation(const StoreChoice& choice) : m_places(SourceOf(choice)), m_showSecrets(choice.secrets) {}
 
     void PrintChanged(const std::vector<const ExaminedSetting*>& settings, std::ostream& out)
     {
@@ -62,8 +60,8 @@ class Explanation
                      (&asked == inEffect ? "  <- in effect" : ""));
             }
         }
-        line("    default " + Default(setting) + ", " + Saved(setting) + ", declared by " +
-             Utf8(setting.declared->table->className) + Allowed(setting));
+        line("    default " + Default(setting) + ", " + diagnosis::SavedText(described, setting.declared->isSaved) +
+             ", declared by " + Utf8(setting.declared->table->className) + Allowed(setting));
         line("    " + Utf8(described.meaning));
     }
 
@@ -100,7 +98,7 @@ class Explanation
                 put("default", "defaultWord", described.defaultValue);
             }
         }
-        out["changed"] = IsChanged(setting);
+        out["changed"] = diagnosis::IsChanged(setting);
         out["source"] = NameOf(setting.source);
         if (setting.isCorrected) {
             put("correctedFrom", "correctedFromWord", setting.read);
@@ -133,14 +131,6 @@ class Explanation
         out["class"] = Utf8(setting.declared->table->className);
         out["meaning"] = Utf8(described.meaning);
         return out;
-    }
-
-    static bool IsChanged(const ExaminedSetting& setting)
-    {
-        const bool isIgnored = std::any_of(setting.asked.begin(), setting.asked.end(), [&](const AskedKey& key) {
-            return key.found && !setting.Setting().wholeKey && key.type != diagnosis::StoredType(setting.Setting());
-        });
-        return !setting.IsDefault() || isIgnored || setting.isCorrected;
     }
 
   private:
@@ -185,25 +175,12 @@ class Explanation
                (place.empty() ? "" : "  " + place);
     }
 
-    static std::string Saved(const ExaminedSetting& setting)
-    {
-        const auto& described = setting.Setting();
-        if (!described.writtenBy.empty()) {
-            return "written by " + Utf8(described.writtenBy);
-        }
-        if (!setting.declared->isSaved) {
-            return "not saved";
-        }
-        return described.savedName.empty() ? "saved" : "saved as " + Utf8(described.savedName);
-    }
-
     static std::string Allowed(const ExaminedSetting& setting)
     {
         const auto text = diagnosis::AllowedText(setting.Setting());
         return text.empty() ? text : "; allowed: " + text;
     }
 
-    const diagnosis::Examination& m_examination;
     diagnosis::Places m_places;
     bool m_showSecrets;
 };
@@ -248,7 +225,7 @@ int Explain(const StoreChoice& choice, const ServiceChoice& service, const Expla
     std::vector<const ExaminedSetting*> settings;
     for (const auto& setting : examination.settings) {
         if ((options.setting.empty() || IsNamed(setting, wanted)) &&
-            (!options.changed || Explanation::IsChanged(setting))) {
+            (!options.changed || diagnosis::IsChanged(setting))) {
             settings.push_back(&setting);
         }
     }
@@ -257,7 +234,7 @@ int Explain(const StoreChoice& choice, const ServiceChoice& service, const Expla
                      [&](const ExaminedSetting& setting) { return IsNamed(setting, wanted); })) {
         return FailUnknown(examination, options.setting, console);
     }
-    Explanation explanation(examination, choice);
+    Explanation explanation(choice);
     if (options.json) {
         ordered_json out;
         out["service"] = service.name;

@@ -2,6 +2,8 @@
 
 #include "wqspcfg/core/settings/Reference.h"
 #include "wqspcfg/diagnosis/SettingText.h"
+#include "wqspcfg/diagnosis/report/Page.h"
+#include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/platform/text/Utf.h"
 
 #include <nlohmann/json.hpp>
@@ -325,6 +327,119 @@ std::string Page(const std::string& title, const std::string& introduction, std:
     return page;
 }
 
+// ---- the page for a browser ----
+
+using diagnosis::Attribute;
+using diagnosis::Html;
+using diagnosis::operator""_html; // NOLINT(misc-unused-using-decls): used by the literals
+
+void WriteHtml(const DescribedSetting& setting, Html& page)
+{
+    page << (setting.saved ? R"(<tr class="saved"><th scope="row">)"_html : R"(<tr><th scope="row">)"_html)
+         << (setting.wholeKey && setting.name == L"%s" ? "every value of the key" : Utf8(setting.name))
+         << "</th><td>"_html << NameOf(setting.type) << "</td><td>"_html << DefaultText(setting) << "</td><td>"_html
+         << diagnosis::AllowedText(setting) << "</td><td>"_html << diagnosis::SavedText(setting, setting.saved)
+         << "</td><td>"_html << setting.meaning;
+    for (const auto& remark : Remarks(setting)) {
+        page << R"(<p class="remark">)"_html << remark << "</p>"_html;
+    }
+    page << "</td></tr>\n"_html;
+}
+
+// The settings of each key together, by the roots in their order and by the key as the registry lists them.
+void WriteHtmlTable(const std::vector<DescribedSetting>& settings, Html& page)
+{
+    const auto isBefore = [](const DescribedSetting* left, const DescribedSetting* right) {
+        return left->root != right->root ? left->root < right->root : LessNoCase()(left->key, right->key);
+    };
+    std::vector<const DescribedSetting*> sorted(settings.size());
+    std::transform(settings.begin(), settings.end(), sorted.begin(), [](const auto& setting) { return &setting; });
+    std::stable_sort(sorted.begin(), sorted.end(), isBefore);
+    page << R"(<table class="settings reference"><thead><tr><th scope="col">Setting</th><th scope="col">Type</th>)"_html
+         << R"(<th scope="col">Default</th><th scope="col">Allowed</th><th scope="col">Saved</th>)"_html
+         << R"(<th scope="col">Meaning</th></tr></thead>)"_html;
+    const DescribedSetting* last = nullptr;
+    for (const auto* setting : sorted) {
+        if (last == nullptr || isBefore(last, setting)) {
+            page << (last == nullptr ? "<tbody>\n"_html : "</tbody><tbody>\n"_html)
+                 << R"(<tr class="key"><th colspan="6" scope="rowgroup">)"_html << KeyText(setting->root, setting->key)
+                 << " <small>"_html << PathOf(*setting) << "</small></th></tr>\n"_html;
+        }
+        WriteHtml(*setting, page);
+        last = setting;
+    }
+    page << "</tbody></table>"_html;
+}
+
+void WriteHtml(const ClassEntry& entry, Html& page)
+{
+    const auto& table = entry.table();
+    const auto* deviceClass = DeviceClassOf(table);
+    const auto name = Utf8(table.className);
+    page << R"(<section class="long")"_html << Attribute{"id"_html, name}
+         << Attribute{"data-class"_html, deviceClass != nullptr ? Utf8(deviceClass) : ""} << "><h2>"_html << name
+         << "</h2>"_html;
+    const auto link = [&](const Table& base) {
+        const auto baseName = Utf8(base.className);
+        page << "<a"_html << Attribute{"href"_html, '#' + baseName} << ">"_html << baseName << "</a>"_html;
+    };
+    if (table.base != nullptr) {
+        page << "<dl><div><dt>Derived from</dt><dd>"_html;
+        link(table.base());
+        if (table.mixin != nullptr) {
+            page << " and "_html;
+            link(table.mixin());
+        }
+        page << (table.savesBase ? ", whose settings it has too"_html
+                                 : ", whose settings it has too; its Save writes only what is saved of its own"_html)
+             << "</dd></div></dl>"_html;
+    }
+    const auto settings = AllSettings(table);
+    if (settings.empty()) {
+        page << R"(<p class="calm">No settings of its own.</p>)"_html;
+    } else {
+        WriteHtmlTable(settings, page);
+    }
+    page << "</section>\n"_html;
+}
+
+void WriteHtml(std::span<const ClassEntry* const> entries, std::ostream& out)
+{
+    diagnosis::PageFrame frame;
+    frame.title = "Settings reference";
+    std::map<std::string, diagnosis::PageLinks> byDeviceClass;
+    std::size_t saved = 0;
+    for (const auto* entry : entries) {
+        const auto* deviceClass = DeviceClassOf(entry->table());
+        const auto name = Utf8(entry->table().className);
+        auto& links = byDeviceClass[deviceClass != nullptr ? Utf8(deviceClass) : ""];
+        links.title = deviceClass != nullptr ? Utf8(deviceClass) : "Shared by all";
+        links.links.push_back({name, name, {}, 0, 0});
+        for (const auto& setting : AllSettings(entry->table())) {
+            ++frame.settings;
+            saved += setting.saved ? 1U : 0U;
+        }
+    }
+    for (auto& [deviceClass, links] : byDeviceClass) {
+        if (!deviceClass.empty()) {
+            frame.deviceClasses.push_back(deviceClass);
+        }
+        frame.contents.push_back(std::move(links));
+    }
+    frame.filters = {{"saved", "Saved", saved}};
+    Html page;
+    BeginPage(frame, page);
+    page << "<header><h1>Settings reference</h1><p>Every setting of "_html << entries.size()
+         << (entries.size() == 1 ? " class"_html : " classes"_html)
+         << ". A key is the subkey of the device key where nothing else is said. </p></header>\n"_html;
+    for (const auto* entry : entries) {
+        WriteHtml(*entry, page);
+        out << page.Take();
+    }
+    EndPage(page);
+    out << page.Take();
+}
+
 constexpr char kKeys[] =
     "A key is the subkey of the device key, `HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\` and the device key name, where "
     "nothing else is said; `WQCmnCfg` and the service keys lie in `HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS`. The "
@@ -352,6 +467,10 @@ void WriteReference(const ClassEntry* only, ReferenceFormat format, std::ostream
         ordered_json all;
         all["classes"] = std::move(classes);
         out << all.dump(1) << '\n';
+        return;
+    }
+    if (format == ReferenceFormat::Html) {
+        WriteHtml(entries, out);
         return;
     }
     for (const auto* entry : entries) {

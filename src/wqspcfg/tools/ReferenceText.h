@@ -1,4 +1,4 @@
-// The reference of all settings as text, Markdown and JSON.
+// The reference of all settings as text, Markdown, JSON and a page for a browser.
 #pragma once
 
 #include "wqspcfg/catalogue/Catalogue.h"
@@ -15,6 +15,7 @@ enum class ReferenceFormat
     Text,
     Markdown,
     Json,
+    Html,
 };
 
 // Every class, or with `only` that class and those that it inherits from.

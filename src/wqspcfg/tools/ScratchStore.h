@@ -18,6 +18,7 @@ class ScratchStore final : public Store
 
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_base->Address(); }
+    std::string FilePath() const override { return m_base->FilePath(); }
 
     // Tells what was written, key by key.
     bool Visit(RegFileVisitor& visitor, Error& error);
