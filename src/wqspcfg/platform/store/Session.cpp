@@ -118,7 +118,7 @@ void ClearStoreError() noexcept
 ReadObserver* ObserveReads(ReadObserver* observer) noexcept
 {
     if (t_session != nullptr) {
-        t_session->m_observer = observer;
+        t_session->Observe(observer);
     }
     return std::exchange(t_observer, observer);
 }

@@ -72,6 +72,8 @@ class WQSPCFG_API Session
     // Counts as a failure of this session: a write that no store could keep.
     Outcome Refuse(const Error& error) { return Fail(error); }
 
+    // Who is told of what this session reads from now on; null: nobody.
+    void Observe(ReadObserver* observer) noexcept { m_observer = observer; }
     Access GetAccess() const noexcept { return m_access; }
     // The first failure of this session.
     const Error& Failure() const noexcept { return m_failure; }
@@ -79,7 +81,6 @@ class WQSPCFG_API Session
   private:
     friend class ReadScope;
     friend class WriteScope;
-    friend ReadObserver* ObserveReads(ReadObserver* observer) noexcept;
     enum class State : std::uint8_t
     {
         New,
