@@ -49,6 +49,7 @@ TEST_P(RegInfoThreadsTest, GettersAnswerWhileAnotherThreadSaves)
     Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Provider", L"Phys");
     Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Class", L"CRD");
     Set(Service(), L"ExeDllMother", L"Dev.exe");
+    Set(Common(L"Policy"), L"ResetLoadCfg", 3);
     {
         CSpCRDWQTYM1200RegInfo config(L"Svc", false);
         ASSERT_TRUE(config.Load(nullptr));

@@ -1,5 +1,6 @@
 #include "wqspcfg/core/Log.h"
 
+#include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/text/DisplayText.h"
 
 #include <chrono>
@@ -57,7 +58,7 @@ int StreamLog::Write(Severity, DWORD, std::wstring_view text)
 
 int FileLog::Write(Severity severity, DWORD, std::wstring_view text)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard lock(ForkSafeMutex(ForkSafe::FileLogs)); // one for all: they write to one disk
     std::ofstream file(m_path, std::ios::app | std::ios::binary);
     const auto now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     std::tm local{};

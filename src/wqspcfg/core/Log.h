@@ -6,7 +6,6 @@
 #include "wqspcfg/platform/format/Format.h"
 
 #include <iosfwd>
-#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -99,7 +98,6 @@ class WQSPCFG_API FileLog final : public CLog
 
   private:
     std::string m_path;
-    std::mutex m_mutex;
 };
 
 // Keeps every entry in memory, for tests and tools. Not for several threads.

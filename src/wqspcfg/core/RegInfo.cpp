@@ -4,6 +4,7 @@
 #include "wqspcfg/core/RegistryRoots.h"
 #include "wqspcfg/core/settings/OwnChanges.h"
 #include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/platform/utility/StringUtility.h"
 #include "wqspcfg/platform/utility/Utility.h"
@@ -25,11 +26,10 @@ constexpr wchar_t kDeviceKeyFormat[] = L"%s%s\\%s"; // a subkey of the device ke
 
 long g_refCount = 0;
 
-// Guards the results that getters cache for the process: service providers call them from several threads.
+// Guards what getters keep, for the process or in their object: service providers call them from several threads.
 std::mutex& CacheMutex()
 {
-    static std::mutex mutex;
-    return mutex;
+    return wqspcfg::ForkSafeMutex(wqspcfg::ForkSafe::CachedResults);
 }
 
 bool EndsWith(const CString& strText, std::wstring_view ending)
@@ -244,7 +244,11 @@ CString CRegInfo::GetPhysicalName(LPCWSTR lpszLogicalName) const
         m_strPhysicalName.Empty();
     }
     if (m_strPhysicalName.IsEmpty()) {
-        wqspcfg::ReadSetting(*this, shared::kProvider, m_strPhysicalName);
+        // A name that is still not known is not written: other threads may be reading it.
+        if (const CString strName = TextOf(*this, shared::kProvider); !strName.IsEmpty()) {
+            const std::lock_guard lock(CacheMutex());
+            m_strPhysicalName = strName;
+        }
     }
     return m_strPhysicalName;
 }
@@ -477,10 +481,15 @@ void CRegInfo::GetCmdMap()
 
 DWORD CRegInfo::GetResetLoadCfgPolicy() const
 {
-    auto& dwResetLoadCfg = m_lpsPolicyGroup->ResetLoadCfg;
-    QueryValue(dwResetLoadCfg, shared::kResetLoadCfg.name, L"%s%s%s", kServiceRoot, wqspcfg::kCommonKey,
-               shared::kCommonPolicy.subkey);
-    return dwResetLoadCfg;
+    DWORD dwResetLoadCfg = 0;
+    const bool bFound = QueryValue(dwResetLoadCfg, shared::kResetLoadCfg.name, L"%s%s%s", kServiceRoot,
+                                   wqspcfg::kCommonKey, shared::kCommonPolicy.subkey);
+    const std::lock_guard lock(CacheMutex());
+    auto& dwHeld = m_lpsPolicyGroup->ResetLoadCfg;
+    if (bFound && dwHeld != dwResetLoadCfg) { // what stays as it is, others may read meanwhile
+        dwHeld = dwResetLoadCfg;
+    }
+    return dwHeld;
 }
 
 int CRegInfo::FindOtherSideServerName(const CString& strServerName) const

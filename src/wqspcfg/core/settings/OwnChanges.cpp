@@ -1,6 +1,7 @@
 #include "wqspcfg/core/settings/OwnChanges.h"
 
 #include "wqspcfg/core/SavePolicy.h"
+#include "wqspcfg/platform/store/ForkSafe.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -34,7 +35,7 @@ struct LoadedObject
 // Beside the objects, so that their layout is the same under both policies.
 struct LoadedObjects
 {
-    std::mutex mutex;
+    std::mutex& mutex = ForkSafeMutex(ForkSafe::LoadedObjects);
     std::unordered_map<const CRegKeyEx*, LoadedObject> objects;
 };
 

@@ -14,18 +14,25 @@ namespace {
 struct Locks
 {
     std::array<std::mutex, static_cast<std::size_t>(ForkSafe::Count)> mutexes;
-    std::atomic<void (*)()> inChild{nullptr};
+    std::atomic<const ForkHandler*> handler{nullptr};
 
     Locks()
     {
 #if !defined(_WIN32)
-        pthread_atfork([] { Get().Lock(); }, [] { Get().Unlock(); },
-                       [] {
-                           if (auto* handler = Get().inChild.load()) {
-                               handler();
-                           }
-                           Get().Unlock();
-                       });
+        pthread_atfork(
+            [] {
+                Get().Lock();
+                Call(&ForkHandler::before);
+            },
+            [] {
+                Call(&ForkHandler::inParent);
+                Get().Unlock();
+                Call(&ForkHandler::unlocked);
+            },
+            [] {
+                Call(&ForkHandler::inChild);
+                Get().Unlock();
+            });
 #endif
     }
 
@@ -39,6 +46,13 @@ struct Locks
     {
         for (auto mutex = mutexes.rbegin(); mutex != mutexes.rend(); ++mutex) {
             mutex->unlock();
+        }
+    }
+
+    static void Call(void (*ForkHandler::*step)())
+    {
+        if (const auto* handler = Get().handler.load(); handler != nullptr && handler->*step != nullptr) {
+            (handler->*step)();
         }
     }
 
@@ -56,9 +70,9 @@ std::mutex& ForkSafeMutex(ForkSafe which)
     return Locks::Get().mutexes[static_cast<std::size_t>(which)];
 }
 
-void SetForkHandler(void (*inChild)())
+void SetForkHandler(const ForkHandler& handler)
 {
-    Locks::Get().inChild = inChild;
+    Locks::Get().handler = new ForkHandler(handler); // used until the process ends
 }
 
 } // namespace wqspcfg

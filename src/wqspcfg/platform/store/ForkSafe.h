@@ -11,15 +11,28 @@ namespace wqspcfg {
 enum class ForkSafe : std::size_t
 {
     CurrentStore,
+    ForkedStores,
     KeyHandles,
     LockWaitHandler,
+    MemoryStates,
+    LoadedObjects,
+    CachedResults,
+    ModuleDirectory,
+    FileLogs,
     Environments,
     Count,
 };
 
 std::mutex& ForkSafeMutex(ForkSafe which);
 
-// What the child does first, with the locks held; one function for the process. Nothing on Windows, which has no fork.
-void SetForkHandler(void (*inChild)());
+// Called with the locks held; one set of functions for the process. Nothing on Windows, which has no fork.
+struct ForkHandler
+{
+    void (*before)() = nullptr; // the last step before the fork
+    void (*inParent)() = nullptr;
+    void (*inChild)() = nullptr;
+    void (*unlocked)() = nullptr; // in the parent, once the locks are free
+};
+void SetForkHandler(const ForkHandler& handler);
 
 } // namespace wqspcfg

@@ -1,5 +1,6 @@
 #include "wqspcfg/platform/utility/Utility.h"
 
+#include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/utility/ModulePath.h"
 
 #include <mutex>
@@ -9,7 +10,7 @@ namespace {
 
 struct Override
 {
-    std::mutex mutex;
+    std::mutex& mutex = wqspcfg::ForkSafeMutex(wqspcfg::ForkSafe::ModuleDirectory);
     std::wstring directory;
 };
 

@@ -2,6 +2,9 @@
 // files, forks, writers that do not end.
 #include "support/Sanitizers.h"
 #include "support/StoreTesting.h"
+#include "wqspcfg/core/Log.h"
+#include "wqspcfg/core/RegInfo.h"
+#include "wqspcfg/platform/store/Backup.h"
 #include "wqspcfg/platform/store/LockWait.h"
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
@@ -449,20 +452,25 @@ TEST_F(LmdbHardeningTest, AChildOfAForkAmongReadingThreadsGoesOn)
     SetCurrentStore(Open(Address()));
     std::atomic<bool> isDone{false};
     std::vector<std::thread> readers;
-    const auto read = [] {
+    const CRegInfo config(L"Svc", true);
+    FileLog log(temporary.File("log"));
+    // All that this library does under a lock of its own, but for writing.
+    const auto work = [&] {
         const ReadScope scope;
         ValueView value;
-        return scope->QueryAt(kKey, L"n", value);
+        (void)config.GetVersion();
+        return log.Write(Severity::Info, 1, L"entry") == 1 && scope->QueryAt(kKey, L"n", value) == Outcome::Found;
     };
     for (int i = 0; i < 2; ++i) {
         readers.emplace_back([&] {
             while (!isDone) {
-                (void)read();
+                (void)work();
             }
         });
     }
-    for (int i = 0; i < 300; ++i) {
-        EXPECT_EQ(InChild([&] { return read() == Outcome::Found ? 0 : 1; }), 0);
+    bool isWell = true;
+    for (int i = 0; i < 300 && isWell; ++i) {
+        isWell = InChild([&] { return work() ? 0 : 1; }) == 0;
     }
     isDone = true;
     for (auto& reader : readers) {
@@ -542,3 +550,24 @@ TEST_F(LmdbHardeningTest, OnlyAFileThatIsAsItsLastWriterLeftItIsNotVerified)
 }
 
 } // namespace wqspcfg::test
+    // A child with threads forks too.
+    isWell = isWell && InChild([&] {
+                           std::vector<std::thread> threads;
+                           for (int i = 0; i < 2; ++i) {
+                               threads.emplace_back([&] {
+                                   while (!isDone) {
+                                       (void)work();
+                                   }
+                               });
+                           }
+                           bool isGood = true;
+                           for (int i = 0; i < 100 && isGood; ++i) {
+                               isGood = InChild([&] { return work() ? 0 : 1; }) == 0;
+                           }
+                           isDone = true;
+                           for (auto& thread : threads) {
+                               thread.join();
+                           }
+                           return isGood ? 0 : 1;
+                       }) == 0;
+    EXPECT_TRUE(isWell);

@@ -96,8 +96,13 @@ struct EnvironmentRegistry
     std::mutex& mutex = ForkSafeMutex(ForkSafe::Environments);
     std::condition_variable closed;
     std::map<std::string, std::weak_ptr<LmdbEnvironment>> open;
+    std::vector<std::shared_ptr<LmdbEnvironment>> forking; // locked while this process forks
 
-    EnvironmentRegistry() { SetForkHandler(&LmdbEnvironment::AfterFork); }
+    EnvironmentRegistry()
+    {
+        SetForkHandler({&LmdbEnvironment::BeforeFork, &LmdbEnvironment::AfterForkInParent,
+                        &LmdbEnvironment::AfterForkInChild, [] { Get().forking.clear(); }});
+    }
 
     static EnvironmentRegistry& Get()
     {
@@ -106,16 +111,35 @@ struct EnvironmentRegistry
     }
 };
 
-void LmdbEnvironment::AfterFork()
+// No thread is about to open or close an environment's files then: the child could close a file of somebody else's that
+// has got the number of one of them.
+void LmdbEnvironment::BeforeFork()
+{
+    auto& registry = EnvironmentRegistry::Get();
+    for (const auto& [path, known] : registry.open) {
+        if (auto environment = known.lock()) {
+            environment->m_mutex.lock();
+            registry.forking.push_back(std::move(environment));
+        }
+    }
+}
+
+void LmdbEnvironment::AfterForkInParent()
+{
+    for (const auto& environment : EnvironmentRegistry::Get().forking) {
+        environment->m_mutex.unlock();
+    }
+}
+
+void LmdbEnvironment::AfterForkInChild()
 {
     ++g_forks;
     auto& registry = EnvironmentRegistry::Get();
-    for (const auto& [path, known] : registry.open) {
-        // The parent's locks go with its last copy of this file.
-        if (const auto environment = known.lock()) {
-            environment->m_dataFile.Close();
-        }
+    for (const auto& environment : registry.forking) {
+        environment->m_dataFile.Close(); // the parent's locks go with its last copy of this file
+        environment->m_mutex.unlock();
     }
+    registry.forking.clear();
     registry.open.clear();
 }
 

@@ -119,7 +119,9 @@ class LmdbEnvironment
     void Release(int status) noexcept;
     // The process that writes; 0 when it is not known.
     long FindWriter() const;
-    static void AfterFork();
+    static void BeforeFork();
+    static void AfterForkInParent();
+    static void AfterForkInChild();
 
     friend struct EnvironmentRegistry;
 

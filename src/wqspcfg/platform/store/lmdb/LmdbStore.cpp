@@ -1,8 +1,10 @@
 #include "wqspcfg/platform/store/lmdb/LmdbStore.h"
 
 #include "wqspcfg/platform/store/FlatTransaction.h"
+#include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/store/lmdb/LmdbEnvironment.h"
 
+#include <mutex>
 #include <unistd.h>
 #include <utility>
 
@@ -240,8 +242,8 @@ std::unique_ptr<Transaction> LmdbStore::Begin(Access access, Error& error)
 {
     auto environment = m_environment;
     if (!environment->IsOurs()) {
-        // This process was forked since: it needs an environment of its own. Before the fork nobody held this mutex.
-        const std::lock_guard lock(m_forkedMutex);
+        // This process was forked since: it needs an environment of its own.
+        const std::lock_guard lock(ForkSafeMutex(ForkSafe::ForkedStores));
         if (!m_forked || !m_forked->IsOurs()) {
             m_forked = LmdbEnvironment::Open(m_address, m_environment->Directory(), false, m_options.mapSize, error);
         }

@@ -8,7 +8,6 @@
 
 #include <cstddef>
 #include <memory>
-#include <mutex>
 #include <string>
 
 namespace wqspcfg {
@@ -42,8 +41,7 @@ class LmdbStore final : public Store
     std::string m_address;
     LmdbOptions m_options;
     const std::shared_ptr<LmdbEnvironment> m_environment;
-    std::mutex m_forkedMutex;
-    std::shared_ptr<LmdbEnvironment> m_forked; // in a process forked since
+    std::shared_ptr<LmdbEnvironment> m_forked; // in a process forked since; under ForkSafe::ForkedStores
 };
 
 } // namespace wqspcfg
