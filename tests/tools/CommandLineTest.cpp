@@ -458,6 +458,85 @@ TEST_F(CommandLineTest, ADryRunTellsAllAndChangesNothing)
     EXPECT_FALSE(std::filesystem::exists(File("none")));
 }
 
+TEST_F(CommandLineTest, ADryRunMasksSecrets)
+{
+    const std::string device = "HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\Dev";
+    const auto isTold = [this](const std::string& secret) { return m_out.find(secret) != std::string::npos; };
+    ASSERT_EQ(Run({"set", device, "PROTECTKEY", "oldsecret"}), 0);
+    ASSERT_EQ(Run({"backup", File("b")}), 0);
+    const std::string file = "REGEDIT4\n[" + device + "]\n\"ProtectKey\"=\"newsecret\"\n";
+    const std::vector<std::string> commands[] = {
+        {"import", "--dry-run", "-"}, {"delete", "--dry-run", device}, {"restore", "--dry-run", File("b")}};
+    for (auto command : commands) {
+        if (command[0] == "restore") {
+            ASSERT_EQ(Run({"set", device, "ProtectKey", "newsecret"}), 0);
+        }
+        ASSERT_EQ(Run(command, file), 0) << m_err;
+        EXPECT_TRUE(isTold("REG_SZ ********")) << m_out;
+        EXPECT_FALSE(isTold("secret")) << m_out;
+        command.emplace_back("--secrets");
+        ASSERT_EQ(Run(command, file), 0) << m_err;
+        EXPECT_TRUE(isTold("REG_SZ \"oldsecret\"")) << m_out;
+    }
+
+    MakeTerminal();
+    ASSERT_EQ(Run({"set", kComm, "BluetoothPassWord", "123456", "--type", "dword"}), 0);
+    ASSERT_EQ(Run({"save", "Svc", "--dry-run"}), 0) << m_err;
+    EXPECT_TRUE(isTold("BluetoothPassWord\tREG_DWORD ******** -> REG_SZ ********\n")) << m_out;
+}
+
+TEST_F(CommandLineTest, ADryRunRefusesWhatTheStoreCannotTake)
+{
+    const std::string file = "REGEDIT4\n[HKLM\\" + std::string(250, 'k') + "\\" + std::string(250, 'l') + "]\n\"" +
+                             std::string(100, 'v') + "\"=dword:1\n";
+    for (const bool isThere : {false, true}) {
+        ASSERT_TRUE(!isThere || Run({"set", "HKLM\\a", "b", "1"}) == 0);
+        EXPECT_EQ(Run({"import", "--dry-run", "-"}, file), 3);
+        const auto told = m_err;
+        EXPECT_EQ(Run({"import", "-"}, file), 3);
+        EXPECT_NE(told.find("standard input:3: "), std::string::npos) << told;
+        EXPECT_TRUE(m_err.ends_with(told)) << told << m_err; // behind the note that the store was made
+    }
+    EXPECT_EQ(RunOn("memory:", {"import", "--dry-run", "-"}, file), 0) << m_err;
+}
+
+TEST_F(CommandLineTest, TellsHowAStoreIsAndCompactsIt)
+{
+    MakeTerminal();
+    ASSERT_EQ(Run({"set", "HKLM\\Big", "b", std::string(500000, 'x')}), 0);
+    ASSERT_EQ(Run({"delete", "HKLM\\Big"}), 0);
+    const auto size = [this] { return std::filesystem::file_size(File("store") + "/data.mdb"); };
+    const auto before = size();
+    ASSERT_EQ(Run({"compact"}), 0) << m_err;
+    EXPECT_EQ(m_out, "");
+    EXPECT_LT(size(), before / 10);
+    EXPECT_EQ(m_err, StoreAddress() + ": 11 keys, 4 values; " + std::to_string(before) + " bytes before, " +
+                         std::to_string(size()) + " now\n");
+
+    ASSERT_EQ(Run({"status"}), 0) << m_err;
+    EXPECT_TRUE(m_out.starts_with("file\t" + File("store") + "/data.mdb\nsize\t" + std::to_string(size()) + " bytes\n"))
+        << m_out;
+    EXPECT_NE(m_out.find("\nwriting now\tnobody\nreaders\t0\n"), std::string::npos) << m_out;
+    EXPECT_EQ(m_out.find("sound"), std::string::npos);
+    ASSERT_EQ(Run({"status", "--verify"}), 0);
+    EXPECT_NE(m_out.find("\nsound\tyes, 11 keys, 4 values\n"), std::string::npos) << m_out;
+
+    auto content = test::ReadFile(File("store") + "/data.mdb");
+    content[content.find(std::string("W\0Q\0S\0p\0C\0", 10))] ^= 1; // in a value's text
+    test::WriteFile(File("store") + "/data.mdb", content);
+    EXPECT_EQ(Run({"status", "--verify"}), 1);
+    EXPECT_NE(m_out.find("\nsound\tno: "), std::string::npos) << m_out;
+    EXPECT_EQ(Run({"compact"}), 3);
+    EXPECT_NE(m_err.find("damaged"), std::string::npos) << m_err;
+    EXPECT_EQ(test::ReadFile(File("store") + "/data.mdb"), content);
+
+    for (const auto* command : {"compact", "status"}) {
+        EXPECT_EQ(RunOn("memory:", {command}), 3);
+        EXPECT_EQ(RunOn("lmdb:" + File("none"), {command}), 3);
+        EXPECT_FALSE(std::filesystem::exists(File("none")));
+    }
+}
+
 TEST_F(CommandLineTest, AnEmptyVariableIsNoStore)
 {
     const auto* given = std::getenv("WQSPCFG_STORE");

@@ -1,5 +1,7 @@
 #include "wqspcfg/tools/Preview.h"
 
+#include "wqspcfg/diagnosis/Difference.h"
+#include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/tools/ValueText.h"
@@ -101,8 +103,8 @@ class Comparison
 {
   public:
     // `before` may be null.
-    Comparison(Transaction* before, Transaction& after, const Console& console)
-        : m_before(before), m_after(after), m_console(console)
+    Comparison(Transaction* before, Transaction& after, bool showSecrets, const Console& console)
+        : m_before(before), m_after(after), m_showSecrets(showSecrets), m_console(console)
     {}
 
     int Print()
@@ -166,12 +168,13 @@ class Comparison
         }
     }
 
-    static std::string Shown(const Value& value, bool withName)
+    std::string Shown(const Value& value, bool withName) const
     {
         const auto name = value.name.empty() ? std::string("(default)") : DisplayText(value.name);
         const ValueView view{value.type, value.data};
-        auto data = DisplayText(DataText(view, L"; "));
-        if (value.type == ValueType::Sz || value.type == ValueType::ExpandSz) {
+        const bool isMasked = !m_showSecrets && diagnosis::IsSecretName(value.name);
+        auto data = isMasked ? diagnosis::kMasked : DisplayText(DataText(view, L"; "));
+        if (!isMasked && (value.type == ValueType::Sz || value.type == ValueType::ExpandSz)) {
             data = '"' + data + '"';
         }
         return (withName ? name + '\t' : std::string()) + TypeName(value.type) + ' ' + data;
@@ -185,6 +188,7 @@ class Comparison
 
     Transaction* m_before;
     Transaction& m_after;
+    bool m_showSecrets;
     const Console& m_console;
     std::size_t m_added = 0;
     std::size_t m_changed = 0;
@@ -194,10 +198,10 @@ class Comparison
 
 } // namespace
 
-int PreviewChanges(Store& store, const Changes& changes, const Console& console)
+int PreviewChanges(Store& store, const Changes& changes, bool showSecrets, const Console& console)
 {
     Error error;
-    MemoryStore copy(store.Address());
+    MemoryStore copy(store.Address(), store.NameRoom());
     {
         const auto from = store.Begin(Access::Read, error);
         const auto to = copy.Begin(Access::Write, error);
@@ -219,10 +223,10 @@ int PreviewChanges(Store& store, const Changes& changes, const Console& console)
     if (!changes(writer, error)) {
         return console.Fail(error);
     }
-    return Comparison(before.get(), *writing, console).Print();
+    return Comparison(before.get(), *writing, showSecrets, console).Print();
 }
 
-int PreviewReplacement(Store* before, Store& after, const Console& console)
+int PreviewReplacement(Store* before, Store& after, bool showSecrets, const Console& console)
 {
     Error error;
     const auto old = before != nullptr ? before->Begin(Access::Read, error) : nullptr;
@@ -230,7 +234,7 @@ int PreviewReplacement(Store* before, Store& after, const Console& console)
     if (!now || (before != nullptr && !old)) {
         return console.Fail(error);
     }
-    return Comparison(old.get(), *now, console).Print();
+    return Comparison(old.get(), *now, showSecrets, console).Print();
 }
 
 } // namespace wqspcfg::tools

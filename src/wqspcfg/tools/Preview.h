@@ -12,10 +12,11 @@ namespace wqspcfg::tools {
 using Changes = std::function<bool(RegFileVisitor& visitor, Error& error)>;
 
 // Prints a line for each key and value that `changes` would add ("+"), change ("~") or delete ("-"), and their numbers
-// on standard error. Returns the exit status.
-int PreviewChanges(Store& store, const Changes& changes, const Console& console);
+// on standard error. Keys and passwords are masked without `showSecrets`. What the store could not take is an error, as
+// it is without a preview. Returns the exit status.
+int PreviewChanges(Store& store, const Changes& changes, bool showSecrets, const Console& console);
 
 // The same for putting the content of `after` in place of that of `before`, which may be null for an empty store.
-int PreviewReplacement(Store* before, Store& after, const Console& console);
+int PreviewReplacement(Store* before, Store& after, bool showSecrets, const Console& console);
 
 } // namespace wqspcfg::tools

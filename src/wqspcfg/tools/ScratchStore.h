@@ -14,11 +14,14 @@ namespace wqspcfg::tools {
 class ScratchStore final : public Store
 {
   public:
-    explicit ScratchStore(std::shared_ptr<Store> base) : m_base(std::move(base)), m_written(m_base->Address()) {}
+    explicit ScratchStore(std::shared_ptr<Store> base)
+        : m_base(std::move(base)), m_written(m_base->Address(), m_base->NameRoom())
+    {}
 
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_base->Address(); }
     std::string FilePath() const override { return m_base->FilePath(); }
+    std::size_t NameRoom() const noexcept override { return m_base->NameRoom(); }
 
     // Tells what was written, key by key.
     bool Visit(RegFileVisitor& visitor, Error& error);

@@ -161,7 +161,7 @@ int SaveService(const StoreChoice& choice, const ServiceChoice& service, bool dr
                ? status
                : PreviewChanges(
                      *store, [&](RegFileVisitor& visitor, Error& failure) { return scratch->Visit(visitor, failure); },
-                     console);
+                     choice.secrets, console);
 }
 
 int ListModels(const Console& console)

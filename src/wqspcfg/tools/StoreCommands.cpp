@@ -146,7 +146,7 @@ int PreviewRestore(const StoreChoice& choice, const std::string& file, const Con
         return console.Fail(error);
     }
     const auto after = OpenStore(address, {.readOnly = true}, error);
-    return after ? PreviewReplacement(before.get(), *after, console) : console.Fail(error);
+    return after ? PreviewReplacement(before.get(), *after, choice.secrets, console) : console.Fail(error);
 }
 
 #endif
@@ -244,8 +244,8 @@ int Import(const StoreChoice& choice, const std::vector<std::string>& files, boo
         }
     }
     if (dryRun) {
-        const auto store =
-            choice.Exists() ? choice.Open(Access::Read, error, true) : std::make_shared<MemoryStore>(choice.Address());
+        const auto store = choice.Exists() ? choice.Open(Access::Read, error, true)
+                                           : std::make_shared<MemoryStore>(choice.Address(), kEmbeddedNameRoom);
         return store ? PreviewChanges(
                            *store,
                            [&contents](RegFileVisitor& visitor, Error& failure) {
@@ -253,7 +253,7 @@ int Import(const StoreChoice& choice, const std::vector<std::string>& files, boo
                                    return content->Visit(visitor, failure);
                                });
                            },
-                           console)
+                           choice.secrets, console)
                      : console.Fail(error);
     }
     const auto store = choice.OpenOrCreate(console, error, true);
@@ -500,7 +500,7 @@ int Delete(const StoreChoice& choice, const std::string& key, const DeleteOption
                 return options.name ? visitor.Key(which.hive, which.path, failure) && visitor.DeleteValue(name, failure)
                                     : visitor.DeleteKey(which.hive, which.path, failure);
             },
-            console);
+            choice.secrets, console);
     }
     if (!options.name) {
         console.err << "deleted " << CountsText(keys, values) << '\n';

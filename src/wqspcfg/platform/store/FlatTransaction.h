@@ -29,7 +29,7 @@ enum class Locality : std::uint8_t
 
 // An engine has
 //   static constexpr bool kChecked              whether records carry check sums
-//   static constexpr std::size_t kMaxFlatName   the longest name it takes
+//   std::size_t NameRoom() const                the length of the longest name it takes
 //   bool Usable()                               false, with Failure() set, when the transaction cannot go on
 //   bool CanWrite() const
 //   Lookup Get(name, locality, record), Erase(name), ErasePrefix(prefix), Commit(flush)
@@ -159,7 +159,7 @@ class FlatTransaction final : public Transaction
             }
             // What can never be made is not looked for level by level.
             if (existing == components.size() &&
-                (existing > kMaxKeyLevels || m_path.Whole().size() > Engine::kMaxFlatName)) {
+                (existing > kMaxKeyLevels || m_path.Whole().size() > m_engine.NameRoom())) {
                 return TooDeep(hive, path, existing);
             }
         }
@@ -171,7 +171,7 @@ class FlatTransaction final : public Transaction
                                                     " in " + DescribeFlatPath(m_path.Prefix(depth - 1)) +
                                                     " holds a line break or another control character");
             }
-            if (Utf16Length(components[depth - 1]) > kMaxKeyName || m_name.size() > Engine::kMaxFlatName) {
+            if (Utf16Length(components[depth - 1]) > kMaxKeyName || m_name.size() > m_engine.NameRoom()) {
                 return TooLong("the key name " + Quoted(components[depth - 1]), m_path.Prefix(depth - 1));
             }
         }
@@ -199,7 +199,7 @@ class FlatTransaction final : public Transaction
         if (!AppendFolded(name, m_name)) {
             return RefuseName(name);
         }
-        if (Utf16Length(name) > kMaxValueName || m_name.size() > Engine::kMaxFlatName) {
+        if (Utf16Length(name) > kMaxValueName || m_name.size() > m_engine.NameRoom()) {
             return TooLong("the value name " + Quoted(name), PathOf(handle));
         }
         if (value.data.size() > kMaxData) {
@@ -221,7 +221,7 @@ class FlatTransaction final : public Transaction
         if (!AppendFolded(name, m_name)) {
             return RefuseName(name);
         }
-        return m_name.size() > Engine::kMaxFlatName ? Outcome::Missing : FromEngine(m_engine.Erase(m_name));
+        return m_name.size() > m_engine.NameRoom() ? Outcome::Missing : FromEngine(m_engine.Erase(m_name));
     }
 
     Outcome DeleteKey(Hive hive, std::wstring_view path) override
@@ -381,7 +381,7 @@ class FlatTransaction final : public Transaction
 
     Outcome GetValue(std::string_view name, std::size_t prefix, std::uint64_t sum, Locality locality, ValueView& value)
     {
-        if (name.size() > Engine::kMaxFlatName) {
+        if (name.size() > m_engine.NameRoom()) {
             return Outcome::Missing;
         }
         std::string_view record;

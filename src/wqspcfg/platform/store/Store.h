@@ -121,6 +121,9 @@ class Transaction
     Error m_error;
 };
 
+// NameRoom of embedded stores.
+constexpr std::size_t kEmbeddedNameRoom = 511;
+
 enum class Access : std::uint8_t
 {
     Read,
@@ -142,6 +145,8 @@ class Store
     virtual const std::string& Address() const noexcept = 0;
     // The file that holds the content, whose rights tell who may see it; empty where there is none.
     virtual std::string FilePath() const { return {}; }
+    // How many bytes the name of a key or value may have together with the path to it, as the store keeps them.
+    virtual std::size_t NameRoom() const noexcept { return static_cast<std::size_t>(-1); }
     // Whether a write transaction that is not committed leaves no trace.
     virtual bool RollsBack() const noexcept { return true; }
 

@@ -27,7 +27,6 @@ class LmdbEngine
 {
   public:
     static constexpr bool kChecked = true;
-    static constexpr std::size_t kMaxFlatName = 511;
 
     LmdbEngine(const LmdbStore& store, std::shared_ptr<LmdbEnvironment> environment, Access access)
         : m_store(store), m_environment(std::move(environment)), m_write(access == Access::Write)
@@ -57,6 +56,7 @@ class LmdbEngine
     LmdbEngine& operator=(const LmdbEngine&) = delete;
 
     const std::string& Address() const { return m_store.Address(); }
+    static constexpr std::size_t NameRoom() { return kEmbeddedNameRoom; }
     const Error& Failure() const { return m_failure; }
     bool CanWrite() const { return m_write; }
 

@@ -36,6 +36,7 @@ class LmdbStore final : public Store
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_address; }
     std::string FilePath() const override;
+    std::size_t NameRoom() const noexcept override { return kEmbeddedNameRoom; }
 
   private:
     std::string m_address;

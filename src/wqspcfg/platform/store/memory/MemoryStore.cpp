@@ -1,10 +1,10 @@
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
 
 #include "wqspcfg/platform/store/FlatTransaction.h"
+#include "wqspcfg/platform/store/ForkSafe.h"
 
 #include <algorithm>
 #include <atomic>
-#include <limits>
 #include <vector>
 
 namespace wqspcfg {
@@ -39,7 +39,6 @@ class MemoryEngine
 {
   public:
     static constexpr bool kChecked = false;
-    static constexpr auto kMaxFlatName = std::numeric_limits<std::size_t>::max();
 
     MemoryEngine(MemoryStore& store, Access access, std::unique_lock<std::mutex> writerLock)
         : m_store(store), m_writerLock(std::move(writerLock)), m_shared(store.Current())
@@ -55,6 +54,7 @@ class MemoryEngine
     MemoryEngine& operator=(const MemoryEngine&) = delete;
 
     const std::string& Address() const { return m_store.Address(); }
+    std::size_t NameRoom() const { return m_store.NameRoom(); }
     const Error& Failure() const { return m_failure; }
     bool CanWrite() const { return m_own != nullptr; }
 
@@ -168,9 +168,10 @@ class MemoryEngine
                 chunk->owner = nullptr;
             }
         }
+        std::shared_ptr<const MemoryState> state = std::move(m_own); // the old one ends once the lock is free
         {
-            const std::lock_guard lock(m_store.m_stateMutex);
-            m_store.m_state = std::move(m_own);
+            const std::lock_guard lock(ForkSafeMutex(ForkSafe::MemoryStates));
+            m_store.m_state.swap(state);
         }
         m_over = true;
         EndWriting();
@@ -246,15 +247,15 @@ class MemoryEngine
     bool m_over = false;
 };
 
-MemoryStore::MemoryStore(std::string address)
-    : m_address(std::move(address)), m_state(std::make_shared<const MemoryState>())
+MemoryStore::MemoryStore(std::string address, std::size_t nameRoom)
+    : m_address(std::move(address)), m_nameRoom(nameRoom), m_state(std::make_shared<const MemoryState>())
 {}
 
 MemoryStore::~MemoryStore() = default;
 
 std::shared_ptr<const MemoryState> MemoryStore::Current() const
 {
-    const std::lock_guard lock(m_stateMutex);
+    const std::lock_guard lock(ForkSafeMutex(ForkSafe::MemoryStates));
     return m_state;
 }
 

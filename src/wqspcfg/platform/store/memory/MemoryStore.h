@@ -4,6 +4,7 @@
 #include "wqspcfg/platform/store/Store.h"
 
 #include <atomic>
+#include <cstddef>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -16,11 +17,13 @@ struct MemoryState;
 class MemoryStore final : public Store
 {
   public:
-    explicit MemoryStore(std::string address = "memory:");
+    // `nameRoom` is that of the store which this one stands for.
+    explicit MemoryStore(std::string address = "memory:", std::size_t nameRoom = static_cast<std::size_t>(-1));
     ~MemoryStore() override;
 
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_address; }
+    std::size_t NameRoom() const noexcept override { return m_nameRoom; }
 
   private:
     friend class MemoryEngine;
@@ -28,8 +31,8 @@ class MemoryStore final : public Store
     std::shared_ptr<const MemoryState> Current() const;
 
     std::string m_address;
-    mutable std::mutex m_stateMutex;
-    std::shared_ptr<const MemoryState> m_state;
+    std::size_t m_nameRoom;
+    std::shared_ptr<const MemoryState> m_state; // under ForkSafe::MemoryStates
     std::mutex m_writerMutex;
     std::atomic<std::thread::id> m_writer{};
 };
