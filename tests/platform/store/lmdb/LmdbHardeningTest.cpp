@@ -6,12 +6,14 @@
 #include "wqspcfg/core/RegInfo.h"
 #include "wqspcfg/platform/store/Backup.h"
 #include "wqspcfg/platform/store/LockWait.h"
+#include "wqspcfg/platform/store/Maintenance.h"
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
 
 #include <atomic>
 #include <cstdlib>
 #include <functional>
+#include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -127,6 +129,20 @@ class LmdbHardeningTest : public testing::Test
         for (const auto& path : {Directory(), DataFile(), LockFile()}) {
             ASSERT_TRUE(lchown(path.c_str(), kNobody, kNobody) == 0 || errno == ENOENT) << path;
         }
+    }
+    // "OWNER:GROUP MODE" of a file.
+    static std::string Rights(const std::string& path)
+    {
+        struct stat status = {};
+        EXPECT_EQ(lstat(path.c_str(), &status), 0) << path;
+        char text[64];
+        (void)snprintf(text, sizeof text, "%u:%u %o", status.st_uid, status.st_gid, status.st_mode & 07777U);
+        return text;
+    }
+    std::string WriteRefusal(Store& store)
+    {
+        Error error;
+        return store.Begin(Access::Write, error) ? "" : error.message;
     }
     std::string Refusal(const OpenOptions& options = {})
     {
@@ -258,12 +274,88 @@ TEST_F(LmdbHardeningTest, TheSuperuserActsAsTheOwnerOfTheDirectory)
     EXPECT_EQ(status.st_uid, 0U);
 }
 
+TEST_F(LmdbHardeningTest, NewFilesKeepAGroupThatTheOwnerIsNotIn)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs the superuser";
+    }
+    constexpr gid_t kGroup = 4321;
+    Create();
+    GiveAway();
+    ASSERT_EQ(chown(DataFile().c_str(), kNobody, kGroup), 0);
+    ASSERT_EQ(chmod(DataFile().c_str(), 0660), 0);
+    ASSERT_EQ(unlink(LockFile().c_str()), 0);
+    const auto backup = temporary.File("backup");
+    BackupCounts saved;
+    CompactCounts counts;
+    std::string kept;
+    Error error;
+    ASSERT_TRUE(BackUpStore(Address(), backup, saved, error)) << error.message;
+    EXPECT_EQ(Rights(LockFile()), "65534:4321 660");
+    ASSERT_TRUE(CompactStore(Address(), counts, error)) << error.message;
+    EXPECT_EQ(Rights(DataFile()), "65534:4321 660");
+    fs::resize_file(DataFile(), 5000);
+    ASSERT_EQ(unlink(LockFile().c_str()), 0);
+    ASSERT_TRUE(RestoreStore(Address(), backup, saved, kept, error)) << error.message;
+    EXPECT_EQ(kept, DataFile() + ".damaged");
+    EXPECT_EQ(Rights(DataFile()), "65534:4321 660");
+    EXPECT_EQ(Rights(LockFile()), "65534:4321 660");
+    // The superuser's rights to give a file away are not used for others, nor kept.
+    EXPECT_EQ(InChild([&] {
+                  if (!BecomeNobody() || !CompactStore(Address(), counts, error)) {
+                      return 1;
+                  }
+                  return Rights(DataFile()) == "65534:65534 600" ? 0 : 2; // what group and others both had: nothing
+              }),
+              0);
+}
+
+TEST_F(LmdbHardeningTest, AFileThatTheSuperuserMadeForAnotherUserIsNamedWithTheRemedy)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs the superuser";
+    }
+    const auto command = [](const std::string& path) { return "chown 65534 '" + path + "'"; };
+    Create();
+    ASSERT_EQ(chown(Directory().c_str(), kNobody, kNobody), 0);
+    for (const auto& text : {Refusal(), InChild([&] { return BecomeNobody() && Has(Refusal(), "chown") ? 0 : 1; }) == 0
+                                            ? Refusal()
+                                            : std::string("not told to the user")}) {
+        EXPECT_TRUE(Has(text, DataFile()) && Has(text, "Permission denied") && Has(text, "user number 0") &&
+                    Has(text, command(DataFile())))
+            << text;
+    }
+    // It can be read, and is written once the command was run; till then a refusal leaves the open files alone.
+    ASSERT_EQ(chmod(DataFile().c_str(), 0644), 0);
+    ASSERT_EQ(chown(LockFile().c_str(), kNobody, kNobody), 0);
+    const auto store = Open(Address());
+    const FileDescriptor watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+    ASSERT_GE(inotify_add_watch(watch.Get(), DataFile().c_str(), IN_OPEN | IN_CLOSE), 0);
+    auto text = WriteRefusal(*store);
+    EXPECT_TRUE(Has(text, "cannot write") && Has(text, command(DataFile()))) << text;
+    char event[4096];
+    EXPECT_EQ(read(watch.Get(), event, sizeof event), -1) << "the file was opened or closed";
+    EXPECT_EQ(Get(*store, kKey, L"n"), "4:01000000");
+    ASSERT_EQ(chown(DataFile().c_str(), kNobody, kNobody), 0);
+    EXPECT_EQ(WriteRefusal(*store), "");
+    // The lock file alone.
+    ASSERT_EQ(chown(LockFile().c_str(), 0, 0), 0);
+    EXPECT_EQ(InChild([&] {
+                  const auto other = Open(Address());
+                  const auto refusal = WriteRefusal(*other);
+                  return Has(refusal, command(fs::canonical(LockFile()).string())) ? 0 : 1;
+              }),
+              0);
+}
+
 TEST_F(LmdbHardeningTest, ADirectoryOfOthersIsRefusedUnlessItIsTrusted)
 {
     Create();
     for (const auto mode : {0720, 0702, 01777}) {
         ASSERT_EQ(chmod(Directory().c_str(), static_cast<mode_t>(mode)), 0);
-        EXPECT_TRUE(Has(Refusal(), "WQSPCFG_TRUST_DIRECTORY")) << mode;
+        EXPECT_TRUE(Has(Refusal(), "WQSPCFG_TRUST_DIRECTORY") &&
+                    Has(Refusal(), "chmod go-w '" + fs::canonical(Directory()).string() + "'"))
+            << Refusal();
         ASSERT_EQ(setenv("WQSPCFG_TRUST_DIRECTORY", "1", 1), 0);
         EXPECT_EQ(Refusal(), "") << mode;
         unsetenv("WQSPCFG_TRUST_DIRECTORY");
@@ -472,6 +564,27 @@ TEST_F(LmdbHardeningTest, AChildOfAForkAmongReadingThreadsGoesOn)
     for (int i = 0; i < 300 && isWell; ++i) {
         isWell = InChild([&] { return work() ? 0 : 1; }) == 0;
     }
+    // A child with threads forks too.
+    isWell = isWell && InChild([&] {
+                           std::vector<std::thread> threads;
+                           for (int i = 0; i < 2; ++i) {
+                               threads.emplace_back([&] {
+                                   while (!isDone) {
+                                       (void)work();
+                                   }
+                               });
+                           }
+                           bool isGood = true;
+                           for (int i = 0; i < 100 && isGood; ++i) {
+                               isGood = InChild([&] { return work() ? 0 : 1; }) == 0;
+                           }
+                           isDone = true;
+                           for (auto& thread : threads) {
+                               thread.join();
+                           }
+                           return isGood ? 0 : 1;
+                       }) == 0;
+    EXPECT_TRUE(isWell);
     isDone = true;
     for (auto& reader : readers) {
         reader.join();
@@ -550,24 +663,3 @@ TEST_F(LmdbHardeningTest, OnlyAFileThatIsAsItsLastWriterLeftItIsNotVerified)
 }
 
 } // namespace wqspcfg::test
-    // A child with threads forks too.
-    isWell = isWell && InChild([&] {
-                           std::vector<std::thread> threads;
-                           for (int i = 0; i < 2; ++i) {
-                               threads.emplace_back([&] {
-                                   while (!isDone) {
-                                       (void)work();
-                                   }
-                               });
-                           }
-                           bool isGood = true;
-                           for (int i = 0; i < 100 && isGood; ++i) {
-                               isGood = InChild([&] { return work() ? 0 : 1; }) == 0;
-                           }
-                           isDone = true;
-                           for (auto& thread : threads) {
-                               thread.join();
-                           }
-                           return isGood ? 0 : 1;
-                       }) == 0;
-    EXPECT_TRUE(isWell);

@@ -183,19 +183,16 @@ bool RestoreWithin(LmdbEnvironment& environment, const std::string& address, Bac
 }
 
 // Whoever can use the data file that is there can use the new one. An errno value, or 0.
-int KeepRights(const LmdbFolder& folder, const FileDescriptor& fresh)
+int KeepRights(const LmdbFolder& folder, const ActAsOwner& owner, const FileDescriptor& fresh)
 {
     struct stat model = {};
-    if (fstatat(folder.Get(), kDataName, &model, AT_SYMLINK_NOFOLLOW) != 0) {
-        return errno == ENOENT ? 0 : errno;
+    int status = 0;
+    if (!folder.GetModel(model, status)) {
+        // A file that is none of the store's own gives no rights away.
+        return status == ENOENT || status == 0 ? 0 : status;
     }
-    struct stat own = {};
-    if (fstat(fresh.Get(), &own) != 0) {
-        return errno;
-    }
-    const bool isForeign = own.st_uid != model.st_uid && geteuid() == 0;
     // Where it cannot get the group, whose members are others then, those have what both had.
-    const bool isGiven = fchown(fresh.Get(), isForeign ? model.st_uid : static_cast<uid_t>(-1), model.st_gid) == 0;
+    const bool isGiven = owner.Give(fresh, model) == 0;
     const auto others = model.st_mode & (model.st_mode >> 3) & 7U;
     return fchmod(fresh.Get(), isGiven ? model.st_mode & 0777U : (model.st_mode & 0700U) | others) != 0 ? errno : 0;
 }
@@ -218,7 +215,7 @@ bool RestoreAside(const std::string& address, const std::string& directory, Back
     bool done = false;
     {
         const auto fresh = folder.MakeFile(name);
-        auto result = fresh ? KeepRights(folder, fresh) : errno;
+        auto result = fresh ? KeepRights(folder, owner, fresh) : errno;
         if (result == 0) {
             result = WriteStore(fresh, 2 * backup.Size() + kSpareRoom, [&](MDB_txn* txn, MDB_dbi dbi) {
                 return CopyRecords(backup.tree, txn, dbi, counts, status) ? status : MDB_CORRUPTED;
@@ -227,7 +224,7 @@ bool RestoreAside(const std::string& address, const std::string& directory, Back
         if (result != 0) {
             error = LmdbError(address, "write", target, LmdbWriteStatus(directory, result));
         }
-        done = result == 0 && LmdbEnvironment::Replace(address, folder, fresh, name, kept, error);
+        done = result == 0 && LmdbEnvironment::Replace(address, folder, owner, fresh, name, kept, error);
     }
     if (!name.empty()) {
         (void)unlinkat(folder.Get(), name.c_str(), 0);
@@ -339,7 +336,7 @@ bool CompactWithin(LmdbEnvironment& environment, const std::string& address, MDB
     const auto fresh = folder.MakeFile(name);
     bool isSound = true;
     int status = 0;
-    auto result = fresh ? KeepRights(folder, fresh) : errno;
+    auto result = fresh ? KeepRights(folder, owner, fresh) : errno;
     if (result == 0) {
         result = WriteStore(
             fresh, 2 * counts.before + kSpareRoom,

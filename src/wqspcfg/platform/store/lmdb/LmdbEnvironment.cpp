@@ -202,8 +202,8 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
     return shared;
 }
 
-bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& folder, const FileDescriptor& fresh,
-                              std::string& name, std::string& kept, Error& error)
+bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& folder, const ActAsOwner& owner,
+                              const FileDescriptor& fresh, std::string& name, std::string& kept, Error& error)
 {
     const std::unique_ptr<char, decltype(&std::free)> real(realpath(folder.Path().c_str(), nullptr), &std::free);
     if (!real) {
@@ -220,10 +220,11 @@ bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& fold
     struct stat data = {};
     int result = 0;
     (void)fstat(fresh.Get(), &data);
-    const auto lockFile = OpenLockFile(address, folder, data, result, error);
+    const auto lockFile = OpenLockFile(address, folder, owner, data, result, error);
     if (!lockFile) {
         if (!error) {
-            error = LmdbError(address, "open", lockPath, result);
+            error = {KindOfSystemError(result),
+                     address + ": cannot open " + lockPath + ": " + folder.WhyRefused(kLockName, result)};
         }
         return false;
     }
@@ -392,7 +393,7 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     m_whyReadOnly.clear();
     m_dataFile = m_folder.OpenFile(kDataName, O_RDWR);
     if (!m_dataFile && (errno == EACCES || errno == EPERM || errno == EROFS)) {
-        m_whyReadOnly = LmdbWords(errno);
+        m_whyReadOnly = m_folder.WhyRefused(kDataName, errno);
         m_dataFile = m_folder.OpenFile(kDataName, O_RDONLY);
     }
     if (!m_dataFile) {
@@ -402,7 +403,8 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
                                                                      "the directory that it leads to"}
                 : status == EISDIR || status == ENXIO
                     ? Error{ErrorKind::BadArgument, ErrorPrefix(address) + m_dataPath + " is not a regular file"}
-                    : LmdbError(address, "open", m_dataPath, status);
+                    : Error{KindOfSystemError(status), ErrorPrefix(address) + "cannot open " + m_dataPath + ": " +
+                                                           m_folder.WhyRefused(kDataName, status)};
         return false;
     }
     if (!m_folder.CheckFile(address, kDataName, m_dataFile, error) ||
@@ -412,7 +414,7 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     }
     int result = 0;
     Error failure;
-    m_lockFile = OpenLockFile(address, m_folder, m_data, result, failure);
+    m_lockFile = OpenLockFile(address, m_folder, owner, m_data, result, failure);
     if (failure || (m_lockFile && fstat(m_lockFile.Get(), &m_lock) != 0)) {
         error = failure ? std::move(failure) : LmdbError(address, "open", m_directory + '/' + kLockName, errno);
         CloseFiles();
@@ -420,7 +422,7 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     }
     m_isCopied = !m_lockFile;
     if (m_isCopied && m_whyReadOnly.empty()) {
-        m_whyReadOnly = "of " + std::string(kLockName) + ": " + LmdbWords(result);
+        m_whyReadOnly = "of " + std::string(kLockName) + ": " + m_folder.WhyRefused(kLockName, result);
     }
     const auto needed = static_cast<std::size_t>(m_data.st_size) + kLeastMapSize;
     const unsigned flags = m_isCopied ? MDB_RDONLY | MDB_NOLOCK : m_whyReadOnly.empty() ? 0 : MDB_RDONLY;
@@ -549,6 +551,15 @@ bool LmdbEnvironment::IsWhereItWas(const std::string& address, bool& isLockGone,
     return !isLockGone;
 }
 
+bool LmdbEnvironment::MayWriteNow() const
+{
+    const ActAsOwner owner(m_folder);
+    // Trying it out is the answer for the rights that the files are opened with. Closing the data file drops no locks;
+    // the lock file is opened here only while this process has none on it.
+    return m_folder.OpenFile(kDataName, O_RDWR) &&
+           (!m_isCopied || m_folder.OpenFile(kLockName, O_RDWR) || errno == ENOENT);
+}
+
 bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::unique_lock<std::mutex>& lock,
                               Error& error)
 {
@@ -565,9 +576,8 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
             error = std::move(failure);
             return false;
         }
-        const bool mayWriteNow = access == Access::Write && !m_whyReadOnly.empty() && m_active == 0 &&
-                                 faccessat(AT_FDCWD, m_dataPath.c_str(), W_OK, AT_EACCESS) == 0;
-        if (m_env != nullptr && isThere && !m_broken && !mayWriteNow) {
+        const bool isMended = access == Access::Write && !m_whyReadOnly.empty() && m_active == 0 && MayWriteNow();
+        if (m_env != nullptr && isThere && !m_broken && !isMended) {
             m_nextLook = now + kLookInterval;
             return true;
         }

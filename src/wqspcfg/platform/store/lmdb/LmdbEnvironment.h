@@ -55,8 +55,8 @@ class LmdbEnvironment
     // Puts the data file `fresh`, which LmdbFolder::MakeFile made with the name `name`, in the place of the folder's,
     // which may be damaged or missing. Refused while any process has the store open. `kept` is where a file that was
     // there is now, or empty.
-    static bool Replace(const std::string& address, const LmdbFolder& folder, const FileDescriptor& fresh,
-                        std::string& name, std::string& kept, Error& error);
+    static bool Replace(const std::string& address, const LmdbFolder& folder, const ActAsOwner& owner,
+                        const FileDescriptor& fresh, std::string& name, std::string& kept, Error& error);
 
     // Puts a data file with the state that `txn`, from BeginWrite and with nothing written, has found in the place of
     // this one. Whoever reads goes on with the old file; the next one to look takes the new one.
@@ -103,6 +103,8 @@ class LmdbEnvironment
     bool OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status, bool& isMoved,
                   Error& error);
     bool Announce(const std::string& address, Error& error);
+    // Whether what kept this process from writing is mended; opening the files again finds out all else.
+    bool MayWriteNow() const;
     bool IsWhereItWas(const std::string& address, bool& isLockGone, Error& error);
     void CloseFiles() noexcept;
     // These with m_mutex held.

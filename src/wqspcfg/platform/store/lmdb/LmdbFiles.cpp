@@ -201,8 +201,8 @@ void WriteMark(const FileDescriptor& lockFile, LmdbMark mark)
     (void)!pwrite(lockFile.Get(), &mark, sizeof mark, kLmdbLocks);
 }
 
-FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder, const struct stat& data, int& status,
-                            Error& error)
+FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder, const ActAsOwner& owner,
+                            const struct stat& data, int& status, Error& error)
 {
     status = 0;
     const auto path = folder.PathOf(kLockName);
@@ -212,9 +212,7 @@ FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder
         file = OpenAt(folder.Get(), kLockName, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, kOwnOnly);
         if (file) {
             // Who may use the data file may use this one. Where it cannot get the same group, it is its maker's.
-            const bool isGiven =
-                fchown(file.Get(), geteuid() == 0 ? data.st_uid : static_cast<uid_t>(-1), data.st_gid) == 0;
-            (void)!fchmod(file.Get(), isGiven ? data.st_mode & 0666 : kOwnOnly);
+            (void)!fchmod(file.Get(), owner.Give(file, data) == 0 ? data.st_mode & 0666 : kOwnOnly);
         } else if (errno == EEXIST) {
             file = folder.OpenFile(kLockName, O_RDWR); // another process was faster
         }

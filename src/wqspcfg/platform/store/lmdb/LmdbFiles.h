@@ -68,8 +68,8 @@ void WriteMark(const FileDescriptor& lockFile, LmdbMark mark);
 // its blocks are reserved: LMDB writes to it through memory, and on a full file system that would end the process.
 // Only while this process has no environment on it, whose locks closing the file would drop. Without the right to it
 // the result is empty and `status` EACCES, EPERM or EROFS; after another failure, `error` is set.
-FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder, const struct stat& data, int& status,
-                            Error& error);
+FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder, const ActAsOwner& owner,
+                            const struct stat& data, int& status, Error& error);
 
 // Puts records in the order of their names.
 using FillStore = std::function<int(MDB_txn* txn, MDB_dbi dbi)>;

@@ -51,6 +51,21 @@ int MakeDirectories(const std::string& path)
     return 0;
 }
 
+// As a shell takes it.
+std::string Quoted(const std::string& path)
+{
+    std::string quoted = "'";
+    for (const auto unit : path) {
+        quoted += unit == '\'' ? "'\\''" : std::string(1, unit);
+    }
+    return quoted + '\'';
+}
+
+std::string ChownCommand(uid_t owner, const std::string& path)
+{
+    return "chown " + std::to_string(owner) + ' ' + Quoted(path);
+}
+
 // The group to act with in a directory: never the superuser's, which the directory may have kept.
 gid_t GroupOf(const struct stat& directory)
 {
@@ -101,9 +116,9 @@ bool LmdbFolder::Open(const std::string& address, const std::string& path, bool 
             "), who could have any file of yours written to; use a directory of your own or of the superuser");
     }
     if ((m_status.st_mode & (S_IWGRP | S_IWOTH)) != 0) {
-        return refuse("can be written by other users, who could have any file of yours written to; take that right "
-                      "away (chmod go-w " +
-                      path + ')');
+        return refuse("can be written by other users, as older versions allowed, and they could have any file of yours "
+                      "written to; take that right away (chmod go-w " +
+                      Quoted(path) + ')');
     }
     return true;
 }
@@ -140,12 +155,7 @@ bool LmdbFolder::CheckFile(const std::string& address, const char* name, const F
         usleep(2000);
         (void)fstat(file.Get(), &status);
     }
-    // A restore that was killed has left it, and its link to the file that it was about to replace.
-    struct stat kept = {};
-    const bool isKept = status.st_nlink == 2 &&
-                        fstatat(Get(), (std::string(name) + kKeptSuffix).c_str(), &kept, AT_SYMLINK_NOFOLLOW) == 0 &&
-                        kept.st_dev == status.st_dev && kept.st_ino == status.st_ino;
-    if (status.st_nlink > 1 && !isKept) {
+    if (status.st_nlink > 1 && !IsKept(name, status)) {
         error = {ErrorKind::AccessDenied, ErrorPrefix(address) + path +
                                               " has a second name (a hard link) and may be another file of yours; copy "
                                               "it, and put the copy in its place while no process uses the store"};
@@ -154,10 +164,44 @@ bool LmdbFolder::CheckFile(const std::string& address, const char* name, const F
     if (status.st_uid != 0 && status.st_uid != geteuid() && status.st_uid != m_status.st_uid) {
         error = {ErrorKind::AccessDenied,
                  ErrorPrefix(address) + path + " belongs to a user (number " + std::to_string(status.st_uid) +
-                     ") who owns neither the directory nor this process; give it to the directory's owner (chown)"};
+                     ") who owns neither the directory nor this process; give it to the directory's owner (" +
+                     ChownCommand(m_status.st_uid, path) + ')'};
         return false;
     }
     return true;
+}
+
+// A restore that was killed has left it, and its link to the file that it was about to replace.
+bool LmdbFolder::IsKept(const char* name, const struct stat& status) const
+{
+    struct stat kept = {};
+    return status.st_nlink == 2 &&
+           fstatat(Get(), (std::string(name) + kKeptSuffix).c_str(), &kept, AT_SYMLINK_NOFOLLOW) == 0 &&
+           kept.st_dev == status.st_dev && kept.st_ino == status.st_ino;
+}
+
+std::string LmdbFolder::WhyRefused(const char* name, int status) const
+{
+    auto words = LmdbWords(status);
+    struct stat file = {};
+    if ((status == EACCES || status == EPERM) && fstatat(Get(), name, &file, AT_SYMLINK_NOFOLLOW) == 0 &&
+        file.st_uid != m_status.st_uid) {
+        words += "; it belongs to user number " + std::to_string(file.st_uid) + " and its directory to user number " +
+                 std::to_string(m_status.st_uid) + ", with whose rights the store is used; run `" +
+                 ChownCommand(m_status.st_uid, PathOf(name)) + "` as the superuser";
+    }
+    return words;
+}
+
+bool LmdbFolder::GetModel(struct stat& model, int& status) const
+{
+    const auto file = OpenFile(kDataName, O_PATH);
+    status = file && fstat(file.Get(), &model) == 0 ? 0 : errno;
+    if (status != 0 || !S_ISREG(model.st_mode)) {
+        return false;
+    }
+    const bool isOurs = model.st_uid == 0 || model.st_uid == geteuid() || model.st_uid == m_status.st_uid;
+    return m_isTrusted || (isOurs && (model.st_nlink == 1 || IsKept(kDataName, model)));
 }
 
 FileDescriptor LmdbFolder::MakeFile(std::string& name) const
@@ -245,6 +289,22 @@ ActAsOwner::~ActAsOwner()
         (void)SetGroupsOfThread(m_groups);
         errno = kept;
     }
+}
+
+int ActAsOwner::Give(const FileDescriptor& file, const struct stat& model) const
+{
+    struct stat own = {};
+    if (fstat(file.Get(), &own) != 0) {
+        return errno;
+    }
+    if (!m_isDone) {
+        const auto owner = geteuid() == 0 && own.st_uid != model.st_uid ? model.st_uid : static_cast<uid_t>(-1);
+        return fchown(file.Get(), owner, model.st_gid) != 0 ? errno : 0;
+    }
+    const auto owner = static_cast<uid_t>(setfsuid(geteuid()));
+    const auto status = fchown(file.Get(), static_cast<uid_t>(-1), model.st_gid) != 0 ? errno : 0;
+    (void)setfsuid(owner);
+    return status;
 }
 
 bool ActAsOwner::Check(const std::string& address, const LmdbFolder& folder, Error& error) const

@@ -38,8 +38,15 @@ class LmdbFolder
 
     // Opens a file of the store that is there. -1 with errno.
     FileDescriptor OpenFile(const char* name, int flags) const;
+    // Why a file that is there cannot be opened with the rights that the store is used with: `status` in words, and
+    // what to do about a file that belongs to somebody else than the directory does.
+    std::string WhyRefused(const char* name, int status) const;
     // That an open file is an ordinary one, has no second name and belongs to someone who is trusted.
     bool CheckFile(const std::string& address, const char* name, const FileDescriptor& file, Error& error) const;
+
+    // The owner, group and rights of the store's data file, sound or not. False with `status` ENOENT when there is
+    // none, else when it is not one that another file may be given the rights of.
+    bool GetModel(struct stat& model, int& status) const;
 
     // An empty file without a name, or, where there is none such, with one that is put into `name`. -1 with errno.
     FileDescriptor MakeFile(std::string& name) const;
@@ -51,6 +58,9 @@ class LmdbFolder
 
   private:
     friend class ActAsOwner;
+
+    // Whether the second name of a file is that of one that a restore has kept.
+    bool IsKept(const char* name, const struct stat& status) const;
 
     std::string m_path;
     FileDescriptor m_directory;
@@ -69,6 +79,10 @@ class ActAsOwner
 
     // False when the system does not allow it.
     bool Check(const std::string& address, const LmdbFolder& folder, Error& error) const;
+    // Gives an open file the owner and the group of `model`, which LmdbFolder::CheckFile found in order or GetModel
+    // gave. The directory's owner need not be in that group: this takes the process's own rights. Under them the file
+    // stays the directory's owner's. An errno value, or 0.
+    int Give(const FileDescriptor& file, const struct stat& model) const;
 
   private:
     bool m_isNeeded = false;
