@@ -16,6 +16,7 @@
 #include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -589,6 +590,32 @@ TEST_F(LmdbHardeningTest, AChildOfAForkAmongReadingThreadsGoesOn)
     for (auto& reader : readers) {
         reader.join();
     }
+}
+
+TEST_F(LmdbHardeningTest, AClosedStoreIsUnlockedWhoeverHasACopyOfItsFile)
+{
+    Create();
+    auto store = Open(Address());
+    // As a child is for a moment, before the library knows of the fork.
+    const auto child = static_cast<pid_t>(syscall(SYS_clone, SIGCHLD, 0, 0, 0, 0));
+    if (child == 0) {
+        for (;;) {
+            pause();
+        }
+    }
+    Put(*store, kKey, L"n", DwordBytes(2));
+    const FileDescriptor file(open(DataFile().c_str(), O_RDWR | O_CLOEXEC));
+    const auto isLocked = [&file] {
+        struct flock lock = {};
+        lock.l_type = F_WRLCK;
+        lock.l_whence = SEEK_SET;
+        return fcntl(file.Get(), F_OFD_GETLK, &lock) != 0 || lock.l_type != F_UNLCK;
+    };
+    EXPECT_TRUE(isLocked()); // marked as in use
+    store.reset();
+    EXPECT_FALSE(isLocked());
+    kill(child, SIGKILL);
+    EXPECT_EQ(Ended(child), -SIGKILL);
 }
 
 TEST_F(LmdbHardeningTest, AChildInAnotherDirectoryFindsTheSameStore)
