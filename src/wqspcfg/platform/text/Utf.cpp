@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 namespace wqspcfg {
 
@@ -57,6 +58,25 @@ bool NextCharacter(std::wstring_view text, std::size_t& pos, char32_t& ch)
         ch = Combine(ch, Unit(text[pos++]));
     }
     return ch <= 0x10FFFF;
+}
+
+// How many characters at the beginning of `text` are ASCII: nearly all texts are as a whole, and are copied so.
+template <class Char>
+std::size_t AsciiPrefix(std::basic_string_view<Char> text)
+{
+    const auto other = std::find_if(text.begin(), text.end(),
+                                    [](Char ch) { return static_cast<std::make_unsigned_t<Char>>(ch) > 0x7F; });
+    return static_cast<std::size_t>(other - text.begin());
+}
+
+template <class Char, class Out>
+std::size_t AppendAsciiPrefix(std::basic_string_view<Char> text, Out& out)
+{
+    const auto count = AsciiPrefix(text);
+    const auto size = out.size();
+    out.resize(size + count);
+    std::copy_n(text.data(), count, out.data() + size);
+    return count;
 }
 
 // Undoes what was appended when the input turns out to be ill-formed.
@@ -165,7 +185,7 @@ enum class Surrogates
 bool EncodeUtf8(std::wstring_view text, Surrogates surrogates, std::string& utf8)
 {
     Appender appender(utf8);
-    for (std::size_t pos = 0; pos < text.size();) {
+    for (auto pos = AppendAsciiPrefix(text, utf8); pos < text.size();) {
         char32_t ch;
         if (!NextCharacter(text, pos, ch) || (surrogates == Surrogates::Refused && IsSurrogate(ch))) {
             return false;
@@ -214,13 +234,8 @@ bool DecodeUtf8(std::string_view utf8, Surrogates surrogates, Put put)
 
 bool DecodeUtf8(std::string_view utf8, Surrogates surrogates, std::wstring& text)
 {
-    // Nearly all names are ASCII.
-    const auto* const begin = utf8.data();
-    const auto* const end = begin + utf8.size();
-    const auto* const other = std::find_if(begin, end, [](char ch) { return static_cast<unsigned char>(ch) > 0x7F; });
     Appender appender(text);
-    text.append(begin, other);
-    utf8.remove_prefix(static_cast<std::size_t>(other - begin));
+    utf8.remove_prefix(AppendAsciiPrefix(utf8, text));
     return DecodeUtf8(utf8, surrogates, [&text](char32_t ch) { PutWide(ch, text); }) && appender.Done();
 }
 
@@ -240,8 +255,7 @@ std::size_t Utf16Length(std::wstring_view text) noexcept
 bool AppendUtf16(std::wstring_view text, std::u16string& units)
 {
     Appender appender(units);
-    units.reserve(units.size() + text.size());
-    for (std::size_t pos = 0; pos < text.size();) {
+    for (auto pos = AppendAsciiPrefix(text, units); pos < text.size();) {
         char32_t ch;
         if (!NextCharacter(text, pos, ch)) {
             return false;
@@ -264,8 +278,7 @@ bool AppendUtf16Le(std::wstring_view text, std::vector<std::byte>& bytes)
 
 void AppendWide(std::u16string_view units, std::wstring& text)
 {
-    text.reserve(text.size() + units.size());
-    for (std::size_t pos = 0; pos < units.size(); ++pos) {
+    for (auto pos = AppendAsciiPrefix(units, text); pos < units.size(); ++pos) {
         char32_t ch = units[pos];
         if (!kWideIsUtf16 && IsHigh(ch) && pos + 1 < units.size() && IsLow(units[pos + 1])) {
             ch = Combine(ch, units[++pos]);
@@ -309,6 +322,7 @@ bool AppendWideFromUtf8(std::string_view utf8, std::wstring& text)
 bool AppendUtf16FromUtf8(std::string_view utf8, std::u16string& units)
 {
     Appender appender(units);
+    utf8.remove_prefix(AppendAsciiPrefix(utf8, units));
     return DecodeUtf8(utf8, Surrogates::Refused, [&units](char32_t ch) { PutUtf16(ch, units); }) && appender.Done();
 }
 

@@ -42,6 +42,11 @@ bool IsBlank(char16_t ch)
     return ch == u' ' || ch == u'\t' || ch == u'\r';
 }
 
+constexpr bool EndsQuotedRun(char16_t ch)
+{
+    return ch == u'"' || ch == u'\\';
+}
+
 int HexDigit(char16_t ch)
 {
     if (ch >= u'0' && ch <= u'9') {
@@ -315,6 +320,11 @@ class RegFileParser::Impl
         const auto* text = m_text.data();
         const auto size = m_text.size();
         auto at = m_scan;
+        const auto skipTo = [&at, text, size](auto isSought) {
+            while (at < size && !isSought(text[at])) {
+                ++at;
+            }
+        };
         const auto done = [this, &at](bool found) {
             m_scan = at;
             return found;
@@ -358,6 +368,8 @@ class RegFileParser::Impl
                 } else if (ch == u'"') {
                     m_state = Scan::Value;
                     m_lastInk = ch;
+                } else {
+                    skipTo(EndsQuotedRun);
                 }
                 break;
             case Scan::Escape:
@@ -368,6 +380,7 @@ class RegFileParser::Impl
                 if (ch == u'\n') {
                     return done(true);
                 }
+                skipTo([](char16_t other) { return other == u'\n'; });
                 break;
             }
         }
@@ -510,9 +523,11 @@ class RegFileParser::Impl
     {
         const auto start = at++;
         for (; at < line.size(); ++at) {
-            const auto stop = std::min(line.find_first_of(u"\"\\", at), line.size());
-            m_units.append(line, at, stop - at);
-            at = stop;
+            const auto rest = line.substr(at);
+            const auto* const end = std::find_if(rest.begin(), rest.end(), EndsQuotedRun);
+            const auto run = rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
+            m_units += run;
+            at += run.size();
             if (at == line.size()) {
                 break;
             }

@@ -25,6 +25,11 @@ std::string Shown(std::wstring_view name)
     return '"' + DisplayText(name.substr(0, kShown)) + (name.size() > kShown ? "...\"" : "\"");
 }
 
+bool IsLonger(std::wstring_view name, std::size_t limit)
+{
+    return name.size() > limit / 2 && Utf16Length(name) > limit; // a character has at most two code units
+}
+
 // Passes on what every store can keep.
 class CheckingVisitor final : public RegFileVisitor
 {
@@ -38,7 +43,7 @@ class CheckingVisitor final : public RegFileVisitor
             const auto end = std::min(path.find(L'\\', pos), path.size());
             const auto name = path.substr(pos, end - pos);
             depth += name.empty() ? 0U : 1U;
-            if (Utf16Length(name) > kMaxKeyName) {
+            if (IsLonger(name, kMaxKeyName)) {
                 error = {ErrorKind::TooLong, "the key name " + Shown(name) + " is longer than " +
                                                  std::to_string(kMaxKeyName) + " characters"};
                 return false;
@@ -62,7 +67,7 @@ class CheckingVisitor final : public RegFileVisitor
     }
     bool Value(std::wstring_view name, const ValueView& value, Error& error) override
     {
-        if (Utf16Length(name) > kMaxValueName) {
+        if (IsLonger(name, kMaxValueName)) {
             error = {ErrorKind::TooLong, "the value name " + Shown(name) + " is longer than " +
                                              std::to_string(kMaxValueName) + " characters"};
             return false;
