@@ -3,10 +3,18 @@
 #include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/text/DisplayText.h"
 
+#if !defined(_WIN32)
+#include "wqspcfg/platform/store/PosixFile.h"
+#endif
+
+#include <cerrno>
 #include <chrono>
 #include <ctime>
 #include <fstream>
 #include <ostream>
+#if !defined(_WIN32)
+#include <unistd.h>
+#endif
 
 namespace wqspcfg {
 
@@ -48,6 +56,33 @@ std::string Lines(std::wstring_view entry)
     }
 }
 
+#if defined(_WIN32)
+bool Append(const std::string& path, std::string_view text)
+{
+    std::ofstream file(path, std::ios::app | std::ios::binary);
+    file << text;
+    file.flush();
+    return file.good();
+}
+#else
+// Not by a stream, whose file may become a standard one of a process that lacks those, and is left to its children.
+bool Append(const std::string& path, std::string_view text)
+{
+    const auto file = OpenFile(path, O_WRONLY | O_APPEND | O_CREAT, 0666);
+    while (file && !text.empty()) {
+        const auto written = write(file.Get(), text.data(), text.size());
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            return false;
+        }
+        text.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return static_cast<bool>(file);
+}
+#endif
+
 } // namespace
 
 int StreamLog::Write(Severity, DWORD, std::wstring_view text)
@@ -58,8 +93,6 @@ int StreamLog::Write(Severity, DWORD, std::wstring_view text)
 
 int FileLog::Write(Severity severity, DWORD, std::wstring_view text)
 {
-    const std::lock_guard lock(ForkSafeMutex(ForkSafe::FileLogs)); // one for all: they write to one disk
-    std::ofstream file(m_path, std::ios::app | std::ios::binary);
     const auto now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     std::tm local{};
 #if defined(_WIN32)
@@ -69,9 +102,8 @@ int FileLog::Write(Severity severity, DWORD, std::wstring_view text)
 #endif
     char time[32];
     std::strftime(time, sizeof time, "%Y-%m-%d %H:%M:%S", &local);
-    file << time << ' ' << NameOf(severity) << ' ' << Lines(text);
-    file.flush();
-    return file.good() ? 1 : 0;
+    const std::lock_guard lock(ForkSafeMutex(ForkSafe::FileLogs)); // one for all: they write to one disk
+    return Append(m_path, std::string(time) + ' ' + NameOf(severity) + ' ' + Lines(text)) ? 1 : 0;
 }
 
 int MemoryLog::Write(Severity severity, DWORD dwCategory, std::wstring_view text)
