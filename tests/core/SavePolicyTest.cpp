@@ -4,6 +4,7 @@
 #include "support/ConfigTest.h"
 #include "wqspcfg/classes/IDCRegInfo.h"
 #include "wqspcfg/classes/PINRegInfo.h"
+#include "wqspcfg/classes/SIURegInfo.h"
 #include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
 #include "wqspcfg/models/ptr/SpPTRPrdFPCNormalRegInfo.h"
 #include "wqspcfg/platform/store/Session.h"
@@ -172,6 +173,124 @@ TEST_F(SavePolicyTest, EntriesOfAWholeKeyAreComparedOneByOne)
     config.Save();
     EXPECT_EQ(Text(mapping, L"1"), L"ENTER");
     EXPECT_EQ(Text(mapping, L"2"), L"CANCEL");
+}
+
+TEST_F(SavePolicyTest, WhatASaveCouldNotWriteIsWrittenByTheNext)
+{
+    const auto records = Device(L"SNRData");
+    const auto agent = CString(L"SOFTWARE\\TARNO\\Driver\\WQDrOKIUsbAgent\\KeyboardMapping").Std();
+    Set(m_comm, L"Port", 1);
+    Set(records, L"dwAPID", 2);
+    Set(agent, L"1", L"A");
+    CSpCRDWQTYM1200RegInfo dispenser(L"Svc", false);
+    CCRMRegInfo cash(L"Svc", false);
+    CSIURegInfo sensors(L"Svc", false);
+    dispenser.Load(&m_log);
+    cash.Load(&m_log);
+    sensors.Load(&m_log);
+    dispenser.m_dwPort = 44;
+    cash.m_sBillSNRegInfo.dwAPID = 7;
+    sensors.m_mapKeyboardMapping.SetAt(L"1", L"B");
+    const auto save = [&] {
+        dispenser.Save();
+        cash.Save();
+        sensors.Save();
+    };
+    {
+        WriteScope scope;
+        save();
+        scope->Refuse({ErrorKind::Io, "the disk is full"});
+    }
+    EXPECT_EQ(Number(m_comm, L"Port"), 1U);
+    save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 44U);
+    EXPECT_EQ(Number(records, L"dwAPID"), 7U);
+    EXPECT_EQ(Text(agent, L"1"), L"B");
+}
+
+TEST_F(SavePolicyTest, ABackwardChangeBeforeTheCommitIsWritten)
+{
+    Set(m_comm, L"Port", 1);
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    {
+        const WriteScope scope;
+        config.m_dwPort = 44;
+        config.Save();
+        config.m_dwPort = 1;
+        config.Save();
+    }
+    EXPECT_EQ(Number(m_comm, L"Port"), 1U);
+}
+
+TEST_F(SavePolicyTest, WhatWasNeverLoadedStays)
+{
+    const auto records = Device(L"SNRData");
+    const auto note = Device(L"NoteType");
+    Set(note, L"Count", 1);
+    Set(Device(L"NoteType\\NoteType1"), L"CurrencyID", L"CN"); // ends the Load before the records
+    Set(records, L"dwAPID", 7);
+    Set(records, L"dwPhotoSaveMonth", 5);
+    Set(records, L"FSNFilePath", L"D:\\fsn");
+    CCRMRegInfo early(L"Svc", false);
+    EXPECT_FALSE(early.Load(&m_log));
+    early.Save();
+    CCRMRegInfo never(L"Svc", false);
+    never.Save();
+    EXPECT_EQ(Number(records, L"dwAPID"), 7U);
+    EXPECT_EQ(Number(records, L"dwPhotoSaveMonth"), 5U);
+    EXPECT_EQ(Text(records, L"FSNFilePath"), L"D:\\fsn");
+}
+
+TEST_F(SavePolicyTest, CapabilitiesAndNoteTypesKeepWhatOthersChanged)
+{
+    const auto capabilities = Device(L"CAPABILITIES");
+    const auto light = Device(L"CAPABILITIES\\fwGuidLights\\CARDUNIT");
+    const auto door = Device(L"CAPABILITIES\\fwDoors\\CABINET");
+    Set(capabilities, L"WFS_SIU_GUIDLIGHTS", 1);
+    Set(capabilities, L"WFS_SIU_DOORS", 1);
+    Set(light, L"WFS_SIU_AVAILABLE", 1);
+    Set(door, L"WFS_SIU_NOT_AVAILABLE", 0);
+    Set(door, L"WFS_SIU_OPEN", 1);
+    CSIURegInfo sensors(L"Svc", false);
+    sensors.Load(&m_log);
+    ASSERT_EQ(sensors.m_stSiuCaps.fwGuidLights[WFS_SIU_CARDUNIT], WFS_SIU_AVAILABLE);
+    Set(light, L"WFS_SIU_AVAILABLE", 0);
+    sensors.m_stSiuCaps.fwDoors[WFS_SIU_CABINET] = 0;
+    sensors.Save();
+    EXPECT_EQ(Number(light, L"WFS_SIU_AVAILABLE"), 0U);
+    EXPECT_EQ(Number(door, L"WFS_SIU_OPEN"), 0U);
+    EXPECT_EQ(Number(capabilities, L"WFS_SIU_GUIDLIGHTS"), 1U);
+
+    Set(Device(L"NoteType"), L"Count", 2);
+    for (const auto* number : {L"1", L"2"}) {
+        const auto type = Device((std::wstring(L"NoteType\\NoteType") + number).c_str());
+        Set(type, L"NoteID", number[0] - L'0');
+        Set(type, L"CurrencyID", L"CNY");
+        Set(type, L"Value", 100);
+        Set(type, L"Release", 0);
+        Set(type, L"Config", 1);
+    }
+    Set(Device(L"SNRData"), L"dwAPID", 1); // a key that Load needs
+    CCRMRegInfo cash(L"Svc", false);
+    ASSERT_TRUE(cash.Load(&m_log));
+    Set(Device(L"NoteType\\NoteType1"), L"Config", 0);
+    cash.m_arNoteType[1].bConfigured = FALSE;
+    cash.Save();
+    EXPECT_EQ(Number(Device(L"NoteType\\NoteType1"), L"Config"), 0U);
+    EXPECT_EQ(Number(Device(L"NoteType\\NoteType2"), L"Config"), 0U);
+}
+
+TEST_F(SavePolicyTest, OneValueSetByBothIsNoConflict)
+{
+    Set(m_comm, L"Port", 1);
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    config.Load(&m_log);
+    Set(m_comm, L"Port", 4);
+    config.m_dwPort = 4;
+    config.Save();
+    EXPECT_TRUE(
+        std::ranges::none_of(m_log.Entries(), [](const auto& entry) { return entry.severity == Severity::Error; }));
 }
 
 TEST_F(SavePolicyTest, AServiceWithoutAProviderSavesNothing)

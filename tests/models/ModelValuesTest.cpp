@@ -4,6 +4,7 @@
 #include "wqspcfg/models/bcr/SpBCRHoneyWellN5680RegInfo.h"
 #include "wqspcfg/models/bcr/SpBCRNT0810RegInfo.h"
 #include "wqspcfg/models/chk/SpCHKTcsyRegInfo.h"
+#include "wqspcfg/models/shared/NoteRecycler.h"
 
 #include <algorithm>
 #include <map>
@@ -67,6 +68,15 @@ const Model kModels[] = {
        L"DevName SignTxtDataPath SignPicPath BGTextData CreatWinDisPlay WinDlgAlpha SignBGColor SignPenColor "
        L"SignPenWidth PosX PosY FontName FontSize TextColor"}},
      {}},
+    {L"CSpCAMWQTJWI300RegInfo",
+     L"CCAMRegInfo",
+     {{{L"Recover\\Comm"}, L"Port BaudRate"},
+      {{L"Recover"}, L"RetractCount MaxRetract AutoCloseTray"},
+      {{L""},
+       L"DevType MaxPictures ControlTrayOnlyInTakePicture TakePictureDir PictureRotate DPI Brightness Contrast "
+       L"Saturation HUE Sharpness Gamma WhiteBalance BackLightCompensation Exposure AtivePropertyParam FontSize XPos "
+       L"YPos"}},
+     {{L"TakePictureDir", L"C:\\Camera\\TakePictureDir"}, {L"DPI", L"300"}}},
     {L"CSpCAMHandInputRegInfo",
      L"CCAMRegInfo",
      {{{L"Control"}, L"PenWidth PenColorR PenColorG PenColorB PenColor"}},
@@ -129,6 +139,41 @@ const Model kModels[] = {
     {L"CSpDEPWQEnvelopeRegInfo", L"CDEPRegInfo", {}, {}},
     {L"CDEPRegInfo", L"CRegInfo", {}, {}},
     {L"CBCRRegInfo", L"CRegInfo", {}, {}},
+};
+
+// What a model's lines show where the registry holds nothing: labels and numbers, and texts.
+struct Defaults
+{
+    const wchar_t* name;
+    const wchar_t* numbers;
+    std::map<std::wstring, std::wstring> texts;
+};
+
+constexpr wchar_t kDoorSound[] = L"C:\\vexo\\sp\\Config\\sp.data\\DeviceErrSound.wav";
+
+const Defaults kDefaults[] = {
+    {L"CSpSIUCABCRegInfo",
+     L"SetTamperStOfDependTermType 0 RecoverUpsStOfFlashBreak 1 ConvertOnOffToFlush 0 "
+     L"AllowUpsFlashBreakTime 1000 PoweroffAutoShutdown 0 AutoRebootWhenNextPowerOn 1 UsePowerSwitch 0 "
+     L"UseSafeDoor 0 KeepSupervisorCabinetOpen 1 BuzzerOfWithoutSelectContinueAudio 0 RearBackLightCtrl 0 "
+     L"FrontBackLightCtrl 1 SkimmerNeedReboot 0 UseSkimmer 1 UseSafeAgent 0 UseInnerUPS 0 Port 3 "
+     L"OutlayUPSCarrySupply 0 UsePinSta 1 UseKeySta 1 UseCardSta 1 UseProximity 1 BeepOn 1 RelayAlarmOn 0 "
+     L"BlindPoint 0 BlindAlarmTime 3 CoverAlarmTime 300 AutoCancel 1 ObserverType 2 DimScreenMode 0 "
+     L"RearUpDoorRelationCabinet 0 DecorateDoorRelateCabinet 0 BrmHotLineRelateSafeDoor 0 "
+     L"GuidLightOffOfReset 0 PolicyOfCabinetOpen 4 PhoneIndex 10 IsUseHandsetSensor 0",
+     {{L"CardInserted", L"WQCARDREADER_E"}, {L"EntryPassword", L"WQPINPADEXE"}, {L"CabinetOpenBeepPath", kDoorSound}}},
+    {L"CSpSIUPrdSIUNormalRegInfo",
+     L"ParameterCheck\\ContinueBuzzerOfWithoutSelectAudio 0",
+     {{L"DN.SIU_NORMAL", L"WQDrSIUTEK0816"},
+      {L"ShareCtrl\\CardReader", L"WQSpIDCPrdCardReader"},
+      {L"ShareCtrl\\Encryptor", L"WQSpPINPrdPINEPP"},
+      {L"Indicators\\CabinetOpenBeepPath", kDoorSound}}},
+    {L"CSpPINXZSE8098BRegInfo",
+     L"Port 1 BaudRate 9600 MachineType 1 PressKeyTimeOut 60 MacType 1 AtiveClearAndBaskSpaceOption 0 "
+     L"AtivePageUpPageDownInGetData 1 EarlyTerminateEnterToMaxLen 0 PageUpToFDK 0 PageDownToFDK 0 "
+     L"LoadKeyEncKeyOfCryptCmd 0 ReadOneKeyToMaxForceEnter 0 PageUpToXFSKey 0 PageDownToXFSKey 0 CBHBSM 0",
+     {}},
+    {L"CTTURegInfo", L"IsUseInitialValue 0", {}},
 };
 
 class ModelValuesTest : public ConfigTest
@@ -198,6 +243,37 @@ TEST_F(ModelValuesTest, EachReadsItsValuesAfterThoseOfItsBase)
             EXPECT_NE(Line(name).find(L" : " + text + L"["), std::wstring::npos)
                 << std::string(name.begin(), name.end());
         }
+    }
+}
+
+TEST_F(ModelValuesTest, AnEmptyRegistryGivesTheDefaults)
+{
+    for (const auto& model : kDefaults) {
+        m_log.Clear();
+        Create(*FindClass(model.name), CString(L"Svc"), false)
+            ->Load(&m_log); // false where a class needs keys of its own
+        const auto check = [&](const std::wstring& label, const std::wstring& value) {
+            const auto line = Line(label);
+            const auto shown = L" : " + value;
+            const auto at = line.find(shown);
+            EXPECT_TRUE(at != std::wstring::npos && std::wcschr(L"[ ", line[at + shown.size()]) != nullptr)
+                << std::string(label.begin(), label.end()) << ": " << std::string(line.begin(), line.end());
+        };
+        std::wistringstream numbers(model.numbers);
+        for (std::wstring label, number; numbers >> label >> number;) {
+            check(label, number);
+        }
+        for (const auto& [label, text] : model.texts) {
+            check(label, text);
+        }
+    }
+    for (const auto* name : {L"CSPCRMWQ09RegInfo", L"CSPCRMWQ07RegInfo", L"CSpC81DriverRegInfo"}) {
+        const auto object = Create(*FindClass(name), CString(L"Svc"), false);
+        const auto& valve = dynamic_cast<const NoteRecycler&>(*object);
+        EXPECT_EQ(valve.m_dwVtmOutShtPort, 3U);
+        EXPECT_EQ(valve.m_dwVtmOutShtCtrlIndex, 2U);
+        EXPECT_EQ(valve.m_dwVtmOutShtSafeDoorIndex, 3U);
+        EXPECT_EQ(valve.m_dwVtmOutShtStIndex, 2U);
     }
 }
 

@@ -3,32 +3,35 @@
 #include "wqspcfg/core/settings/Reference.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 
+#include <algorithm>
+#include <array>
+
 namespace wqspcfg {
 
 namespace entry {
-#define CLASS(Class) extern const ClassEntry Class##Entry;
+#define CLASS(Class) ClassEntry Class##Entry();
 #include "wqspcfg/catalogue/all.inc"
 #undef CLASS
 } // namespace entry
 
-namespace {
-
-constexpr const ClassEntry* kClasses[] = {
-#define CLASS(Class) &entry::Class##Entry,
-#include "wqspcfg/catalogue/all.inc"
-#undef CLASS
-};
-
-} // namespace
-
 std::span<const ClassEntry* const> AllClasses() noexcept
 {
-    return kClasses;
+    static const std::array entries{
+#define CLASS(Class) entry::Class##Entry(),
+#include "wqspcfg/catalogue/all.inc"
+#undef CLASS
+    };
+    static const auto all = [] {
+        std::array<const ClassEntry*, entries.size()> found;
+        std::transform(entries.begin(), entries.end(), found.begin(), [](const ClassEntry& entry) { return &entry; });
+        return found;
+    }();
+    return all;
 }
 
 const ClassEntry* FindClass(std::wstring_view className) noexcept
 {
-    for (const auto* each : kClasses) {
+    for (const auto* each : AllClasses()) {
         if (EqualNoCase(each->table().className, className)) {
             return each;
         }
@@ -39,7 +42,7 @@ const ClassEntry* FindClass(std::wstring_view className) noexcept
 std::vector<const ClassEntry*> ClassesOf(std::wstring_view deviceClass)
 {
     std::vector<const ClassEntry*> found;
-    for (const auto* each : kClasses) {
+    for (const auto* each : AllClasses()) {
         const auto* own = DeviceClassOf(each->table());
         if (own != nullptr && EqualNoCase(own, deviceClass)) {
             found.push_back(each);

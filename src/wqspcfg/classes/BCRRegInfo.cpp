@@ -6,10 +6,12 @@ using namespace wqspcfg;
 
 const Table& CBCRRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CBCRRegInfo", &CRegInfo::Settings, L"BCR", {}};
-    return kTable;
+    static const Table table{L"CBCRRegInfo", &CRegInfo::Settings, L"BCR", {}};
+    return table;
 }
 
 CBCRRegInfo::CBCRRegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(strName, bPhysicalName) {}
+
+CBCRRegInfo::~CBCRRegInfo() = default;
 
 WQSPCFG_CATALOGUE_ENTRY(CBCRRegInfo)

@@ -8,6 +8,7 @@ class WQSPCFG_API CBCRRegInfo : public CRegInfo
 {
   public:
     CBCRRegInfo(const CString& strName, bool bPhysicalName);
+    ~CBCRRegInfo() override;
 
     static const wqspcfg::Table& Settings() noexcept;
 };

@@ -48,7 +48,7 @@ constexpr const wchar_t* kSaved[] = {L"ApID",          L"PosX",
                                      L"PosH",          L"CheckDisplayHwnd",
                                      L"CheckPicPath",  L"FirstCheckCameraST",
                                      L"NoCheckCamPar", L"HaveOutWhenTakePic"};
-constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
+constexpr auto kSaveOrder = SaveOrder<kSettings, kSaved>;
 
 } // namespace
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CCAMRegInfo : public CRegInfo
 {
   public:
     CCAMRegInfo(const CString& strName, bool bPhysicalName);
+    ~CCAMRegInfo() override;
     bool Load(CLog* pLog) override;
     // Writes the camera's values only: what all service providers share is not a camera's to write.
     void Save() override;

@@ -7,6 +7,7 @@ class WQSPCFG_API CCHKRegInfo : public CRegInfo
 {
   public:
     CCHKRegInfo(const CString& strName, bool bPhysicalName);
+    ~CCHKRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -38,7 +38,7 @@ constexpr Setting kControl[] = {
 constexpr Setting kCurNumber{kCardUnits, L"CurNumber", &C::m_dwCurNumber, 0,
                              L"number of the current card unit", NotLogged, Saved};
 constexpr Setting kSettings[] = {
-    Group(kControl),
+    Group(Rows<kControl>),
     kCurNumber,
 };
 // clang-format on
@@ -49,7 +49,7 @@ constexpr auto kCardUnitRows = [] {
     ForEachStoredField([&](const CardUnitField& field) { rows[n++] = field.row; });
     return rows;
 }();
-constexpr OperationSettings kOperations[] = {{L"Load", L"FlushCardUnit", kCardUnitRows}};
+constexpr OperationSettings kOperations[] = {{L"Load", L"FlushCardUnit", Rows<kCardUnitRows>}};
 
 // What a fatal entry of LogCardUnitInfo names as its line, whatever this file's lines are.
 constexpr int kFatalLine = 459;
@@ -63,20 +63,22 @@ CString WideText(const char* text)
 
 const Table& CCRDRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CCRDRegInfo", &CRegInfo::Settings, L"CRD", kSettings, {}, kOperations};
-    return kTable;
+    static const Table table{L"CCRDRegInfo", &CRegInfo::Settings, L"CRD", Rows<kSettings>, {}, kOperations};
+    return table;
 }
 
 CCRDRegInfo::CCRDRegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(strName, bPhysicalName)
 {
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
 }
+
+CCRDRegInfo::~CCRDRegInfo() = default;
 
 bool CCRDRegInfo::Load(CLog* pLog)
 {
     Loading loading(*this, pLog);
     const bool bResult = CRegInfo::Load(pLog);
-    loading.Read(Settings(), kControl);
+    loading.Read(Settings(), Rows<kControl>);
     if (LoadCardUnits(loading)) {
         LogCardUnitInfo(pLog, L"initialise card-unit information", false);
     }
@@ -125,7 +127,7 @@ void CCRDRegInfo::Save()
 {
     Saving saving(*this);
     CRegInfo::Save();
-    saving.Write(std::span<const Setting>(kControl));
+    saving.Write(Rows<kControl>);
     FlushCardUnit();
 }
 

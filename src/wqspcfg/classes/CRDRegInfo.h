@@ -15,6 +15,7 @@ class WQSPCFG_API CCRDRegInfo : public CRegInfo
     using CardUnits = CSyncDecorator<CArray<tagCardUnitEx, const tagCardUnitEx&>, CMutex>;
 
     CCRDRegInfo(const CString& strName, bool bPhysicalName);
+    ~CCRDRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

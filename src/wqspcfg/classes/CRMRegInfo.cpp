@@ -1,6 +1,7 @@
 #include "wqspcfg/classes/CRMRegInfo.h"
 
 #include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/core/settings/OwnChanges.h"
 #include "wqspcfg/core/settings/Settings.h"
 #include "wqspcfg/parts/serial/SerialRows.h"
 #include "wqspcfg/platform/text/NarrowText.h"
@@ -124,8 +125,12 @@ constexpr auto kLogReplenishWords = Step([](C& c, Loading& loading) {
     loading.Print(kReplenishHighWord, HIWORD(c.m_dwEnableReplenish));
     loading.Print(kReplenishLowWord, LOWORD(c.m_dwEnableReplenish));
 });
-constexpr auto kLoadNoteTypes =
-    Step([](C& c, Loading&) -> bool { return c.GetBankNoteTypes(c.m_arNoteType) == WFS_SUCCESS; });
+void RememberNoteTypes(const C& c, CLog* log);
+constexpr auto kLoadNoteTypes = Step([](C& c, Loading& loading) -> bool {
+    const bool bLoaded = c.GetBankNoteTypes(c.m_arNoteType) == WFS_SUCCESS;
+    RememberNoteTypes(c, loading.Log());
+    return bLoaded;
+});
 
 // clang-format off
 constexpr Setting kSettings[] = {
@@ -347,10 +352,10 @@ constexpr Setting kSettings[] = {
      L"most rejected notes accumulated in one deposit: 0 the reject count does not tell whether the reject area is "
      L"full"},
     kLoadNoteTypes,
-    Step<&C::m_sBillSNRegInfo>(kLoadRecord<&C::m_sBillSNRegInfo>, kBillSNRows),
-    Step<&C::m_sBillFSNRegInfo>(kLoadRecord<&C::m_sBillFSNRegInfo>, kBillFSNRows),
-    Step<&C::m_sBillBLRegInfo>(kLoadRecord<&C::m_sBillBLRegInfo>, kBillBLRows),
-    Step<&C::m_sBillFAIRegInfo>(kLoadRecord<&C::m_sBillFAIRegInfo>, kBillFAIRows),
+    Step<&C::m_sBillSNRegInfo>(kLoadRecord<&C::m_sBillSNRegInfo>, Rows<kBillSNRows>),
+    Step<&C::m_sBillFSNRegInfo>(kLoadRecord<&C::m_sBillFSNRegInfo>, Rows<kBillFSNRows>),
+    Step<&C::m_sBillBLRegInfo>(kLoadRecord<&C::m_sBillBLRegInfo>, Rows<kBillBLRows>),
+    Step<&C::m_sBillFAIRegInfo>(kLoadRecord<&C::m_sBillFAIRegInfo>, Rows<kBillFAIRows>),
     {key::Capabilities, L"RetractBillsWhenSPStart", &C::m_dwRetractBillsWhenSPStart, 1,
      L"notes are retracted when the provider starts: 0 no; 1 yes", Saved},
     {key::Capabilities, L"RtnDevErrorOnPosNotEmptyOfCIS", &C::m_dwRtnDevErrorOnPosNotEmptyOfCIS, 0,
@@ -404,12 +409,12 @@ constexpr Setting kNoteType[] = {
     {kNoteTypeOf, L"CurrencyID", StringValue, L"", L"currency of the note, exactly 3 characters"},
     {kNoteTypeOf, L"Value",      DwordValue,  0,   L"denomination"},
     {kNoteTypeOf, L"Release",    DwordValue,  0,   L"release of the note, the low 16 bits"},
-    {kNoteTypeOf, L"Config",     DwordValue,  0,   L"the note is accepted: 0 no; nonzero yes"},
 };
+constexpr Setting kNoteTypeConfig{kNoteTypeOf, L"Config", DwordValue, 0, L"the note is accepted: 0 no; nonzero yes"};
 constexpr OperationSettings kOperations[] = {
-    {L"GetBankNoteTypes", L"",                   {&kNoteTypeCount, 1}},
-    {L"GetBankNoteTypes", L"",                   {kNoteType, std::size(kNoteType) - 1}},
-    {L"GetBankNoteTypes", L"ConfigureNoteTypes", {std::end(kNoteType) - 1, 1}},
+    {L"GetBankNoteTypes", L"",                   Rows<kNoteTypeCount>},
+    {L"GetBankNoteTypes", L"",                   Rows<kNoteType>},
+    {L"GetBankNoteTypes", L"ConfigureNoteTypes", Rows<kNoteTypeConfig>},
 };
 // clang-format on
 
@@ -419,9 +424,8 @@ constexpr Key kFirstKeys[] = {key::Capabilities, kLimit, kCassette};
 constexpr const wchar_t* kSavedLast[] = {L"RetractBillsWhenSPStart", L"AppBlackSymbol",  L"DevBlackSymbol",
                                          L"EnableReplenish",         L"CasTypeCanCount", L"CasStatusCannotCount",
                                          L"RandSpecMixOrder"};
-constexpr auto kLastOrder = SaveOrder(kSettings, kSavedLast, false);
-constexpr auto kFirstOrder =
-    SaveOrderByKey<CountSaved(kSettings) - kLastOrder.size()>(kSettings, kFirstKeys, kLastOrder);
+constexpr auto kLastOrder = SaveOrder<kSettings, kSavedLast, false>;
+constexpr auto kFirstOrder = SaveOrderByKey<kSettings, kFirstKeys, kSavedLast>;
 
 // ---- note types ----
 
@@ -468,9 +472,9 @@ bool ReadNoteType(const NoteTypeKeys& keys, DWORD dwNumber, _wfs_cim_note_type& 
     DWORD dwValue = 0;
     DWORD dwRelease = 0;
     DWORD dwConfig = 0;
-    if (!keys.Query(kNoteType[0], dwNumber, dwNoteID) || !keys.Query(kNoteType[1], dwNumber, strCurrency) ||
-        !keys.Query(kNoteType[2], dwNumber, dwValue) || !keys.Query(kNoteType[3], dwNumber, dwRelease) ||
-        !keys.Query(kNoteType[4], dwNumber, dwConfig)) {
+    if (!keys.Query(Rows<kNoteType>[0], dwNumber, dwNoteID) || !keys.Query(Rows<kNoteType>[1], dwNumber, strCurrency) ||
+        !keys.Query(Rows<kNoteType>[2], dwNumber, dwValue) || !keys.Query(Rows<kNoteType>[3], dwNumber, dwRelease) ||
+        !keys.Query(kNoteTypeConfig, dwNumber, dwConfig)) {
         return false;
     }
     const std::string currency = WideToNarrow(strCurrency.View());
@@ -485,19 +489,54 @@ bool ReadNoteType(const NoteTypeKeys& keys, DWORD dwNumber, _wfs_cim_note_type& 
     return true;
 }
 
+// What is known under SavePolicy::OwnChanges of whether a note type is accepted, by its note ID.
+LoadedContent ConfigOf(const _wfs_cim_note_type& type)
+{
+    SettingContent content;
+    content.number = static_cast<DWORD>(type.bConfigured);
+    return {content, content};
+}
+
+void RememberNoteTypes(const C& c, CLog* log)
+{
+    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+        for (const auto& type : c.m_arNoteType) {
+            RememberLoaded(c, kNoteTypeConfig, type.usNoteID, ConfigOf(type), log);
+        }
+    }
+}
+
+// The note types that Save writes.
+C::NoteTypes SavedNoteTypes(const C& c)
+{
+    if (GetSavePolicy() == SavePolicy::All) {
+        return c.m_arNoteType;
+    }
+    C::NoteTypes changed;
+    for (auto type : c.m_arNoteType) {
+        const auto* loaded = FindLoaded(c, kNoteTypeConfig, type.usNoteID);
+        if (loaded == nullptr || loaded->held != ConfigOf(type).held) {
+            changed.Add(type);
+        }
+    }
+    return changed;
+}
+
 } // namespace
 
 const Table& CCRMRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CCRMRegInfo", &CRegInfo::Settings, L"CRM",  kSettings,
-                                  kFirstOrder,    kOperations,         nullptr, false};
-    return kTable;
+    static const Table table{L"CCRMRegInfo", &CRegInfo::Settings, L"CRM",  Rows<kSettings>,
+                             kFirstOrder,    kOperations,         nullptr, false};
+    return table;
 }
 
 CCRMRegInfo::CCRMRegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(strName, bPhysicalName)
 {
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
 }
+
+CCRMRegInfo::~CCRMRegInfo() = default;
 
 bool CCRMRegInfo::Load(CLog* pLog)
 {
@@ -510,7 +549,7 @@ void CCRMRegInfo::Save()
 {
     Saving saving(*this);
     saving.Write(Settings());
-    ConfigureNoteTypes(m_arNoteType);
+    ConfigureNoteTypes(SavedNoteTypes(*this));
     KeyHandle key;
     if (!OpenSNRData(*this, key)) {
         return;
@@ -519,7 +558,8 @@ void CCRMRegInfo::Save()
     m_sBillFSNRegInfo.Save(key.Get());
     m_sBillBLRegInfo.Save(key.Get());
     m_sBillFAIRegInfo.Save(key.Get());
-    saving.Write(std::span(kLastOrder).first(kLastOrder.size() - (m_dwEnableRandSpecMix != 0 ? 0 : 1)));
+    const auto last = kLastOrder();
+    saving.Write(last.first(last.size() - (m_dwEnableRandSpecMix != 0 ? 0 : 1)));
 }
 
 LONG CCRMRegInfo::GetNoteIDArray(CArray<WORD, WORD>& ids) const
@@ -533,7 +573,7 @@ LONG CCRMRegInfo::GetNoteIDArray(CArray<WORD, WORD>& ids) const
     }
     for (DWORD i = 0; i < dwCount; ++i) {
         DWORD dwNoteID = 0;
-        if (!keys.Query(kNoteType[0], i + 1, dwNoteID)) {
+        if (!keys.Query(Rows<kNoteType>[0], i + 1, dwNoteID)) {
             return WFS_ERR_INTERNAL_ERROR;
         }
         ids.Add(LOWORD(dwNoteID));
@@ -595,14 +635,20 @@ LONG CCRMRegInfo::ConfigureNoteTypes(const NoteTypes& types)
     }
     for (DWORD i = 0; i < dwCount; ++i) {
         DWORD dwNoteID = 0;
-        if (!keys.Query(kNoteType[0], i + 1, dwNoteID)) {
+        if (!keys.Query(Rows<kNoteType>[0], i + 1, dwNoteID)) {
             return WFS_ERR_INTERNAL_ERROR;
         }
         const auto type = std::find_if(types.begin(), types.end(),
                                        [&](const _wfs_cim_note_type& each) { return each.usNoteID == dwNoteID; });
         if (type != types.end()) {
-            keys.Set(kNoteType[4], i + 1, static_cast<DWORD>(type->bConfigured));
+            keys.Set(kNoteTypeConfig, i + 1, static_cast<DWORD>(type->bConfigured));
+            if (GetSavePolicy() == SavePolicy::OwnChanges) {
+                RememberWritten(*this, kNoteTypeConfig, type->usNoteID, ConfigOf(*type));
+            }
         }
+    }
+    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+        scope->AtEnd([this](bool bCommitted) { SettleWritten(*this, bCommitted); });
     }
     // The member shows what the registry holds, also when it could not be written.
     const bool bWritten = scope.Commit();

@@ -23,6 +23,7 @@ class WQSPCFG_API CCRMRegInfo : public CRegInfo
     using NoteTypes = CArray<_wfs_cim_note_type, _wfs_cim_note_type&>;
 
     CCRMRegInfo(const CString& strName, bool bPhysicalName);
+    ~CCRMRegInfo() override;
     // False when the note types cannot be read or the device key has no subkey SNRData (serial numbers). Load ends
     // there, and members that it would read later keep their values.
     bool Load(CLog* pLog) override;

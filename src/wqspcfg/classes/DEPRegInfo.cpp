@@ -6,10 +6,12 @@ using namespace wqspcfg;
 
 const Table& CDEPRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CDEPRegInfo", &CRegInfo::Settings, L"DEP", {}};
-    return kTable;
+    static const Table table{L"CDEPRegInfo", &CRegInfo::Settings, L"DEP", {}};
+    return table;
 }
 
 CDEPRegInfo::CDEPRegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(strName, bPhysicalName) {}
+
+CDEPRegInfo::~CDEPRegInfo() = default;
 
 WQSPCFG_CATALOGUE_ENTRY(CDEPRegInfo)

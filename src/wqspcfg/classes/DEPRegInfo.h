@@ -8,6 +8,7 @@ class WQSPCFG_API CDEPRegInfo : public CRegInfo
 {
   public:
     CDEPRegInfo(const CString& strName, bool bPhysicalName);
+    ~CDEPRegInfo() override;
 
     static const wqspcfg::Table& Settings() noexcept;
 };

@@ -181,7 +181,7 @@ constexpr Setting kSettings[] = {
      L"a read command sends the card-inserted event also when a card is already in the reader: 0 no; nonzero yes",
      Saved},
     {key::Control, L"HaveRCM", &C::m_dwHaveRCM, 0, L"card return module: 0 none; 1 present", Saved, OneOf},
-    When([](const C& c) { return c.m_dwHaveRCM != 0; }, kCardReturnModule),
+    When([](const C& c) { return c.m_dwHaveRCM != 0; }, Rows<kCardReturnModule>),
     {key::Control, L"IsChipIODataLenDivideTwo", &C::m_dwIsChipIODataLenDivideTwo, 0,
      L"the length of the data sent with chip I/O is halved: 0 no; nonzero yes", Saved},
     {key::Control, L"WaitCardInsertInterval", &C::m_dwWaitCardInsertInterval, 300,
@@ -189,7 +189,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"OptmPolicy", &C::m_dwOptmPolicy, 0,
      L"optimisation: 0 none; 1 optimise; 2 on the condition of the card throat; 3 on the condition of the card gate",
      OneOf},
-    When([](const C& c) { return c.m_dwOptmPolicy != 0; }, kOptimisation),
+    When([](const C& c) { return c.m_dwOptmPolicy != 0; }, Rows<kOptimisation>),
     {key::Control, L"SendMREOnlyIfWaitTaken", &C::m_bSendMREOnlyIfWaitTaken, 0,
      L"the media-removed event is sent only while waiting for the card to be taken (after reset or eject): 0 no; "
      L"nonzero yes", Saved},
@@ -223,7 +223,7 @@ constexpr const wchar_t* kSaved[] = {
     L"SendMREOnlyIfWaitTaken", L"IsAddExtraMemWhenSavePic", L"CancelReadRawDataWhenNewReq",
     L"FastUpdateStatuWhenContactlessPresent"};
 // clang-format on
-constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
+constexpr auto kSaveOrder = SaveOrder<kSettings, kSaved>;
 
 } // namespace
 

@@ -10,6 +10,7 @@ class WQSPCFG_API CIDCRegInfo : public CRegInfo
 {
   public:
     CIDCRegInfo(const CString& strName, bool bPhysicalName);
+    ~CIDCRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

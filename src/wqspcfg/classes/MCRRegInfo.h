@@ -8,6 +8,7 @@ class WQSPCFG_API CMCRRegInfo : public CRegInfo
 {
   public:
     CMCRRegInfo(const CString& strName, bool bPhysicalName);
+    ~CMCRRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

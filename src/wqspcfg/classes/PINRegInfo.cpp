@@ -148,7 +148,7 @@ constexpr const wchar_t* kSaved[] = {
     L"PaddingCheck", L"CheckActiveKeyNone", L"KeyPress", L"BuffEnter", L"BankID", L"CryptDataKeyUsage",
     L"UseBackspaceAsPCInGetPin", L"ImportExAsSM", L"AllowNonCryptKey", L"ForceUseSM", L"UseProtectKey"};
 // clang-format on
-constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
+constexpr auto kSaveOrder = SaveOrder<kSettings, kSaved>;
 
 } // namespace
 

@@ -12,6 +12,7 @@ class WQSPCFG_API CPINRegInfo : public CRegInfo
 {
   public:
     CPINRegInfo(const CString& strName, bool bPhysicalName);
+    ~CPINRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

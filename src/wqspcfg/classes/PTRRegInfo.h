@@ -10,6 +10,7 @@ class WQSPCFG_API CPTRRegInfo : public CRegInfo
 {
   public:
     CPTRRegInfo(const CString& strName, bool bPhysicalName);
+    ~CPTRRegInfo() override;
     bool Load(CLog* pLog) override;
     // An empty form or media folder or extension is first replaced, in the member too, by that of a new terminal.
     void Save() override;

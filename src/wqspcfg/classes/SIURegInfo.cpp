@@ -39,19 +39,19 @@ constexpr auto kSplitWindowNames = Normalize([](C& c, CString& strNames, bool) {
 constexpr Setting kCapabilities[] = {
     {key::Capabilities, L"WFS_SIU_SENSORS", DwordValue, 0,
      L"the sensors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(siu::kPortRows<siu::kSensors>),
+    Group(Rows<siu::kPortRows<siu::kSensors>>),
     {key::Capabilities, L"WFS_SIU_DOORS", DwordValue, 0,
      L"the doors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(siu::kPortRows<siu::kDoors>),
+    Group(Rows<siu::kPortRows<siu::kDoors>>),
     {key::Capabilities, L"WFS_SIU_INDICATORS", DwordValue, 0,
      L"the indicators are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(siu::kPortRows<siu::kIndicators>),
+    Group(Rows<siu::kPortRows<siu::kIndicators>>),
     {key::Capabilities, L"WFS_SIU_AUXILIARIES", DwordValue, 0,
      L"the auxiliaries are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(siu::kPortRows<siu::kAuxiliaries>),
+    Group(Rows<siu::kPortRows<siu::kAuxiliaries>>),
     {key::Capabilities, L"WFS_SIU_GUIDLIGHTS", DwordValue, 0,
     L"the guidance lights are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(siu::kPortRows<siu::kGuidLights>),
+    Group(Rows<siu::kPortRows<siu::kGuidLights>>),
 };
 constexpr Setting kEvents[] = {
     {kKeyboardMapping, L"%s", Map<&C::m_mapKeyboardMapping>, L"",
@@ -157,32 +157,54 @@ class CapabilityReader
     DWORD m_dwHolder = 0;
 };
 
-// Writes the gate and what is saved of the ports.
-template <std::size_t N>
-void WriteCapabilities(const CSIURegInfo& config, const siu::PortArray& array, const WORD (&ports)[N])
+// Calls `gate(row, value)`, then `state(row, port, value)` for each saved state in the order of saving, with what Save
+// writes. The port is the iteration of the row.
+template <std::size_t N, class Gate, class State>
+void ForEachSaved(const siu::PortArray& array, const WORD (&ports)[N], Gate gate, State state)
 {
-    WriteScope scope;
-    const std::wstring device = kDeviceRoot + config.GetExeDllMother(1, nullptr).Std();
-    const auto write = [&](Session::Key key, LPCWSTR lpszValue, bool bSet) {
-        scope->Set(key, lpszValue, DwordBytes(bSet ? 1 : 0).View());
-    };
-    write(scope->Open(device + array.gateKey), array.gate,
-          std::any_of(array.ports.begin(), array.ports.end(),
-                      [&](const siu::Port& port) { return port.IsSaved() && ports[port.index] != 0; }));
-    for (const auto& port : array.ports) {
-        if (!port.IsSaved()) {
-            continue;
-        }
-        const auto key = scope->Open(device + L"\\CAPABILITIES\\" + array.name + L'\\' + port.name);
-        for (unsigned place = 1; place <= port.form.states.size(); ++place) {
-            for (const auto& state : port.form.states) {
-                if (state.written == place) {
-                    const bool bBit = (ports[port.index] & state.bit) != 0;
-                    write(key, state.name, state.name == siu::kNotAvailable ? !bBit : bBit);
+    const auto gates = Rows<kCapabilities>.All();
+    gate(*std::find_if(gates.begin(), gates.end(), [&](const Setting& row) { return row.name == array.gate; }),
+         std::any_of(array.ports.begin(), array.ports.end(),
+                     [&](const siu::Port& port) { return port.IsSaved() && ports[port.index] != 0; }));
+    for (unsigned i = 0; i < array.ports.size(); ++i) {
+        const auto& port = array.ports[i];
+        const auto& states = port.form.states;
+        for (unsigned place = 1; port.IsSaved() && place <= states.size(); ++place) {
+            for (std::size_t each = 0; each < states.size(); ++each) {
+                if (states[each].written == place) {
+                    const bool bBit = (ports[port.index] & states[each].bit) != 0;
+                    state(port.form.rows[each], Iteration{port.name, i, i},
+                          states[each].name == siu::kNotAvailable ? !bBit : bBit);
                 }
             }
         }
     }
+}
+
+template <std::size_t N>
+void RememberCapabilities(Loading& loading, const siu::PortArray& array, const WORD (&ports)[N])
+{
+    const auto remember = [&](const Setting& row, const Iteration& port, bool bSet) {
+        loading.Remember(row, port, bSet ? 1 : 0);
+    };
+    ForEachSaved(
+        array, ports, [&](const Setting& row, bool bSet) { remember(row, {}, bSet); }, remember);
+}
+
+// Writes the gate and what is saved of the ports.
+template <std::size_t N>
+void WriteCapabilities(CSIURegInfo& config, const siu::PortArray& array, const WORD (&ports)[N])
+{
+    WriteScope scope;
+    Saving saving(config);
+    const std::wstring device = kDeviceRoot + config.GetExeDllMother(1, nullptr).Std();
+    const auto gate = [&](const Setting& row, bool bSet) {
+        saving.Put(scope->Open(device + array.gateKey), row, {}, bSet ? 1 : 0);
+    };
+    const auto state = [&](const Setting& row, const Iteration& port, bool bSet) {
+        saving.Put(scope->Open(device + L"\\CAPABILITIES\\" + array.name + L'\\' + port.name), row, port, bSet ? 1 : 0);
+    };
+    ForEachSaved(array, ports, gate, state);
 }
 
 // ---- ports whose events are enabled automatically ----
@@ -203,17 +225,17 @@ void ForEachFlags(Config& config, F visit)
 const Table& CSIURegInfo::Settings() noexcept
 {
     static constexpr Setting kSettings[] = {
-        Group(kCapabilities),
-        Group(kEvents),
+        Group(Rows<kCapabilities>),
+        Group(Rows<kEvents>),
         Step([](C& c, Loading& loading) { c.LoadEnableStatus(loading.Log()); }),
-        Group(kControls),
+        Group(Rows<kControls>),
     };
     static constexpr const wchar_t* kSaved[] = {kKeyboardMapping.subkey, L"CanpostKeyEvent",
                                                 L"ThinkOfDevStatusWhenEnableEvents", kAutoEnable.subkey,
                                                 L"SetStatusNotAvailableWhenSetFail"};
-    static constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
-    static constexpr Table kTable{L"CSIURegInfo", &CRegInfo::Settings, L"SIU", kSettings, kSaveOrder};
-    return kTable;
+    static constexpr auto kSaveOrder = SaveOrder<kSettings, kSaved>;
+    static const Table table{L"CSIURegInfo", &CRegInfo::Settings, L"SIU", Rows<kSettings>, kSaveOrder};
+    return table;
 }
 
 CSIURegInfo::CSIURegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(strName, bPhysicalName)
@@ -224,6 +246,8 @@ CSIURegInfo::CSIURegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(
     }
 }
 
+CSIURegInfo::~CSIURegInfo() = default;
+
 bool CSIURegInfo::Load(CLog* pLog)
 {
     Loading loading(*this, pLog);
@@ -233,6 +257,13 @@ bool CSIURegInfo::Load(CLog* pLog)
     GetIndicatorsCap(&m_stSiuCaps, pLog);
     GetAuxiliariesCap(&m_stSiuCaps, pLog);
     GetGuidlightsCap(&m_stSiuCaps, pLog);
+    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+        RememberCapabilities(loading, siu::kSensors, m_stSiuCaps.fwSensors);
+        RememberCapabilities(loading, siu::kDoors, m_stSiuCaps.fwDoors);
+        RememberCapabilities(loading, siu::kIndicators, m_stSiuCaps.fwIndicators);
+        RememberCapabilities(loading, siu::kAuxiliaries, m_stSiuCaps.fwAuxiliaries);
+        RememberCapabilities(loading, siu::kGuidLights, m_stSiuCaps.fwGuidLights);
+    }
     return loading.Read(Settings()) && bResult;
 }
 

@@ -20,6 +20,7 @@ class WQSPCFG_API CSIURegInfo : public CRegInfo
 {
   public:
     CSIURegInfo(const CString& strName, bool bPhysicalName);
+    ~CSIURegInfo() override;
     // False when the keyboard agent's key mapping or its CanpostKeyEvent is missing; everything else is loaded all the
     // same.
     bool Load(CLog* pLog) override;

@@ -81,7 +81,7 @@ constexpr Setting kSettings[] = {
 
 constexpr const wchar_t* kSaved[] = {L"FormsDirectory",      L"FormsExtension", L"IsCKOnlyAllowed",
                                      L"ClearWhenUserCancel", L"BasePoint",      kMapping.subkey};
-constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
+constexpr auto kSaveOrder = SaveOrder<kSettings, kSaved>;
 
 } // namespace
 

@@ -8,6 +8,7 @@ class WQSPCFG_API CTTURegInfo : public CRegInfo
 {
   public:
     CTTURegInfo(const CString& strName, bool bPhysicalName);
+    ~CTTURegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

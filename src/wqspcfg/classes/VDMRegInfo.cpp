@@ -41,14 +41,16 @@ constexpr Setting kSettings[] = {
 
 const Table& CVDMRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CVDMRegInfo", &CRegInfo::Settings, L"VDM", kSettings};
-    return kTable;
+    static const Table table{L"CVDMRegInfo", &CRegInfo::Settings, L"VDM", Rows<kSettings>};
+    return table;
 }
 
 CVDMRegInfo::CVDMRegInfo(const CString& strName, bool bPhysicalName) : CRegInfo(strName, bPhysicalName)
 {
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
 }
+
+CVDMRegInfo::~CVDMRegInfo() = default;
 
 bool CVDMRegInfo::Load(CLog* pLog)
 {

@@ -9,6 +9,7 @@ class WQSPCFG_API CVDMRegInfo : public CRegInfo
 {
   public:
     CVDMRegInfo(const CString& strName, bool bPhysicalName);
+    ~CVDMRegInfo() override;
     bool Load(CLog* pLog) override;
 
     static const wqspcfg::Table& Settings() noexcept;

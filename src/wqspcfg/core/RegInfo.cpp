@@ -88,8 +88,9 @@ CString CRegInfo::m_strCapVendorDescKeyValue;
 
 const wqspcfg::Table& CRegInfo::Settings() noexcept
 {
-    static constexpr wqspcfg::Table kTable{L"CRegInfo", nullptr, L"", shared::kSettings, {}, shared::kOperations};
-    return kTable;
+    static const wqspcfg::Table table{L"CRegInfo",        nullptr, L"", wqspcfg::Rows<shared::kSettings>, {},
+                                      shared::kOperations};
+    return table;
 }
 
 CRegInfo::CRegInfo(const CString& strName, bool bPhysicalName)
@@ -143,7 +144,7 @@ bool CRegInfo::Load(CLog* pLog)
     wqspcfg::Loading loading(*this, pLog);
     m_lpsPolicyGroup->DevBusy = 1;
     const auto& table = Settings();
-    loading.Read(table, shared::kPolicy);
+    loading.Read(table, wqspcfg::Rows<shared::kPolicy>);
 
     GetSpSettingAppID();
     GetProductVersion();
@@ -178,7 +179,7 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
 {
     const auto& table = Settings();
 
-    loading.Read(table, shared::kSetup);
+    loading.Read(table, wqspcfg::Rows<shared::kSetup>);
     const auto version = [&](const wqspcfg::Setting& row, const wqspcfg::Setting& rowOfBuild) {
         CString strVersion;
         CString strBuild;
@@ -188,19 +189,20 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
     };
     version(shared::kNewVersion, shared::kNewBuild);
     version(shared::kOldVersion, shared::kOldBuild);
-    loading.Read(table, shared::kSetupRest);
+    loading.Read(table, wqspcfg::Rows<shared::kSetupRest>);
 
-    for (const auto* row : shared::kPolicyLines) {
-        if (row == &shared::kDevError) {
+    for (const auto& place : shared::kPolicyLines) {
+        const auto& row = place.In(wqspcfg::Rows<shared::kPolicy>);
+        if (&row == &shared::DevError()) {
             loading.Print(shared::kDevErrorLow, LOBYTE(m_lpsPolicyGroup->DevError));
             loading.Print(shared::kDevErrorHigh, HIBYTE(m_lpsPolicyGroup->DevError));
         } else {
-            loading.PrintHeld(*row);
+            loading.PrintHeld(row);
         }
     }
     const CString strClass = GetClassNameW(nullptr);
     if (strClass.CompareNoCase(L"CDM") == 0 || strClass.CompareNoCase(L"CIM") == 0) {
-        loading.PrintHeld(shared::kMediaDetectLine);
+        loading.PrintHeld(shared::MediaDetectLine());
     }
 
     loading.Print(shared::kFirstErrorInterval, m_dwFirstErrorIntervalTime / 60);
@@ -222,7 +224,7 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
 void CRegInfo::Save()
 {
     wqspcfg::Saving saving(*this);
-    saving.Write(std::span(&shared::kIsDeleteSensetiveInfo, 1));
+    saving.Write(shared::kIsDeleteSensetiveInfo);
 }
 
 bool CRegInfo::Show(CDWordArray&, HWND)
@@ -476,13 +478,13 @@ DWORD CRegInfo::GetCheckErrorRuler(const CString& strRequest, const CString& str
 void CRegInfo::GetCmdMap()
 {
     wqspcfg::Loading loading(*this, nullptr);
-    loading.Read(Settings(), shared::kCommandMaps);
+    loading.Read(Settings(), wqspcfg::Rows<shared::kCommandMaps>);
 }
 
 DWORD CRegInfo::GetResetLoadCfgPolicy() const
 {
     DWORD dwResetLoadCfg = 0;
-    const bool bFound = QueryValue(dwResetLoadCfg, shared::kResetLoadCfg.name, L"%s%s%s", kServiceRoot,
+    const bool bFound = QueryValue(dwResetLoadCfg, shared::ResetLoadCfg().name, L"%s%s%s", kServiceRoot,
                                    wqspcfg::kCommonKey, shared::kCommonPolicy.subkey);
     const std::lock_guard lock(CacheMutex());
     auto& dwHeld = m_lpsPolicyGroup->ResetLoadCfg;

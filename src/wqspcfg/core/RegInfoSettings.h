@@ -204,22 +204,22 @@ inline constexpr Setting kCapVendorDescKeyValue{
     L"value of that vendor entry"};
 
 inline constexpr OperationSettings kOperations[] = {
-    {L"GetPhysicalName",          L"", {&kProvider, 1}},
-    {L"GetClassNameW",            L"", kClasses},
-    {L"GetType",                  L"", {&kType, 1}},
-    {L"GetDeviceClassName",       L"", {&kClassModule, 1}},
-    {L"GetDllPathName",           L"", {&kDllName, 1}},
-    {L"GetExePathName",           L"", {&kExecutable, 1}},
-    {L"GetVersion",               L"", {&kVersion, 1}},
-    {L"GetProductVersion",        L"", kProductVersion},
-    {L"GetSpSettingAppID",        L"", {&kAppID, 1}},
-    {L"GetOnlyOpenReSetTimeout",  L"", {&kOnlyOpenAppend, 1}},
-    {L"GetReSetTimeout",          L"", {&kReSetTimeout, 1}},
-    {L"GetIdleTimeInterval",      L"", {&kIdleInterval, 1}},
-    {L"GetCmdMap",                L"", kCommandMaps},
-    {L"GetErrorCodeDescKey",      L"", {&kErrorCodeDescKey, 1}},
-    {L"GetCapVendorDescKey",      L"", {&kCapVendorDescKey, 1}},
-    {L"GetCapVendorDescKeyValue", L"", {&kCapVendorDescKeyValue, 1}},
+    {L"GetPhysicalName",          L"", Rows<kProvider>},
+    {L"GetClassNameW",            L"", Rows<kClasses>},
+    {L"GetType",                  L"", Rows<kType>},
+    {L"GetDeviceClassName",       L"", Rows<kClassModule>},
+    {L"GetDllPathName",           L"", Rows<kDllName>},
+    {L"GetExePathName",           L"", Rows<kExecutable>},
+    {L"GetVersion",               L"", Rows<kVersion>},
+    {L"GetProductVersion",        L"", Rows<kProductVersion>},
+    {L"GetSpSettingAppID",        L"", Rows<kAppID>},
+    {L"GetOnlyOpenReSetTimeout",  L"", Rows<kOnlyOpenAppend>},
+    {L"GetReSetTimeout",          L"", Rows<kReSetTimeout>},
+    {L"GetIdleTimeInterval",      L"", Rows<kIdleInterval>},
+    {L"GetCmdMap",                L"", Rows<kCommandMaps>},
+    {L"GetErrorCodeDescKey",      L"", Rows<kErrorCodeDescKey>},
+    {L"GetCapVendorDescKey",      L"", Rows<kCapVendorDescKey>},
+    {L"GetCapVendorDescKeyValue", L"", Rows<kCapVendorDescKeyValue>},
 };
 // clang-format on
 
@@ -252,12 +252,13 @@ inline constexpr const wchar_t* kPolicyLineNames[] = {
     L"RecordDeferReqCount",
 };
 inline constexpr auto kPolicyLines = [] {
-    std::array<const Setting*, std::size(kPolicyLineNames)> lines{};
+    std::array<Place, std::size(kPolicyLineNames)> lines{};
     for (std::size_t i = 0; i < lines.size(); ++i) {
         bool found = false;
-        for (const auto& row : kPolicy) {
-            if ((row.label != nullptr ? std::wstring_view(row.label) : row.name) == kPolicyLineNames[i]) {
-                lines[i] = &row;
+        for (std::size_t row = 0; row < std::size(kPolicy); ++row) {
+            const auto& policy = kPolicy[row];
+            if ((policy.label != nullptr ? std::wstring_view(policy.label) : policy.name) == kPolicyLineNames[i]) {
+                lines[i] = Place{}.Of(row);
                 found = true;
             }
         }
@@ -267,23 +268,32 @@ inline constexpr auto kPolicyLines = [] {
     }
     return lines;
 }();
-inline constexpr const Setting& kDevError = RowOf(kPolicy, L"DevError");
-inline constexpr const Setting& kResetLoadCfg = RowOf(kPolicy, L"ResetLoadCfg");
-inline constexpr const Setting& kMediaDetectLine = RowOf(kPolicy, L"Buff2OfCDMMediaDetectEvent");
+inline const Setting& DevError()
+{
+    return RowOf<kPolicy>(L"DevError");
+}
+inline const Setting& ResetLoadCfg()
+{
+    return RowOf<kPolicy>(L"ResetLoadCfg");
+}
+inline const Setting& MediaDetectLine()
+{
+    return RowOf<kPolicy>(L"Buff2OfCDMMediaDetectEvent");
+}
 
 // Everything in one table, for the reference.
 inline constexpr Setting kSettings[] = {
-    Group(kPolicy),
+    Group(Rows<kPolicy>),
     kFirstErrorInterval,
     kServer,
     kOtherSideServerName,
     kExtraSepCharacter,
-    Group(kSetup),
+    Group(Rows<kSetup>),
     kNewVersion,
     kNewBuild,
     kOldVersion,
     kOldBuild,
-    Group(kSetupRest),
+    Group(Rows<kSetupRest>),
     kCheckLevel,
     kCheckRules,
     kOpenCompleteTimeout,

@@ -14,8 +14,7 @@ enum class SavePolicy : std::uint8_t
     // A value that the object changed since it loaded or constructed it, and a value of which the registry has none of
     // the right type. What somebody else changed meanwhile stays. Where both changed one, the object's is written, and
     // an error line says so in the log that Load was given, which must then live as long as the object.
-    // What code of a class writes in its own form is written as under All: the capabilities of the SIU class, the parts
-    // of the serial-number records' names, and note types.
+    // The parts of the serial-number records' names are one list each, which is written as under All.
     OwnChanges,
 };
 

@@ -25,7 +25,7 @@ struct State
 struct Form
 {
     std::span<const State> states;
-    std::span<const Setting> rows;
+    RowList rows;
 };
 
 struct Port
@@ -135,7 +135,7 @@ inline constexpr auto kStateRows = [] {
     return rows;
 }();
 template <const Key& PortKey, const auto& States>
-inline constexpr Form kForm{States, kStateRows<PortKey, States>};
+inline constexpr Form kForm{States, Rows<kStateRows<PortKey, States>>};
 
 inline constexpr Form kSavedSensor = kForm<kSensor, kSavedStates>;
 inline constexpr Form kBoltedDoor = kForm<kDoor, kBoltedDoorStates>;

@@ -132,7 +132,7 @@ inline constexpr Setting kTextTerminalRows[] = {
     {detail::kScreen, L"Monitor", Of<C, &TextTerminal::m_dwMonitor>, 1,
      L"number of the monitor that shows the terminal, 1 to 4; any other number means 1", Saved,
      Range(1, TextTerminal::kMonitors), detail::kFirstUnlessThere<C>},
-    Repeat(1, TextTerminal::kMonitors, detail::kMonitorRows<C>),
+    Repeat(1, TextTerminal::kMonitors, Rows<detail::kMonitorRows<C>>),
     {detail::kScreen, L"Resolutions", Of<C, &TextTerminal::m_strResolutions>, TextTerminal::kDefaultResolution,
      L"the sizes of the screen between semicolons, each as columns x rows in characters; the first is used "
      L"at the start", Saved},
@@ -151,7 +151,7 @@ inline constexpr Setting kTextTerminalRows[] = {
     {detail::kLeds, L"LedCount", Of<C, &TextTerminal::m_dwLedCount>, 0,
      L"number of LEDs, 0 to 8; a greater number means 8", Saved, Range(0, TextTerminal::kLeds),
      detail::kAtMostAllLeds<C>},
-    Repeat(1, TextTerminal::kLeds, detail::kLedRows<C>),
+    Repeat(1, TextTerminal::kLeds, Rows<detail::kLedRows<C>>),
     {detail::kWindow, L"Caption", Of<C, &TextTerminal::m_strCaption>, L"Text terminal",
      L"caption of the window", Saved},
     {detail::kWindow, L"WindowStart", Of<C, &TextTerminal::m_dwWindowStart>, 0,

@@ -30,6 +30,7 @@ struct LoadedObject
 {
     CLog* log = nullptr;
     std::map<std::pair<const Setting*, unsigned>, LoadedContent> settings;
+    std::map<std::pair<const Setting*, unsigned>, LoadedContent> written; // not committed yet
 };
 
 // Beside the objects, so that their layout is the same under both policies.
@@ -53,6 +54,16 @@ LoadedObject* FindObject(const CRegKeyEx& object)
     return found != all.objects.end() ? &found->second : nullptr; // elements of the map keep their place
 }
 
+LoadedObject& ObjectOf(const CRegKeyEx& object)
+{
+    if (auto* loaded = FindObject(object)) {
+        return *loaded;
+    }
+    auto& all = Objects();
+    const std::lock_guard lock(all.mutex);
+    return all.objects[&object];
+}
+
 } // namespace
 
 void SetSavePolicy(SavePolicy policy) noexcept
@@ -67,16 +78,29 @@ SavePolicy GetSavePolicy() noexcept
 
 void RememberLoaded(const CRegKeyEx& object, const Setting& row, unsigned index, LoadedContent content, CLog* log)
 {
-    auto* loaded = FindObject(object);
-    if (loaded == nullptr) {
-        auto& all = Objects();
-        const std::lock_guard lock(all.mutex);
-        loaded = &all.objects[&object];
-    }
+    auto& loaded = ObjectOf(object);
     if (log != nullptr) {
-        loaded->log = log;
+        loaded.log = log;
     }
-    loaded->settings[{&row, index}] = std::move(content);
+    loaded.settings[{&row, index}] = std::move(content);
+}
+
+void RememberWritten(const CRegKeyEx& object, const Setting& row, unsigned index, LoadedContent content)
+{
+    ObjectOf(object).written[{&row, index}] = std::move(content);
+}
+
+void SettleWritten(const CRegKeyEx& object, bool committed)
+{
+    auto* loaded = FindObject(object); // null: the object is gone
+    if (loaded == nullptr) {
+        return;
+    }
+    auto written = std::exchange(loaded->written, {});
+    if (committed) {
+        written.merge(loaded->settings); // what is written counts
+        loaded->settings = std::move(written);
+    }
 }
 
 const LoadedContent* FindLoaded(const CRegKeyEx& object, const Setting& row, unsigned index)
@@ -85,8 +109,12 @@ const LoadedContent* FindLoaded(const CRegKeyEx& object, const Setting& row, uns
     if (loaded == nullptr) {
         return nullptr;
     }
-    const auto found = loaded->settings.find({&row, index});
-    return found != loaded->settings.end() ? &found->second : nullptr;
+    for (const auto* settings : {&loaded->written, &loaded->settings}) {
+        if (const auto found = settings->find({&row, index}); found != settings->end()) {
+            return &found->second;
+        }
+    }
+    return nullptr;
 }
 
 CLog* LogOfLoad(const CRegKeyEx& object)

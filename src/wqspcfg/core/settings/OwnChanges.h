@@ -28,6 +28,9 @@ struct LoadedContent
 
 // All are for the object of one thread at a time, and may be called for different objects from several threads.
 void RememberLoaded(const CRegKeyEx& object, const Setting& row, unsigned index, LoadedContent content, CLog* log);
+// What the object is to count as loaded once it is committed: what it has written. Settled when the write ends.
+void RememberWritten(const CRegKeyEx& object, const Setting& row, unsigned index, LoadedContent content);
+void SettleWritten(const CRegKeyEx& object, bool committed);
 // Null where the object has not loaded this setting.
 const LoadedContent* FindLoaded(const CRegKeyEx& object, const Setting& row, unsigned index);
 // The log of the object's last Load; null where there is none.

@@ -15,9 +15,14 @@
 #include "wqspcfg/core/settings/Options.h"
 #include "wqspcfg/platform/framework/FrameworkTypes.h"
 
+#include <array>
+#include <span>
 #include <string_view>
+#include <utility>
 
 namespace wqspcfg {
+
+struct Setting;
 
 enum class Kind : std::uint8_t
 {
@@ -101,6 +106,26 @@ inline constexpr auto ElementOf = [](C& object, unsigned iteration) -> auto&
     return Element<Array, Field...>(object, iteration);
 };
 
+// The rows of a table: Rows<kSettings>. What runs uses a copy of the table that is made when it is first asked for. As
+// data of the library all tables would hold some 16,000 addresses, which every process would adjust at its start and
+// keep in memory of its own, for one class that it uses.
+class RowList
+{
+  public:
+    using Get = std::span<const Setting> (*)();
+
+    constexpr RowList() = default;
+    constexpr explicit RowList(Get get) : m_get(get) {}
+    constexpr std::span<const Setting> All() const;
+    constexpr Get Source() const { return m_get; }
+    constexpr auto begin() const;
+    constexpr auto end() const;
+    constexpr const Setting& operator[](std::size_t index) const;
+
+  private:
+    Get m_get = nullptr;
+};
+
 struct Setting
 {
     Kind kind = Kind::Value;
@@ -154,7 +179,7 @@ struct Setting
 
     // A group or a repetition: its rows, and the names or numbers of its iterations. A step: the rows that it loads,
     // of a record where `part` finds one.
-    std::span<const Setting> rows;
+    RowList rows;
     const wchar_t* const* iterationNames = nullptr;
     unsigned firstIteration = 0;
     unsigned iterations = 0;
@@ -317,6 +342,112 @@ struct Setting
     }
 };
 
+constexpr std::span<const Setting> RowList::All() const
+{
+    return m_get != nullptr ? m_get() : std::span<const Setting>();
+}
+
+constexpr auto RowList::begin() const
+{
+    return All().begin();
+}
+
+constexpr auto RowList::end() const
+{
+    return All().end();
+}
+
+constexpr const Setting& RowList::operator[](std::size_t index) const
+{
+    return m_get()[index]; // there is no row in a list without a table
+}
+
+namespace detail {
+
+// Number by number and address by address: the compiler sets each in code, and no image of the row remains.
+[[gnu::always_inline]] inline void Copy(const Setting& from, Setting& to)
+{
+    to.kind = from.kind;
+    to.type = from.type;
+    to.fallbackRoot = from.fallbackRoot;
+    to.reference = from.reference;
+    to.bound = from.bound;
+    to.saved = from.saved;
+    to.savedAsSwitch = from.savedAsSwitch;
+    to.hasConstructed = from.hasConstructed;
+    to.hasRange = from.hasRange;
+    to.flags = from.flags;
+    to.requiredLine = from.requiredLine;
+    to.key.root = from.key.root;
+    to.key.subkey = from.key.subkey;
+    to.name = {from.name.data(), from.name.size()};
+    to.meaning = {from.meaning.data(), from.meaning.size()};
+    to.defaultValue.number = from.defaultValue.number;
+    to.defaultValue.text = from.defaultValue.text;
+    to.constructed.number = from.constructed.number;
+    to.constructed.text = from.constructed.text;
+    to.member.dword = from.member.dword; // all members of a class are told alike
+    to.locate = from.locate;
+    to.conversion = from.conversion;
+    to.line = from.line;
+    to.label = from.label;
+    to.savedName = from.savedName;
+    to.emptySavedAs = from.emptySavedAs;
+    to.fallbackSubkey = from.fallbackSubkey;
+    to.fallbackName = from.fallbackName;
+    to.perIteration = from.perIteration;
+    to.low = from.low;
+    to.high = from.high;
+    to.normalize = from.normalize;
+    to.normalizeText = from.normalizeText;
+    to.logAs = from.logAs;
+    to.step = from.step;
+    to.condition = from.condition;
+    to.savedIf = from.savedIf;
+    to.clear = from.clear;
+    to.query = from.query;
+    to.entries = {from.entries.data(), from.entries.size()};
+    to.rows = RowList(from.rows.Source());
+    to.iterationNames = from.iterationNames;
+    to.firstIteration = from.firstIteration;
+    to.iterations = from.iterations;
+    to.part = from.part;
+}
+
+template <const auto& Declared, std::size_t... Index>
+std::span<const Setting> Made(std::index_sequence<Index...>)
+{
+    // Bytes, not rows: those would be constructed first, and the compiler would keep an image of what says nothing.
+    struct Copies
+    {
+        Copies() { (Copy(Declared[Index], Rows()[Index]), ...); }
+        Setting* Rows() { return reinterpret_cast<Setting*>(bytes.data()); }
+        const Setting* Rows() const { return reinterpret_cast<const Setting*>(bytes.data()); }
+        alignas(Setting) std::array<std::byte, sizeof...(Index) * sizeof(Setting)> bytes;
+    };
+    static const Copies copies;
+    return {copies.Rows(), sizeof...(Index)};
+}
+
+// At compile time the table as it is declared.
+template <const auto& Declared>
+constexpr std::span<const Setting> RowsOf()
+{
+    if constexpr (std::is_same_v<std::remove_cvref_t<decltype(Declared)>, Setting>) {
+        return {&Declared, 1};
+    } else if (std::is_constant_evaluated() || std::empty(Declared)) {
+        return Declared;
+    } else {
+        return Made<Declared>(std::make_index_sequence<std::size(Declared)>());
+    }
+}
+
+} // namespace detail
+
+// The rows of the table `Declared`, or the one row.
+template <const auto& Declared>
+inline constexpr RowList Rows{&detail::RowsOf<Declared>};
+
 // A member map, for a row that takes a whole key; its name is L"%s".
 template <auto Member>
 inline constexpr auto Map = [](typename OwnerOfMember<decltype(Member)>::type& object, unsigned) -> auto&
@@ -325,7 +456,7 @@ inline constexpr auto Map = [](typename OwnerOfMember<decltype(Member)>::type& o
 };
 
 // Rows that stand here: a part's, or those that another table has too.
-constexpr Setting Group(std::span<const Setting> rows)
+constexpr Setting Group(RowList rows)
 {
     Setting group;
     group.kind = Kind::Group;
@@ -335,7 +466,7 @@ constexpr Setting Group(std::span<const Setting> rows)
 
 // Rows that are read only when the condition bool(const Owner&) holds at that point. They are saved all the same.
 template <class F>
-constexpr Setting When(F, std::span<const Setting> rows)
+constexpr Setting When(F, RowList rows)
 {
     Setting group = Group(rows);
     group.condition = [](CRegKeyEx& object) -> bool { return F{}(OwnerOf<F>(object)); };
@@ -345,7 +476,7 @@ constexpr Setting When(F, std::span<const Setting> rows)
 // Rows that are read once for each name, in the order of the names: the name fills the conversion that their key, value
 // name or label holds, and accessors get the iteration, counted from 0.
 template <std::size_t Names>
-constexpr Setting Repeat(const wchar_t* const (&names)[Names], std::span<const Setting> rows)
+constexpr Setting Repeat(const wchar_t* const (&names)[Names], RowList rows)
 {
     Setting group;
     group.kind = Kind::Repeat;
@@ -356,7 +487,7 @@ constexpr Setting Repeat(const wchar_t* const (&names)[Names], std::span<const S
 }
 
 // The same for the numbers from `first` to `last`.
-constexpr Setting Repeat(unsigned first, unsigned last, std::span<const Setting> rows)
+constexpr Setting Repeat(unsigned first, unsigned last, RowList rows)
 {
     Setting group;
     group.kind = Kind::Repeat;
@@ -378,7 +509,7 @@ constexpr Setting Step(F)
 
 // The same for code that loads and logs the settings of `rows`, which the reference shows at this place.
 template <class F>
-constexpr Setting Step(F code, std::span<const Setting> rows)
+constexpr Setting Step(F code, RowList rows)
 {
     Setting step = Step(code);
     step.rows = rows;
@@ -387,7 +518,7 @@ constexpr Setting Step(F code, std::span<const Setting> rows)
 
 // The same for the settings of a record, a member that loads and saves itself.
 template <auto Record, class F>
-constexpr Setting Step(F code, std::span<const Setting> rows)
+constexpr Setting Step(F code, RowList rows)
 {
     Setting step = Step(code, rows);
     step.part = [](CRegKeyEx& object) -> CRegKeyEx& {

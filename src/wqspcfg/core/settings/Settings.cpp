@@ -189,7 +189,7 @@ CString HeldText(const Setting& row, CRegKeyEx& object, unsigned iteration)
     return HeldOf<CString>(row, object, iteration);
 }
 
-void Construct(CRegKeyEx& object, std::span<const Setting> rows)
+void Construct(CRegKeyEx& object, RowList rows)
 {
     ForgetLoaded(object); // of an object that lay here before
     Walk(rows, nullptr, EnterAll, [&](const Setting& row, const Iteration* iteration) {
@@ -365,7 +365,7 @@ const CString* Loading::DeviceKeyNameOf(const CRegKeyEx& object) noexcept
     return t_loading != nullptr && &t_loading->m_object == &object ? &t_loading->m_keys.DeviceKeyName() : nullptr;
 }
 
-bool Loading::Read(const Table& table, std::span<const Setting> rows)
+bool Loading::ReadRows(const Table& table, std::span<const Setting> rows)
 {
     m_table = &table;
     const auto enter = [this](const Setting& group) { return group.condition == nullptr || group.condition(m_object); };
@@ -379,10 +379,10 @@ bool Loading::Read(const Table& table, std::span<const Setting> rows)
     return !ended && m_complete;
 }
 
-bool Loading::Read(std::span<const Setting> rows)
+bool Loading::Read(RowList rows)
 {
-    static constexpr Table kRecord{L"", nullptr, nullptr, {}};
-    Read(kRecord, rows);
+    static const Table record{L"", nullptr, nullptr, {}};
+    Read(record, rows);
     return m_record->Exists();
 }
 
@@ -574,6 +574,19 @@ bool Loading::Query(const Setting& row, const Iteration& iteration, CString& val
     return QueryIteration(row, iteration, value);
 }
 
+void Loading::Remember(const Setting& row, const Iteration& iteration, DWORD held)
+{
+    if (m_remembers) {
+        DWORD stored = 0;
+        ValueView view;
+        const bool found =
+            m_scope->Query(m_keys.Open(*m_scope, row.key, &iteration), row.name, view) == Outcome::Found &&
+            ToValue(view, stored);
+        RememberLoaded(m_object, row, iteration.index,
+                       {found ? std::optional(ContentOf(stored)) : std::nullopt, ContentOf(held)}, Log());
+    }
+}
+
 bool Loading::Query(Key key, const CString& strName, DWORD& value)
 {
     ValueView view;
@@ -660,14 +673,14 @@ Saving::Saving(CRegKeyEx& object, const CString& strDeviceKeyName, ExceptionCoun
 
 void Saving::Write(const Table& table)
 {
-    if (table.saveOrder.empty()) {
+    if (table.saveOrder == nullptr) {
         Write(table.rows);
     } else {
-        Write(table.saveOrder);
+        Write(table.saveOrder());
     }
 }
 
-void Saving::Write(std::span<const Setting> rows)
+void Saving::WriteRows(std::span<const Setting> rows)
 {
     Walk(rows, nullptr, EnterAll, [this](const Setting& row, const Iteration* iteration) {
         if (IsWritten(row)) {
@@ -680,7 +693,7 @@ void Saving::Write(std::span<const Setting> rows)
 void Saving::Write(std::span<const Setting* const> rows)
 {
     for (const auto* row : rows) {
-        Write(std::span(row, 1));
+        Write(*row);
     }
 }
 
@@ -713,6 +726,43 @@ void Saving::WriteRow(const Setting& row, const Iteration* iteration)
     }
 }
 
+namespace {
+
+void PrintConflict(const CRegKeyEx& object, std::wstring_view name)
+{
+    if (CLog* const log = LogOfLoad(object)) {
+        log->Error(
+            kLogCategory,
+            L"<%s(%d) : %s> %s was changed in the registry since it was loaded; what the service provider set is "
+            L"saved over it",
+            L"core/settings/Settings.cpp", __LINE__, L"wqspcfg::Saving", std::wstring(name));
+    }
+}
+
+// Whether the object has changed what it loaded, or what its constructor set. Tells the log when somebody else has too.
+bool IsOwnChange(const CRegKeyEx& object, const Setting& row, unsigned index, const SettingContent& held,
+                 const SettingContent& constructed, const SettingContent& current, const std::wstring& name)
+{
+    const auto* loaded = FindLoaded(object, row, index);
+    if (held == (loaded != nullptr ? loaded->held : constructed)) {
+        return false;
+    }
+    if (loaded != nullptr && loaded->stored != current && held != current) {
+        PrintConflict(object, name);
+    }
+    return true;
+}
+
+} // namespace
+
+void Saving::RememberAtEnd(const Setting& row, unsigned index, LoadedContent content)
+{
+    RememberWritten(m_object, row, index, std::move(content));
+    if (!std::exchange(m_remembers, true)) {
+        m_scope->AtEnd([&object = m_object](bool committed) { SettleWritten(object, committed); });
+    }
+}
+
 template <class T>
 bool Saving::IsToBeWritten(const Setting& row, unsigned index, Session::Key key, const std::wstring& name,
                            const T& held, const T& written)
@@ -725,20 +775,11 @@ bool Saving::IsToBeWritten(const Setting& row, unsigned index, Session::Key key,
     if (m_scope->Query(key, name, view) != Outcome::Found || !ToValue(view, current)) {
         return true;
     }
-    const auto* loaded = FindLoaded(m_object, row, index);
-    const auto before = loaded != nullptr ? loaded->held : ContentOf(ConstructedOf<T>(row, index));
-    if (ContentOf(held) == before) {
+    if (!IsOwnChange(m_object, row, index, ContentOf(held), ContentOf(ConstructedOf<T>(row, index)), ContentOf(current),
+                     name)) {
         return false;
     }
-    CLog* const log = LogOfLoad(m_object);
-    if (loaded != nullptr && loaded->stored != ContentOf(current) && log != nullptr) {
-        log->Error(
-            kLogCategory,
-            L"<%s(%d) : %s> %s was changed in the registry since it was loaded; what the service provider set is "
-            L"saved over it",
-            L"core/settings/Settings.cpp", __LINE__, L"wqspcfg::Saving", name);
-    }
-    RememberLoaded(m_object, row, index, {ContentOf(written), ContentOf(held)}, log);
+    RememberAtEnd(row, index, {ContentOf(written), ContentOf(held)});
     return true;
 }
 
@@ -750,26 +791,36 @@ void Saving::WriteWholeKey(const Setting& row, unsigned index, const std::wstrin
         return;
     }
     const auto* loaded = FindLoaded(m_object, row, index);
+    const auto before = [loaded](const std::wstring& name) -> std::wstring {
+        if (loaded == nullptr) {
+            return {};
+        }
+        const auto entry = loaded->held.entries.find(name);
+        return entry != loaded->held.entries.end() ? entry->second : std::wstring();
+    };
     const auto key = m_scope->Open(path);
     for (const auto& [strName, strText] : map) {
         CString strCurrent;
         ValueView view;
         const bool stored = m_scope->Query(key, strName.View(), view) == Outcome::Found && ToValue(view, strCurrent);
-        bool changed = true;
-        if (loaded != nullptr) {
-            const auto before = loaded->held.entries.find(strName.Std());
-            changed = before == loaded->held.entries.end() || before->second != strText.Std();
-        }
-        if (changed || !stored) {
+        const auto old = before(strName.Std());
+        if (!stored || strText.Std() != old) {
+            if (stored && loaded != nullptr && strCurrent.Std() != old && strCurrent != strText) {
+                PrintConflict(m_object, strName.View());
+            }
             SetText(*m_scope, key, strName.View(), strText.View());
         }
     }
-    RememberLoaded(m_object, row, index, {ContentOf(map), ContentOf(map)}, LogOfLoad(m_object));
+    RememberAtEnd(row, index, {ContentOf(map), ContentOf(map)});
 }
 
 void Saving::Put(const Setting& row, const Iteration& iteration, DWORD value)
 {
-    const auto key = m_keys.Open(*m_scope, row.key, &iteration);
+    Put(m_keys.Open(*m_scope, row.key, &iteration), row, iteration, value);
+}
+
+void Saving::Put(Session::Key key, const Setting& row, const Iteration& iteration, DWORD value)
+{
     const std::wstring name(row.name);
     if (IsToBeWritten(row, iteration.index, key, name, value, value)) {
         m_scope->Set(key, name, DwordBytes(value).View());
@@ -809,18 +860,18 @@ void WriteChanged(CRegKeyEx& record, const Setting& row, KeyReader& reader, KeyW
         return;
     }
     if (GetSavePolicy() == SavePolicy::OwnChanges) {
-        const auto* loaded = FindLoaded(record, row, 0);
-        if (loaded != nullptr && loaded->held == ContentOf(held)) {
+        if (!IsOwnChange(record, row, 0, ContentOf(held), ContentOf(ConstructedOf<T>(row, 0)), ContentOf(stored),
+                         std::wstring(row.name))) {
             return; // somebody else changed it
         }
-        RememberLoaded(record, row, 0, {ContentOf(held), ContentOf(held)}, LogOfLoad(record));
+        RememberWritten(record, row, 0, {ContentOf(held), ContentOf(held)});
     }
     writer.Set(row.name, held);
 }
 
 } // namespace
 
-void WriteRecord(const CRegKeyEx& record, std::span<const Setting> rows, HKEY key, KeyWriter& writer)
+void WriteRecord(const CRegKeyEx& record, RowList rows, HKEY key, KeyWriter& writer)
 {
     KeyReader reader(key);
     auto& object = const_cast<CRegKeyEx&>(record); // rows find the members of objects that can be loaded
@@ -831,6 +882,9 @@ void WriteRecord(const CRegKeyEx& record, std::span<const Setting> rows, HKEY ke
         }
         return true;
     });
+    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+        writer.AtEnd([&record](bool committed) { SettleWritten(record, committed); });
+    }
 }
 
 } // namespace wqspcfg

@@ -16,25 +16,36 @@
 
 namespace wqspcfg {
 
+struct LoadedContent;
+
 // Settings that one operation of the class reads or writes, and not Load and Save.
 struct OperationSettings
 {
     const wchar_t* readBy;    // the operation's name; empty where nothing reads them
     const wchar_t* writtenBy; // empty where nothing writes them
-    std::span<const Setting> rows;
+    RowList rows;
 };
 
-// A class's settings, and what the catalogue tells of it.
+// A class's settings, and what the catalogue tells of it. Like the rows it is made when it is first asked for, and not
+// kept as data with addresses.
 struct Table
 {
+    using Get = const Table& (*)() noexcept;
+
+    Table(const wchar_t* name, Get baseTable, const wchar_t* device, RowList list, SavedRows order = nullptr,
+          std::span<const OperationSettings> others = {}, Get mixinTable = nullptr, bool savesBases = true)
+        : className(name), base(baseTable), deviceClass(device), rows(list), saveOrder(order), operations(others),
+          mixin(mixinTable), savesBase(savesBases)
+    {}
+
     const wchar_t* className;
-    const Table& (*base)() noexcept; // null for the root and the mix-in
-    const wchar_t* deviceClass;      // null where the base tells it
-    std::span<const Setting> rows;
-    std::span<const Setting* const> saveOrder{}; // empty: the order of the table
-    std::span<const OperationSettings> operations{};
-    const Table& (*mixin)() noexcept = nullptr; // a second base
-    bool savesBase = true;                      // false: Save leaves out what the bases save
+    Get base;                   // null for the root and the mix-in
+    const wchar_t* deviceClass; // null where the base tells it
+    RowList rows;
+    SavedRows saveOrder; // null: the order of the table
+    std::span<const OperationSettings> operations;
+    Get mixin;      // a second base
+    bool savesBase; // false: Save leaves out what the bases save
 };
 
 // Where the keys of one object's settings are, and those that were opened: rows share them.
@@ -104,10 +115,10 @@ class WQSPCFG_API Loading
     // Reads and logs the settings in order. False when a step ended it, and when a needed setting was missing.
     bool Read(const Table& table) { return Read(table, table.rows); }
     // Some of the table's rows.
-    bool Read(const Table& table, std::span<const Setting> rows);
-    bool Read(const Table& table, const Setting& row) { return Read(table, std::span(&row, 1)); }
+    bool Read(const Table& table, RowList rows) { return ReadRows(table, rows); }
+    bool Read(const Table& table, const Setting& row) { return ReadRows(table, std::span(&row, 1)); }
     // All rows of a record. False when its key is not open, so that everything is default.
-    bool Read(std::span<const Setting> rows);
+    bool Read(RowList rows);
 
     // For code between rows. A missing value gives false and leaves `value` untouched.
     bool Query(Key key, const CString& strName, DWORD& value);
@@ -118,6 +129,8 @@ class WQSPCFG_API Loading
     // remembered under the iteration's index for Saving::Put.
     bool Query(const Setting& row, const Iteration& iteration, DWORD& value);
     bool Query(const Setting& row, const Iteration& iteration, CString& value);
+    // Under SavePolicy::OwnChanges: remembers for Saving::Put what the object holds of a setting that code loads.
+    void Remember(const Setting& row, const Iteration& iteration, DWORD held);
     // The line of one row, with a number or a text in place of the member.
     void Print(const Setting& row, DWORD value, const Iteration* iteration = nullptr);
     void Print(const Setting& row, const CString& value, const Iteration* iteration = nullptr);
@@ -132,6 +145,7 @@ class WQSPCFG_API Loading
     static const CString* DeviceKeyNameOf(const CRegKeyEx& object) noexcept;
 
   private:
+    bool ReadRows(const Table& table, std::span<const Setting> rows);
     void ReadRow(const Setting& row, const Iteration* iteration);
     void ReadWholeKey(const Setting& row, const Iteration* iteration);
     template <class T>
@@ -166,34 +180,40 @@ class WQSPCFG_API Saving
 
     // Writes the saved settings in the table's order of saving.
     void Write(const Table& table);
-    void Write(std::span<const Setting> rows);
+    void Write(RowList rows) { WriteRows(rows); }
     void Write(std::span<const Setting* const> rows);
     // Writes one setting, for an operation.
-    void Write(const Setting& row) { Write(std::span(&row, 1)); }
+    void Write(const Setting& row) { WriteRows(std::span(&row, 1)); }
 
     // Writes what code holds of one iteration of a setting. The iteration's number or the address of its name tells it
     // from the one before.
     void Put(const Setting& row, const Iteration& iteration, DWORD value);
     void Put(const Setting& row, const Iteration& iteration, const CString& value);
+    // The same in a key that was opened.
+    void Put(Session::Key key, const Setting& row, const Iteration& iteration, DWORD value);
     void Put(Key key, const CString& strName, DWORD value);
     void Put(Key key, const CString& strName, const CString& value);
 
   private:
+    void WriteRows(std::span<const Setting> rows);
     void WriteRow(const Setting& row, const Iteration* iteration);
     void WriteWholeKey(const Setting& row, unsigned index, const std::wstring& path);
     template <class T>
     bool IsToBeWritten(const Setting& row, unsigned index, Session::Key key, const std::wstring& name, const T& held,
                        const T& written);
 
+    void RememberAtEnd(const Setting& row, unsigned index, LoadedContent content);
+
     WriteScope m_scope;
     CRegKeyEx& m_object;
     SettingKeys m_keys;
+    bool m_remembers = false;
 };
 
 // Writes the saved settings of a record to the open key that `writer` is for. A value that a Load would take from there
 // as the record holds it is not written: what is missing or of another type stays as it is until somebody changes the
 // member.
-WQSPCFG_API void WriteRecord(const CRegKeyEx& record, std::span<const Setting> rows, HKEY key, KeyWriter& writer);
+WQSPCFG_API void WriteRecord(const CRegKeyEx& record, RowList rows, HKEY key, KeyWriter& writer);
 
 // Reads one setting from its key or its fallback key; where neither holds it, `value` becomes the default, and the
 // result is false. What is corrected while loading is not corrected here.
@@ -205,7 +225,7 @@ WQSPCFG_API DWORD HeldNumber(const Setting& row, CRegKeyEx& object, unsigned ite
 WQSPCFG_API CString HeldText(const Setting& row, CRegKeyEx& object, unsigned iteration);
 
 // Sets every member to what its constructor is to set.
-WQSPCFG_API void Construct(CRegKeyEx& object, std::span<const Setting> rows);
+WQSPCFG_API void Construct(CRegKeyEx& object, RowList rows);
 
 // How a class of the tree is made and described, for the catalogue.
 struct ClassEntry
@@ -225,8 +245,11 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
 // The catalogue's entry of a class; stands once in the class's source file.
 #define WQSPCFG_CATALOGUE_ENTRY(Class)                                                                                 \
     namespace wqspcfg::entry {                                                                                         \
-    extern const ClassEntry Class##Entry;                                                                              \
-    constinit const ClassEntry Class##Entry{&::Class::Settings, &CreateObject<::Class>};                               \
+    ClassEntry Class##Entry();                                                                                         \
+    ClassEntry Class##Entry()                                                                                          \
+    {                                                                                                                  \
+        return {&::Class::Settings, &CreateObject<::Class>};                                                           \
+    }                                                                                                                  \
     }
 
 // Constructor, Load and Save of a class whose table says it all, and the catalogue's entry.
@@ -235,6 +258,7 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
     {                                                                                                                  \
         wqspcfg::Construct(*this, Class::Settings().rows);                                                             \
     }                                                                                                                  \
+    Class::~Class() = default;                                                                                         \
     bool Class::Load(CLog* pLog)                                                                                       \
     {                                                                                                                  \
         wqspcfg::Loading loading(*this, pLog);                                                                         \
@@ -256,8 +280,9 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
 #define WQSPCFG_SETTINGS(Class, Base, rows, ...)                                                                       \
     const wqspcfg::Table& Class::Settings() noexcept                                                                   \
     {                                                                                                                  \
-        static constexpr wqspcfg::Table kTable{L## #Class, &Base::Settings, nullptr, rows __VA_OPT__(, ) __VA_ARGS__}; \
-        return kTable;                                                                                                 \
+        static const wqspcfg::Table table{L## #Class, &Base::Settings, nullptr,                                        \
+                                          wqspcfg::Rows<rows> __VA_OPT__(, ) __VA_ARGS__};                             \
+        return table;                                                                                                  \
     }                                                                                                                  \
     WQSPCFG_SETTINGS_MEMBERS(Class, Base)
 
@@ -265,8 +290,8 @@ CRegInfo* CreateObject(const CString& strName, bool bPhysicalName)
 #define WQSPCFG_CLASS_SETTINGS(Class, DeviceClass, rows, ...)                                                          \
     const wqspcfg::Table& Class::Settings() noexcept                                                                   \
     {                                                                                                                  \
-        static constexpr wqspcfg::Table kTable{L## #Class, &CRegInfo::Settings, DeviceClass,                           \
-                                               rows __VA_OPT__(, ) __VA_ARGS__};                                       \
-        return kTable;                                                                                                 \
+        static const wqspcfg::Table table{L## #Class, &CRegInfo::Settings, DeviceClass,                                \
+                                          wqspcfg::Rows<rows> __VA_OPT__(, ) __VA_ARGS__};                             \
+        return table;                                                                                                  \
     }                                                                                                                  \
     WQSPCFG_SETTINGS_MEMBERS(Class, CRegInfo)

@@ -10,7 +10,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kSerialBarcodeReaderRows<C>),
+    Group(Rows<kSerialBarcodeReaderRows<C>>),
 };
 // clang-format on
 

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpBCRHoneyWellN5680RegInfo : public CBCRRegInfo, public wqspc
 {
   public:
     CSpBCRHoneyWellN5680RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpBCRHoneyWellN5680RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpBCRMotoRegInfo : public CBCRRegInfo, public wqspcfg::MotoSc
 {
   public:
     CSpBCRMotoRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpBCRMotoRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

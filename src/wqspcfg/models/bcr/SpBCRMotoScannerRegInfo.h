@@ -8,6 +8,7 @@ class WQSPCFG_API CSpBCRMotoScannerRegInfo : public CBCRRegInfo, public wqspcfg:
 {
   public:
     CSpBCRMotoScannerRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpBCRMotoScannerRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

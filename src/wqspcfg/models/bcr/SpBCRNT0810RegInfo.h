@@ -8,6 +8,7 @@ class WQSPCFG_API CSpBCRNT0810RegInfo : public CBCRRegInfo, public wqspcfg::Seri
 {
   public:
     CSpBCRNT0810RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpBCRNT0810RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpBCRNewLandRegInfo : public CBCRRegInfo
 {
   public:
     CSpBCRNewLandRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpBCRNewLandRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

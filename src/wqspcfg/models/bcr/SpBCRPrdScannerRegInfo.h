@@ -7,6 +7,7 @@ class WQSPCFG_API CSpBCRPrdScannerRegInfo : public CBCRRegInfo
 {
   public:
     CSpBCRPrdScannerRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpBCRPrdScannerRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpBCRSUPERlead4100SRegInfo : public CBCRRegInfo
 {
   public:
     CSpBCRSUPERlead4100SRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpBCRSUPERlead4100SRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

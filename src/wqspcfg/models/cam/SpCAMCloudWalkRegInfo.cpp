@@ -9,7 +9,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kFaceCameraRows<C>),
+    Group(Rows<kFaceCameraRows<C>>),
     {key::Control, L"CamID", &C::m_strCamID, L"VID_2C7F&PID_C3A1,VID_2C7F&PID_C3B1",
      L"USB identifiers: \",\" separates the alternatives of one camera, \";\" the cameras", Saved},
     {key::Control, L"CameraIndex", &C::m_dwCameraIndex, 0,

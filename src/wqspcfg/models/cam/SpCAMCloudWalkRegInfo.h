@@ -8,6 +8,7 @@ class WQSPCFG_API CSpCAMCloudWalkRegInfo : public CCAMRegInfo, public wqspcfg::F
 {
   public:
     CSpCAMCloudWalkRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMCloudWalkRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

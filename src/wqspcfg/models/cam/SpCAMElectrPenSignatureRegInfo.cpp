@@ -11,7 +11,7 @@ namespace {
 constexpr Setting kSettings[] = {
     {key::Control, L"CreatWinDisplay", &C::m_bCreatWinDisplay, 0,
      L"a window is created for the display command: 0 no; nonzero yes", Saved},
-    Group(kSignaturePadRows<C>),
+    Group(Rows<kSignaturePadRows<C>>),
 };
 // clang-format on
 

@@ -9,6 +9,7 @@ class WQSPCFG_API CSpCAMElectrPenSignatureRegInfo : public CCAMRegInfo, public w
 {
   public:
     CSpCAMElectrPenSignatureRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMElectrPenSignatureRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -54,7 +54,7 @@ constexpr Setting kSettings[] = {
      L"index of the current picture", Saved},
     {key::Control, L"dwAvailCamCount", &C::m_dwAvailCamCount, 1,
      L"number of cameras available", Saved, Range(0, 4)},
-    Repeat(0, 3, kPerCamera),
+    Repeat(0, 3, Rows<kPerCamera>),
     {kCamera, L"CamEnabled", &C::m_bCamEnabled, 1, L"the cameras are enabled: 0 no; nonzero yes", Saved},
 };
 // clang-format on

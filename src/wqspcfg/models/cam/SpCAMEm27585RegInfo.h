@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMEm27585RegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMEm27585RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMEm27585RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMHKBRegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMHKBRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMHKBRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

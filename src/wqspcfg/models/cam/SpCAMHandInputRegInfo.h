@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMHandInputRegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMHandInputRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMHandInputRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

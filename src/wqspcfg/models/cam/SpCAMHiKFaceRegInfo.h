@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMHiKFaceRegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMHiKFaceRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMHiKFaceRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMLogitechC920RegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMLogitechC920RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMLogitechC920RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

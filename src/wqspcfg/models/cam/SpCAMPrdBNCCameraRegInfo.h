@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMPrdBNCCameraRegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMPrdBNCCameraRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMPrdBNCCameraRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -101,7 +101,7 @@ constexpr Setting kSettings[] = {
      L"font of the text on the preview", Saved},
     {key::Capabilities, L"MaxPictures", &C::m_dwMaxPictures, 1000,
      L"maximum number of pictures kept in the folder", Saved},
-    Repeat(kPositions, kPerPosition),
+    Repeat(kPositions, Rows<kPerPosition>),
 };
 // clang-format on
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMPrdMNCCameraRegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMPrdMNCCameraRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMPrdMNCCameraRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpCAMPrdYGBRegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMPrdYGBRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMPrdYGBRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

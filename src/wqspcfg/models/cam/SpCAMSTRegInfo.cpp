@@ -9,7 +9,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kFaceCameraRows<C>),
+    Group(Rows<kFaceCameraRows<C>>),
     {key::Control, L"ShowText", &C::m_bShowText, 0,
      L"text is shown on the picture: 0 no; nonzero yes", Saved},
     {key::Control, L"CamID", &C::m_strCamID, L"VID_2C7F&PID_1A20,VID_2C7F&PID_1A90;VID_C168&PID_C098,VID_D168&PID_D098",

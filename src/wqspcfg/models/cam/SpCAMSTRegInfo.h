@@ -8,6 +8,7 @@ class WQSPCFG_API CSpCAMSTRegInfo : public CCAMRegInfo, public wqspcfg::FaceCame
 {
   public:
     CSpCAMSTRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMSTRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

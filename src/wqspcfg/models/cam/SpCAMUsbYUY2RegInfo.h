@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMUsbYUY2RegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMUsbYUY2RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMUsbYUY2RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCAMWQTJWI300RegInfo : public CCAMRegInfo
 {
   public:
     CSpCAMWQTJWI300RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMWQTJWI300RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -15,7 +15,7 @@ constexpr Setting kSettings[] = {
      L"one more key is loaded: 0 no; nonzero yes", Saved},
     {key::Control, L"CreatWinDisPlay", &C::m_bCreatWinDisPlay, 0,
      L"a window is created for the display command: 0 no; nonzero yes", Saved},
-    Group(kSignaturePadRows<C>),
+    Group(Rows<kSignaturePadRows<C>>),
     {key::Control, L"DevType", &C::m_dwDevType, 0, L"device type", Saved},
     {key::Control, L"BGTextData", &C::m_strBGTextData, L"",
      L"text in the background of the signature", Saved},

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpCAMYGBRegInfo : public CCAMRegInfo, public wqspcfg::Signatu
 {
   public:
     CSpCAMYGBRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMYGBRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

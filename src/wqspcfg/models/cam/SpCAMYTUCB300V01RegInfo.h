@@ -8,6 +8,7 @@ class WQSPCFG_API CSpCAMYTUCB300V01RegInfo : public CCAMRegInfo, public wqspcfg:
 {
   public:
     CSpCAMYTUCB300V01RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCAMYTUCB300V01RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

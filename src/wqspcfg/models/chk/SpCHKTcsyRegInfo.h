@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCHKTcsyRegInfo : public CCHKRegInfo
 {
   public:
     CSpCHKTcsyRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCHKTcsyRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

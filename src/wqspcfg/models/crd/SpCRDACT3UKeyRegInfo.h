@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDACT3UKeyRegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDACT3UKeyRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDACT3UKeyRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -14,7 +14,7 @@ namespace {
 constexpr Setting kSettings[] = {
     {key::Comm, L"Port5540",     &C::m_dwPort5540,     1,    meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm, L"BaudRate5540", &C::m_dwBaudRate5540, 9600, meaning::kBaudRate, Saved},
-    Group(kThreeBinRows),
+    Group(Rows<kThreeBinRows>),
     {key::Control, L"NeedSupportMediaLatched", &C::m_bNeedSupportMediaLatched, 0, meaning::kMediaLatched, Saved},
     {key::Control, L"LogicalNameOfIDCReader", &C::m_strLogicalNameOfIDCReader, L"",
      meaning::kLogicalNameOfIDCReader, Saved, RefersTo(Reference::LogicalService)},

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDACTF55540RegInfo : public wqspcfg::ThreeBinDispenser
 {
   public:
     CSpCRDACTF55540RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDACTF55540RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

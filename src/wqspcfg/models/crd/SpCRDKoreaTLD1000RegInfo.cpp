@@ -11,11 +11,11 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kTLD1000LinkRows<CIDCRegInfo>),
+    Group(Rows<kTLD1000LinkRows<CIDCRegInfo>>),
     {kRetainCardSet, L"MaxRetainCard", &C::m_dwMaxRetainCard, 20, meaning::kMaxRetainCard, Saved, Preloaded},
     {kRetainCardSet, L"RetainBinHigh", &C::m_dwRetainBinHigh, 15,
      meaning::kRetainBinHighOfMaxRetainCard, Saved, Preloaded},
-    Group(kTLD1000CardRows<CIDCRegInfo>),
+    Group(Rows<kTLD1000CardRows<CIDCRegInfo>>),
     {key::Control, L"DispenseCardStyle", &C::m_dwDispenseCardStyle, 0, L"style of dispensing a card", Saved},
 };
 // clang-format on

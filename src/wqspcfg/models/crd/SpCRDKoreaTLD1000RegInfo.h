@@ -8,6 +8,7 @@ class WQSPCFG_API CSpCRDKoreaTLD1000RegInfo : public wqspcfg::TLD1000Dispenser<C
 {
   public:
     CSpCRDKoreaTLD1000RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDKoreaTLD1000RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDPrdUkeyRegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDPrdUkeyRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDPrdUkeyRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDSankyo3A7230RegInfo : public CIDCRegInfo
 {
   public:
     CSpCRDSankyo3A7230RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDSankyo3A7230RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDTD2001GetRegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDTD2001GetRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDTD2001GetRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDTTCED16X0RegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDTTCED16X0RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDTTCED16X0RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDTTCEK201RegInfo : public wqspcfg::NumberedBinDispenser
 {
   public:
     CSpCRDTTCEK201RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDTTCEK201RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -11,7 +11,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kNumberedBinRows),
+    Group(Rows<kNumberedBinRows>),
     {key::Control, L"SupplyBinLow",     &C::m_dwSupplyBinLow,     5,   meaning::kSupplyBinLow, Saved},
     {key::Control, L"MaxSupplyCard",    &C::m_dwMaxSupplyCard,    100, meaning::kMaxSupplyCard, Saved},
     {key::Control, L"TreatyOfAp",       &C::m_dwTreatyOfAp,       0,   meaning::crd::kTreatyOfAp, Saved},

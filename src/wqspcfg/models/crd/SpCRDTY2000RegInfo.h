@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDTY2000RegInfo : public wqspcfg::NumberedBinDispenser
 {
   public:
     CSpCRDTY2000RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDTY2000RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

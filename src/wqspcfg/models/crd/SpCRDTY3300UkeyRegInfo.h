@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDTY3300UkeyRegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDTY3300UkeyRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDTY3300UkeyRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDUKeyK1503RegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDUKeyK1503RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDUKeyK1503RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

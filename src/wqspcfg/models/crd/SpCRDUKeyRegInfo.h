@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDUKeyRegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDUKeyRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDUKeyRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

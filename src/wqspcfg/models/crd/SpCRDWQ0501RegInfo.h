@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDWQ0501RegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDWQ0501RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDWQ0501RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -17,7 +17,7 @@ constexpr Setting kSettings[] = {
     {key::Comm,    L"BaudRate",      &C::m_dwBaudRate,      9600, meaning::kBaudRate, Saved},
     {key::Control, L"PowerOnOption", &C::m_dwPowerOnOption, 1,    meaning::kPowerOnOption, Saved, OneOf},
     {key::Control, L"CloseOption",   &C::m_dwCloseOption,   2,    meaning::kCloseOption, Saved, OneOf},
-    Group(kTwoBinRows),
+    Group(Rows<kTwoBinRows>),
     {key::Control, L"ReConnectSuccessOption", &C::m_dwReConnectSuccessOption, 2,
      meaning::crd::kReConnectSuccessOption, Saved, OneOf},
 };

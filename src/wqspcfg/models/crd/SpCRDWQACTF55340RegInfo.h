@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDWQACTF55340RegInfo : public wqspcfg::TwoBinDispenser
 {
   public:
     CSpCRDWQACTF55340RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDWQACTF55340RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -16,7 +16,7 @@ constexpr Key kRetainCardSet = key::Below(L"RetainCardSet");
 constexpr Setting kSettings[] = {
     {key::Comm, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
-    Group(kThreeBinRows),
+    Group(Rows<kThreeBinRows>),
     {key::Control, L"ErrorCodeToHardwareError", &C::m_strErrorCodeToHardwareError, L"",
      L"error codes that are reported as a hardware error", Saved},
     {key::Control, L"ReturnHardErrWhenSuppBinMiss", &C::m_dwReturnHardErrWhenSuppBinMiss, 0,

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDWQACTF56100RegInfo : public wqspcfg::ThreeBinDispenser
 {
   public:
     CSpCRDWQACTF56100RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDWQACTF56100RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

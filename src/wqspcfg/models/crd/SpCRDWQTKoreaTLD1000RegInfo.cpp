@@ -11,12 +11,12 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kTLD1000LinkRows<CCRDRegInfo>),
+    Group(Rows<kTLD1000LinkRows<CCRDRegInfo>>),
     {key::Control,   L"SupplyThreshold", &C::m_dwSupplyThreshold, 5,  L"threshold of the supply bin, in cards", Saved},
     {kRetainCardSet, L"MaxRetainCard",   &C::m_dwMaxRetainCard,   20, meaning::kMaxRetainCard, Saved},
     {kRetainCardSet, L"RetainBinHigh", &C::m_dwRetainBinHigh, 15,
      meaning::kRetainBinHighOfMaxRetainCard, Saved, kBelowCapacity<C>},
-    Group(kTLD1000CardRows<CCRDRegInfo>),
+    Group(Rows<kTLD1000CardRows<CCRDRegInfo>>),
 };
 // clang-format on
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDWQTKoreaTLD1000RegInfo : public wqspcfg::TLD1000Dispense
 {
   public:
     CSpCRDWQTKoreaTLD1000RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDWQTKoreaTLD1000RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDWQTSankyo3A7230RegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDWQTSankyo3A7230RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDWQTSankyo3A7230RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -22,7 +22,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"PowerOnOption",  &C::m_dwPowerOnOption,  1, meaning::kPowerOnOption, Saved, OneOf},
     {key::Control, L"CloseOption",    &C::m_dwCloseOption,    2, meaning::kCloseOption, Saved, OneOf},
     {key::Control, L"PowerOffOption", &C::m_dwPowerOffOption, 0, meaning::kPowerOffOption, OneOf},
-    Group(kTwoBinRows),
+    Group(Rows<kTwoBinRows>),
     {key::Control, L"AllowRetainOfRetainBinErr", &C::m_bAllowRetainOfRetainBinErr, 0,
      meaning::crd::kAllowRetainOfRetainBinErr, Saved},
     {key::Control, L"ReConnectSuccessOption", &C::m_dwReConnectSuccessOption, 2,
@@ -63,7 +63,7 @@ constexpr const wchar_t* kSaved[] = {
     L"LogicalNameOfIDCReader", L"SupplyBinMissing", L"CheckRetainBinDeviceFull", L"MoveCardOptionWhenCardHookClear",
     L"MoveCardOptionWhenTransPortErr", L"SpdbfromOneWhenNotChooseSupplyBin"};
 // clang-format on
-constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
+constexpr auto kSaveOrder = SaveOrder<kSettings, kSaved>;
 
 } // namespace
 

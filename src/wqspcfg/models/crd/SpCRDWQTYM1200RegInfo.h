@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDWQTYM1200RegInfo : public wqspcfg::TwoBinDispenser
 {
   public:
     CSpCRDWQTYM1200RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDWQTYM1200RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

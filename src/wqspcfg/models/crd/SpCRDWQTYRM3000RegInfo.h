@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDWQTYRM3000RegInfo : public CCRDRegInfo
 {
   public:
     CSpCRDWQTYRM3000RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDWQTYRM3000RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

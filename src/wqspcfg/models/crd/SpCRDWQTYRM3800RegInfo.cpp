@@ -12,7 +12,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kNumberedBinRows),
+    Group(Rows<kNumberedBinRows>),
     {key::Control, L"SupplyBin2Number",   &C::m_dwSupplyBin2Number,   3,   L"number of supply bin 2", Saved},
     {key::Control, L"DispenseBin2Number", &C::m_dwDispenseBin2Number, 3,   L"number of dispense bin 2", Saved},
     {key::Control, L"SupplyBin3Number",   &C::m_dwSupplyBin3Number,   4,   L"number of supply bin 3", Saved},

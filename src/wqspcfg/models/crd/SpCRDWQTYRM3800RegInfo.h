@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRDWQTYRM3800RegInfo : public wqspcfg::NumberedBinDispenser
 {
   public:
     CSpCRDWQTYRM3800RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRDWQTYRM3800RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCpPrdIDCMotorRegInfo : public CCRDRegInfo
 {
   public:
     CSpIDCpPrdIDCMotorRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCpPrdIDCMotorRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -11,9 +11,9 @@ constexpr const wchar_t* kSlots[] = {L"A", L"B", L"C", L"D", L"E", L"F", L"R"};
 constexpr DWORD kTypes[] = {0x00040030, 0x00040030, 0x00040030, 0x40, 0xF0, 0xF0, 0};
 
 constexpr Setting kSettings[] = {
-    Group(kWQNoteRecyclerBeforeSlots),
-    Repeat(kSlots, kNoteSlot<C, kTypes>),
-    Group(kWQNoteRecyclerAfterSlots),
+    Group(Rows<kWQNoteRecyclerBeforeSlots>),
+    Repeat(kSlots, Rows<kNoteSlot<C, kTypes>>),
+    Group(Rows<kWQNoteRecyclerAfterSlots>),
 };
 
 } // namespace

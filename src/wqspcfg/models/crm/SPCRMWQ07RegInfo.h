@@ -7,6 +7,7 @@ class WQSPCFG_API CSPCRMWQ07RegInfo : public wqspcfg::WQNoteRecycler
 {
   public:
     CSPCRMWQ07RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSPCRMWQ07RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -12,9 +12,9 @@ constexpr DWORD kTypes[] = {0x00040030, 0x00040030, 0x00040030, 0x40, 0x00040030
                             0x00040030, 0x00040030, 0x40,       0xF0, 0xF0,       0};
 
 constexpr Setting kSettings[] = {
-    Group(kWQNoteRecyclerBeforeSlots),
-    Repeat(kSlots, kNoteSlot<C, kTypes>),
-    Group(kWQNoteRecyclerAfterSlots),
+    Group(Rows<kWQNoteRecyclerBeforeSlots>),
+    Repeat(kSlots, Rows<kNoteSlot<C, kTypes>>),
+    Group(Rows<kWQNoteRecyclerAfterSlots>),
 };
 
 } // namespace

@@ -7,6 +7,7 @@ class WQSPCFG_API CSPCRMWQ09RegInfo : public wqspcfg::WQNoteRecycler
 {
   public:
     CSPCRMWQ09RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSPCRMWQ09RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

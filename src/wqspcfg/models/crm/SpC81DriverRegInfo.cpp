@@ -14,14 +14,14 @@ constexpr DWORD kTypes[] = {0x00040030, 0x00040030, 0x00040030, 0x40, 0xF0, 0xF0
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kNoteRecyclerStart),
-    Group(kNoteRecyclerCassettes),
-    Group(kNoteRecyclerUnitPhyPosName),
+    Group(Rows<kNoteRecyclerStart>),
+    Group(Rows<kNoteRecyclerCassettes>),
+    Group(Rows<kNoteRecyclerUnitPhyPosName>),
     {kHopperR, L"UseCassetteR", &C::m_dwUseCassetteR, 0, L"cassette R is used", Saved},
-    Group(kNoteRecyclerUseCassetteE),
-    Repeat(kSlots, kNoteSlot<C, kTypes>),
-    Group(kNoteRecyclerShutter),
-    Group(kNoteRecyclerInit),
+    Group(Rows<kNoteRecyclerUseCassetteE>),
+    Repeat(kSlots, Rows<kNoteSlot<C, kTypes>>),
+    Group(Rows<kNoteRecyclerShutter>),
+    Group(Rows<kNoteRecyclerInit>),
     {kCassette, L"UDCID",    &C::m_dwUDCID,    0, L"not documented", Saved},
     {kCassette, L"ODCID",    &C::m_dwODCID,    0, L"not documented", Saved},
     {kCassette, L"LEGCTime", &C::m_dwLEGCTime, 0, L"not documented", Saved},
@@ -34,7 +34,7 @@ constexpr Setting kSettings[] = {
      L"modules whose closing plays the sound of BeepFilePath, bit set: 0x0001 upper unit; 0x0002 lower unit; 0x0004 "
      L"to 0x0040 cassettes A to E; 0x0080 cassette R; 0x0100 cassette F; 0x0200 note validator", Saved,
      Format(L"%04X")},
-    Group(kNoteRecyclerReplenish),
+    Group(Rows<kNoteRecyclerReplenish>),
     {key::Capabilities, L"6060CASTypeRf6040w", &C::m_dw6060CASTypeRf6040w, 0,
      L"this mechanism uses the cassette layout of the one without cassette R: 0 no; 1 yes", Saved},
     {key::Capabilities, L"HandleRefuseReasonOfVerify", &C::m_dwHandleRefuseReasonOfVerify, 0,

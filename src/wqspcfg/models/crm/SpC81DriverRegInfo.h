@@ -7,6 +7,7 @@ class WQSPCFG_API CSpC81DriverRegInfo : public wqspcfg::NoteRecycler
 {
   public:
     CSpC81DriverRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpC81DriverRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCIMiVIZION100SSRegInfo : public CCRMRegInfo
 {
   public:
     CSpCIMiVIZION100SSRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCIMiVIZION100SSRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -9,7 +9,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kCoinRecycler),
+    Group(Rows<kCoinRecycler>),
     {key::Comm, L"Port", &C::m_dwPort, 1,
      meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm,         L"BaudRate",       &C::m_dwBaudRate,       9600,  meaning::kBaudRate, Saved},

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRMBcr203RegInfo : public wqspcfg::CoinRecycler
 {
   public:
     CSpCRMBcr203RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRMBcr203RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

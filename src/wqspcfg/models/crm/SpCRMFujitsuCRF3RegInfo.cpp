@@ -11,7 +11,7 @@ constexpr Key kNoteType = key::Below(L"NoteType");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kCoinRecycler),
+    Group(Rows<kCoinRecycler>),
     {key::Capabilities, L"Port",     &C::m_dwPort,     1,    meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Capabilities, L"BaudRate", &C::m_dwBaudRate, 9600, meaning::kBaudRate, Saved},
     {key::Capabilities, L"OnlyDepositTimeOut", &C::m_dwOnlyDepositTimeOut, 60000,

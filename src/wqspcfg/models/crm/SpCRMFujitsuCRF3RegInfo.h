@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRMFujitsuCRF3RegInfo : public wqspcfg::CoinRecycler
 {
   public:
     CSpCRMFujitsuCRF3RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRMFujitsuCRF3RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -12,7 +12,7 @@ constexpr const wchar_t* kSlots[] = {L"A", L"B", L"C"};
 // clang-format off
 constexpr Setting kSettings[] = {
     {kHopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
-    Repeat(kSlots, kCoinHopper<C>),
+    Repeat(kSlots, Rows<kCoinHopper<C>>),
     {key::Comm, L"Port", &C::m_dwPort, 1,
      meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm,         L"BaudRate",         &C::m_dwBaudRate,         9600,  meaning::kBaudRate, Saved},

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpCRMSBBHopperMk2RegInfo : public CCRMRegInfo
 {
   public:
     CSpCRMSBBHopperMk2RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRMSBBHopperMk2RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCRMSBBHopperRegInfo : public CCRMRegInfo
 {
   public:
     CSpCRMSBBHopperRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRMSBBHopperRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -23,7 +23,7 @@ constexpr Setting kSlotRows[] = {
 };
 
 constexpr Setting kSettings[] = {
-    Repeat(kSlots, kSlotRows),
+    Repeat(kSlots, Rows<kSlotRows>),
     {key::Capabilities, L"DriverCommandTimeOut", &C::m_dwDriverCommandTimeOut, 120000,
      L"time-out of a driver command in ms", Saved},
     {key::Capabilities, L"DispNotEnoughRet", &C::m_dwDispNotEnoughRet, 0, L"not documented", Saved},

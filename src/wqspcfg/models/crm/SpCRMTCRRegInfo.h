@@ -14,6 +14,7 @@ class WQSPCFG_API CSpCRMTCRRegInfo : public CCRMRegInfo
     };
 
     CSpCRMTCRRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCRMTCRRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -39,7 +39,7 @@ constexpr Setting kSettings[] = {
      meaning::kCasTypeFollowSlot, Saved, OneOf},
     {kHopperRJ, L"UseCassetteRJ",       &C::m_dwUseCassetteRJ,       1, L"cassette RJ is used", Saved},
     {kHopperE,  L"UseCassetteEAsRJCAS", &C::m_dwUseCassetteEAsRJCAS, 0, meaning::kUseCassetteE, Saved},
-    Repeat(kSlots, kSlotRows),
+    Repeat(kSlots, Rows<kSlotRows>),
     {kCassette, L"UseBarcodeAsTrackData", &C::m_dwUseBarcodeAsTrackData, 0,
      L"the barcode is used as track data", Saved},
     {kCassetteType, L"dwAType", &C::m_dwAType, 1, L"physical type of cassette A: 0 dispense only; 1 recycle", OneOf},

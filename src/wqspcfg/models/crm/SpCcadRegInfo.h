@@ -9,6 +9,7 @@ class WQSPCFG_API CSpCcadRegInfo : public CCRMRegInfo
 {
   public:
     CSpCcadRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCcadRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -6,12 +6,14 @@ using namespace wqspcfg;
 
 const Table& CSpDEPWQEnvelopeRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSpDEPWQEnvelopeRegInfo", &CDEPRegInfo::Settings, nullptr, {}};
-    return kTable;
+    static const Table table{L"CSpDEPWQEnvelopeRegInfo", &CDEPRegInfo::Settings, nullptr, {}};
+    return table;
 }
 
 CSpDEPWQEnvelopeRegInfo::CSpDEPWQEnvelopeRegInfo(const CString& strName, bool bPhysicalName)
     : CDEPRegInfo(strName, bPhysicalName)
 {}
+
+CSpDEPWQEnvelopeRegInfo::~CSpDEPWQEnvelopeRegInfo() = default;
 
 WQSPCFG_CATALOGUE_ENTRY(CSpDEPWQEnvelopeRegInfo)

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpDEPWQEnvelopeRegInfo : public CDEPRegInfo
 {
   public:
     CSpDEPWQEnvelopeRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpDEPWQEnvelopeRegInfo() override;
 
     static const wqspcfg::Table& Settings() noexcept;
 };

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpCardReaderRegInfo : public CIDCRegInfo
 {
   public:
     CSpCardReaderRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpCardReaderRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

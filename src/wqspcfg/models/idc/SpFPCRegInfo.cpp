@@ -34,7 +34,7 @@ constexpr Setting kCollector[] = {
     {kCollect, L"FeatureFilePath", &C::m_strFeatureFilePath, L"",
      L"path of the fingerprint feature image, a bmp or jpg file; with a path that is not valid it is not saved",
      Saved, QualifiedLabel, RefersTo(Reference::File)},
-    Repeat(1, 3, kTemplates),
+    Repeat(1, 3, Rows<kTemplates>),
     {key::Device, L"VendorProductModelKeyName", &C::m_strVendorProductModelKeyName, L"VendorProductModel",
      L"key name under which the product model is reported", Saved},
     {key::Device, L"VendorVdnameKeyName", &C::m_strVendorVdnameKeyName, L"FingerVendor",
@@ -48,7 +48,7 @@ constexpr Setting kCollector[] = {
 };
 
 constexpr Setting kSettings[] = {
-    Group(kCollector),
+    Group(Rows<kCollector>),
     {key::Device, L"ProtocolType", &C::m_dwProtocolType, 0,
      L"protocol with the application, which the model loads", Preloaded, NotLogged, Saved},
 };
@@ -58,19 +58,19 @@ constexpr const wchar_t* kSaved[] = {
     L"RtResultLastTimeWaitMediaTaken", L"FeatureFilePath", L"FeatureFile%dPathForTemplet", L"VendorProductModelKeyName",
     L"VendorVdnameKeyName", L"VendorFwverKeyName", L"VendorDrverKeyName", L"VendorVdnameValue"};
 // clang-format on
-constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
+constexpr auto kSaveOrder = SaveOrder<kSettings, kSaved>;
 
 } // namespace
 
 const Table& CSpFPCRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSpFPCRegInfo", nullptr, nullptr, kSettings, kSaveOrder};
-    return kTable;
+    static const Table table{L"CSpFPCRegInfo", nullptr, nullptr, Rows<kSettings>, kSaveOrder};
+    return table;
 }
 
 CSpFPCRegInfo::CSpFPCRegInfo(const CRegInfo& owner) : m_owner(owner)
 {
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
 }
 
 CSpFPCRegInfo::~CSpFPCRegInfo()
@@ -82,13 +82,13 @@ bool CSpFPCRegInfo::Load(CLog* pLog)
 {
     m_strKeyName = m_owner.GetExeDllMother(1, nullptr);
     Loading loading(*this, m_strKeyName, pLog);
-    return loading.Read(Settings(), kCollector);
+    return loading.Read(Settings(), Rows<kCollector>);
 }
 
 void CSpFPCRegInfo::ProtocolTypeLoaded(CLog* pLog)
 {
     Loading loading(*this, m_strKeyName, pLog);
-    loading.Read(Settings(), RowOf(kSettings, L"ProtocolType"));
+    loading.Read(Settings(), RowOf<kSettings>(L"ProtocolType"));
 }
 
 void CSpFPCRegInfo::Save()
@@ -100,6 +100,9 @@ void CSpFPCRegInfo::Save()
 
 // A part of other classes' objects, never an object of its own.
 namespace wqspcfg::entry {
-extern const ClassEntry CSpFPCRegInfoEntry;
-constinit const ClassEntry CSpFPCRegInfoEntry{&::CSpFPCRegInfo::Settings, nullptr};
+ClassEntry CSpFPCRegInfoEntry();
+ClassEntry CSpFPCRegInfoEntry()
+{
+    return {&::CSpFPCRegInfo::Settings, nullptr};
+}
 } // namespace wqspcfg::entry

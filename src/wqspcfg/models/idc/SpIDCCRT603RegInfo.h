@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCCRT603RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCCRT603RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCCRT603RegInfo() override;
 
     static const wqspcfg::Table& Settings() noexcept;
 };

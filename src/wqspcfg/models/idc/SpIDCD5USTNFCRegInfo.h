@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCD5USTNFCRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCD5USTNFCRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCD5USTNFCRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

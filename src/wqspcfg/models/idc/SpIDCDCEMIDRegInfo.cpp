@@ -11,7 +11,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kDcReaderRows),
+    Group(Rows<kDcReaderRows>),
     {key::Control, L"HandleRepeatCardPolicy", &C::m_dwHandleRepeatCardPolicy, 0,
      meaning::kHandleRepeatCardPolicy, Saved},
     {key::Control, L"CheckCardInsertOfIdle", &C::m_bCheckCardInsertOfIdle, 0, meaning::kCheckCardInsertOfIdle, Saved},

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCDCEMIDRegInfo : public wqspcfg::DcReader
 {
   public:
     CSpIDCDCEMIDRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCDCEMIDRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCDCT10NCPURegInfo : public wqspcfg::DcReader
 {
   public:
     CSpIDCDCT10NCPURegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCDCT10NCPURegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCDCT10NICCRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCDCT10NICCRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCDCT10NICCRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -11,7 +11,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kDcReaderRows),
+    Group(Rows<kDcReaderRows>),
     {key::Device, L"IDCardImagePath", &C::m_strIDCardImagePath, L"", meaning::kIDCardImagePath, Saved},
     {key::Device, L"IDCardImagePathBeCopyed", &C::m_strIDCardImagePathBeCopyed, L"",
      meaning::kIDCardImagePathBeCopyed, Saved},

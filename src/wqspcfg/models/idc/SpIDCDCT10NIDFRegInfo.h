@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCDCT10NIDFRegInfo : public wqspcfg::DcReader
 {
   public:
     CSpIDCDCT10NIDFRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCDCT10NIDFRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

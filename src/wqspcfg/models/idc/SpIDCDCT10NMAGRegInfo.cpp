@@ -11,7 +11,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kDcReaderRows),
+    Group(Rows<kDcReaderRows>),
     {key::Control, L"TimeOutOfReadMagCard", &C::m_dwTimeOutOfReadMagCard, 30, meaning::kTimeOutOfReadMagCard, Saved},
 };
 // clang-format on

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCDCT10NMAGRegInfo : public wqspcfg::DcReader
 {
   public:
     CSpIDCDCT10NMAGRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCDCT10NMAGRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -11,14 +11,14 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kDcReaderRows),
+    Group(Rows<kDcReaderRows>),
     {key::Comm, L"ICBaudRate", &C::m_dwICBaudRate, 9600, L"speed of the chip card in baud", Saved},
     {key::Comm, L"ICVolt", &C::m_dwICVolt, 0,
      L"voltage of the chip card, as the device's driver numbers it", Saved},
     {key::Control, L"TimeOutOfReadMagCard", &C::m_dwTimeOutOfReadMagCard, 30, meaning::kTimeOutOfReadMagCard, Saved},
     {key::Control, L"PcdRate", &C::m_dwPcdRate, 0,
      L"data rate of the contactless coupler (PCD), as the device's driver numbers it", Saved},
-    Group(kCombinedReaderRows<DcReader>),
+    Group(Rows<kCombinedReaderRows<DcReader>>),
     {key::Device, L"IDCardImagePath", &C::m_strIDCardImagePath, L"", meaning::kIDCardImagePath, Saved},
     {key::Device, L"IDCardImagePathBeCopyed", &C::m_strIDCardImagePathBeCopyed, L"",
      meaning::kIDCardImagePathBeCopyed, Saved},

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpIDCDCT10NRegInfo : public wqspcfg::CombinedReader<wqspcfg::
 {
   public:
     CSpIDCDCT10NRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCDCT10NRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

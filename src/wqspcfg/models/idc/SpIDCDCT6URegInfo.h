@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCDCT6URegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCDCT6URegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCDCT6URegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

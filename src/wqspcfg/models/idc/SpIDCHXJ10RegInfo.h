@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCHXJ10RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCHXJ10RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCHXJ10RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCHoneyWellN5680RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCHoneyWellN5680RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCHoneyWellN5680RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -34,7 +34,7 @@ constexpr Setting kSettings[] = {
     {key::Control, L"PowerOffRecover", &C::m_bPowerOffRecover, 0,
      L"recovery after a power loss: 0 no; nonzero yes", Saved},
     {key::Device, L"IsChangeNoToNO", &C::m_bIsChangeNoToNO, 0, meaning::kIsChangeNoToNO, Saved},
-    Group(kIdentityCardScannerRows),
+    Group(Rows<kIdentityCardScannerRows>),
     {key::Device, L"dwWidthOfFrontBack", &C::m_dwWidthOfFrontBack, 1011, meaning::kWidthOfFrontBack, Saved},
     {key::Device, L"dwHightOfFrontBack", &C::m_dwHightOfFrontBack, 638,  meaning::kHeightOfFrontBack, Saved},
     {key::Device, L"IsSaveNationCompleInfo", &C::m_bIsSaveNationCompleInfo, 0,

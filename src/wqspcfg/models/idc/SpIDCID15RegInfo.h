@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCID15RegInfo : public wqspcfg::IdentityCardScanner
 {
   public:
     CSpIDCID15RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCID15RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

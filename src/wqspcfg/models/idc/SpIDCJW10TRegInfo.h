@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCJW10TRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCJW10TRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCJW10TRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

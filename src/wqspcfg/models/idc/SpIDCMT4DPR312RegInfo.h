@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCMT4DPR312RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCMT4DPR312RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCMT4DPR312RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

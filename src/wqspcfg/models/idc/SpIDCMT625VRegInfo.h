@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCMT625VRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCMT625VRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCMT625VRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -17,7 +17,7 @@ constexpr Setting kSettings[] = {
      meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm,    L"Type",                 &C::m_dwType,                 0,  meaning::kNotDocumented, Saved},
     {key::Control, L"TimeOutOfReadMagCard", &C::m_dwTimeOutOfReadMagCard, 30, meaning::kTimeOutOfReadMagCard, Saved},
-    Group(kCombinedReaderRows<CIDCRegInfo>),
+    Group(Rows<kCombinedReaderRows<CIDCRegInfo>>),
     {key::Device, L"IDCardImagePath", &C::m_strIDCardImagePath, L"", meaning::kIDCardImagePath, Saved},
     {key::Device, L"IDCardImageName", &C::m_strIDCardImageName, L"", L"file name of the identity card's image", Saved},
     {key::Device, L"IDCardImagePathBeCopyed", &C::m_strIDCardImagePathBeCopyed, L"",

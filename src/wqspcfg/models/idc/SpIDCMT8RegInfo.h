@@ -8,6 +8,7 @@ class WQSPCFG_API CSpIDCMT8RegInfo : public wqspcfg::CombinedReader<CIDCRegInfo>
 {
   public:
     CSpIDCMT8RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCMT8RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

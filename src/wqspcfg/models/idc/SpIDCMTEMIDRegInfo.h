@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCMTEMIDRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCMTEMIDRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCMTEMIDRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

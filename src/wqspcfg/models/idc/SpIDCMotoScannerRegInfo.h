@@ -9,6 +9,7 @@ class WQSPCFG_API CSpIDCMotoScannerRegInfo : public CBCRRegInfo, public wqspcfg:
 {
   public:
     CSpIDCMotoScannerRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCMotoScannerRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

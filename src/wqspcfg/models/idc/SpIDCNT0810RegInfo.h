@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCNT0810RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCNT0810RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCNT0810RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

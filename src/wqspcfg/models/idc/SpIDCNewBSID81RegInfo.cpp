@@ -37,7 +37,7 @@ constexpr Setting kSettings[] = {
      L"fingerprint data are appended to the card's information: 0 no; nonzero yes", Saved},
     {key::Device, L"IsChangeNoToNO",         &C::m_bIsChangeNoToNO,         0, meaning::kIsChangeNoToNO, Saved},
     {key::Device, L"IsSaveNationCompleInfo", &C::m_bIsSaveNationCompleInfo, 0, meaning::kIsSaveNationCompleInfo, Saved},
-    Group(kIdentityCardScannerRows),
+    Group(Rows<kIdentityCardScannerRows>),
 };
 // clang-format on
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCNewBSID81RegInfo : public wqspcfg::IdentityCardScanner
 {
   public:
     CSpIDCNewBSID81RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCNewBSID81RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCNewBST3300RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCNewBST3300RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCNewBST3300RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

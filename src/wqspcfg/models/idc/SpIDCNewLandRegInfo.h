@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCNewLandRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCNewLandRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCNewLandRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCOmronV2GRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCOmronV2GRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCOmronV2GRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -6,12 +6,14 @@ using namespace wqspcfg;
 
 const Table& CSpIDCPhotonPayRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSpIDCPhotonPayRegInfo", &CIDCRegInfo::Settings, nullptr, {}};
-    return kTable;
+    static const Table table{L"CSpIDCPhotonPayRegInfo", &CIDCRegInfo::Settings, nullptr, {}};
+    return table;
 }
 
 CSpIDCPhotonPayRegInfo::CSpIDCPhotonPayRegInfo(const CString& strName, bool bPhysicalName)
     : CIDCRegInfo(strName, bPhysicalName)
 {}
+
+CSpIDCPhotonPayRegInfo::~CSpIDCPhotonPayRegInfo() = default;
 
 WQSPCFG_CATALOGUE_ENTRY(CSpIDCPhotonPayRegInfo)

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCPhotonPayRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCPhotonPayRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPhotonPayRegInfo() override;
 
     static const wqspcfg::Table& Settings() noexcept;
 };

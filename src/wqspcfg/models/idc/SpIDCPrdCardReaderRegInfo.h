@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCPrdCardReaderRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCPrdCardReaderRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPrdCardReaderRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

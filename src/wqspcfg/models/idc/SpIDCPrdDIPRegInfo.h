@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCPrdDIPRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCPrdDIPRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPrdDIPRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

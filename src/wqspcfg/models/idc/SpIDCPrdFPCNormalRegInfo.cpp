@@ -21,20 +21,24 @@ constexpr Setting kSettings[] = {
 
 const Table& CSpIDCPrdFPCNormalRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{.className = L"CSpIDCPrdFPCNormalRegInfo",
-                                  .base = &CIDCRegInfo::Settings,
-                                  .deviceClass = nullptr,
-                                  .rows = kSettings,
-                                  .mixin = &CSpFPCRegInfo::Settings,
-                                  .savesBase = false};
-    return kTable;
+    static const Table table{L"CSpIDCPrdFPCNormalRegInfo",
+                             &CIDCRegInfo::Settings,
+                             nullptr,
+                             Rows<kSettings>,
+                             nullptr,
+                             {},
+                             &CSpFPCRegInfo::Settings,
+                             false};
+    return table;
 }
 
 CSpIDCPrdFPCNormalRegInfo::CSpIDCPrdFPCNormalRegInfo(const CString& strName, bool bPhysicalName)
     : CIDCRegInfo(strName, bPhysicalName), CSpFPCRegInfo(static_cast<const CRegInfo&>(*this))
 {
-    Construct(static_cast<CRegInfo&>(*this), kSettings);
+    Construct(static_cast<CRegInfo&>(*this), Rows<kSettings>);
 }
+
+CSpIDCPrdFPCNormalRegInfo::~CSpIDCPrdFPCNormalRegInfo() = default;
 
 bool CSpIDCPrdFPCNormalRegInfo::Load(CLog* pLog)
 {

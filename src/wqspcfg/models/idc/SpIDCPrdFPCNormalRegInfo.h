@@ -10,6 +10,7 @@ class WQSPCFG_API CSpIDCPrdFPCNormalRegInfo : public CIDCRegInfo, public CSpFPCR
 {
   public:
     CSpIDCPrdFPCNormalRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPrdFPCNormalRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

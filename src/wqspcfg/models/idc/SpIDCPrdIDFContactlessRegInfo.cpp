@@ -15,7 +15,7 @@ constexpr Key kCapability = key::Below(L"Capability");
 constexpr Setting kSettings[] = {
     {key::Device, L"DN.IDF_CONTACTLESS", &C::m_strDN_IDF_CONTACTLESS, L"",
      L"name of the device driver module of the contactless identity card reader", Saved},
-    Group(kIdentityCardReaderRows),
+    Group(Rows<kIdentityCardReaderRows>),
     {kCapability,  L"ReadTracks",        &C::m_dwReadTracks,        7,    meaning::kReadTracks, Saved},
     {key::Control, L"WidthOfFrontBack",  &C::m_dwWidthOfFrontBack,  1011, meaning::kWidthOfFrontBack, Saved},
     {key::Control, L"HeightOfFrontBack", &C::m_dwHeightOfFrontBack, 638,  meaning::kHeightOfFrontBack, Saved},

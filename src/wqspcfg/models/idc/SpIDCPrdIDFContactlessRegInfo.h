@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCPrdIDFContactlessRegInfo : public wqspcfg::IdentityCardR
 {
   public:
     CSpIDCPrdIDFContactlessRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPrdIDFContactlessRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -15,7 +15,7 @@ constexpr Key kCapability = key::Below(L"Capability");
 constexpr Setting kSettings[] = {
     {key::Device, L"DN.IDF_MOTOR", &C::m_strDN_IDF_MOTOR, L"",
      L"name of the device driver module of the motorised identity card reader", Saved},
-    Group(kIdentityCardReaderRows),
+    Group(Rows<kIdentityCardReaderRows>),
     {key::Control, L"OpenAction", &C::m_dwOpenAction, 0,
      L"action with a card in the reader when the device is opened", Saved},
     {kCapability, L"ReadTracks", &C::m_dwReadTracks, 7, meaning::kReadTracks, Saved},

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCPrdIDFMotorRegInfo : public wqspcfg::IdentityCardReader
 {
   public:
     CSpIDCPrdIDFMotorRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPrdIDFMotorRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

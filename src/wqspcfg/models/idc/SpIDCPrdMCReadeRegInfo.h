@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCPrdMCReadeRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCPrdMCReadeRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPrdMCReadeRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCPrdScannerRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCPrdScannerRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPrdScannerRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

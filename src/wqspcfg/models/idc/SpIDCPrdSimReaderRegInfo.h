@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCPrdSimReaderRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCPrdSimReaderRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCPrdSimReaderRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCSysCanA8RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCSysCanA8RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCSysCanA8RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

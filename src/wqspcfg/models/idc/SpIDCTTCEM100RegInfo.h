@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCTTCEM100RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCTTCEM100RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCTTCEM100RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

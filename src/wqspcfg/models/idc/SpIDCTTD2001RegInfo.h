@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCTTD2001RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCTTD2001RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCTTD2001RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

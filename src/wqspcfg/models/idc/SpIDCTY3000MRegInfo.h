@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCTY3000MRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCTY3000MRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCTY3000MRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

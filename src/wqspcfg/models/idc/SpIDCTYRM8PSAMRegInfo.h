@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCTYRM8PSAMRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCTYRM8PSAMRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCTYRM8PSAMRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

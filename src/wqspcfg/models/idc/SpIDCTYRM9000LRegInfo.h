@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCTYRM9000LRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCTYRM9000LRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCTYRM9000LRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCWELFingerRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCWELFingerRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCWELFingerRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCWQTMR900RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCWQTMR900RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCWQTMR900RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

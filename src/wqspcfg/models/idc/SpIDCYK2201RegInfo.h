@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCYK2201RegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCYK2201RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCYK2201RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

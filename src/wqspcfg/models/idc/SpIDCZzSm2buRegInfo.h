@@ -7,6 +7,7 @@ class WQSPCFG_API CSpIDCZzSm2buRegInfo : public CIDCRegInfo
 {
   public:
     CSpIDCZzSm2buRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpIDCZzSm2buRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

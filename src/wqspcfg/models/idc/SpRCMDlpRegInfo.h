@@ -7,6 +7,7 @@ class WQSPCFG_API CSpRCMDlpRegInfo : public CIDCRegInfo
 {
   public:
     CSpRCMDlpRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpRCMDlpRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

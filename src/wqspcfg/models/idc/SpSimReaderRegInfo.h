@@ -7,6 +7,7 @@ class WQSPCFG_API CSpSimReaderRegInfo : public CIDCRegInfo
 {
   public:
     CSpSimReaderRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpSimReaderRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

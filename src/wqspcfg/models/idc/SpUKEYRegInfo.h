@@ -7,6 +7,7 @@ class WQSPCFG_API CSpUKEYRegInfo : public CIDCRegInfo
 {
   public:
     CSpUKEYRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpUKEYRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

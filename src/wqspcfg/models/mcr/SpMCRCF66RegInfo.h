@@ -8,6 +8,7 @@ class WQSPCFG_API CSpMCRCF66RegInfo : public CMCRRegInfo
 {
   public:
     CSpMCRCF66RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpMCRCF66RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -11,7 +11,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kJstdKeypadRows<C>),
+    Group(Rows<kJstdKeypadRows<C>>),
     {key::Device, L"AtiveStillDown", &C::m_bAtiveStillDown, 0,
      L"a key that is held down is reported as an error: 0 no; 1 yes", Saved, OneOf},
     {key::Comm, L"Port", &C::m_dwPort, 1,

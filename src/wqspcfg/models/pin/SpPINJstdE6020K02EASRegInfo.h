@@ -8,6 +8,7 @@ class WQSPCFG_API CSpPINJstdE6020K02EASRegInfo : public CPINRegInfo, public wqsp
 {
   public:
     CSpPINJstdE6020K02EASRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPINJstdE6020K02EASRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -11,7 +11,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kJstdKeypadRows<C>),
+    Group(Rows<kJstdKeypadRows<C>>),
     {key::Comm, L"Port", &C::m_dwPort, 0,
      meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm, L"BaudRate", &C::m_dwBaudRate, 57600,

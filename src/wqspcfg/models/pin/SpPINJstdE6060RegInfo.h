@@ -8,6 +8,7 @@ class WQSPCFG_API CSpPINJstdE6060RegInfo : public CPINRegInfo, public wqspcfg::J
 {
   public:
     CSpPINJstdE6060RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPINJstdE6060RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -11,6 +11,7 @@ class WQSPCFG_API CSpPINPADEXERegInfo : public CPINRegInfo,
 {
   public:
     CSpPINPADEXERegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPINPADEXERegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

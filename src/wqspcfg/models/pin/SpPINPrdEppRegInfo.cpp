@@ -42,7 +42,7 @@ constexpr Setting kSettings[] = {
     {key::Device, L"MacType", &C::m_dwMacType, 0x11,
      L"MAC algorithm: 0x01 decided by the parameters of the application (DESMAC X9.9, TRIDESMAC X9.19, MAAMAC MAA); "
      L"0x10 X9.9; 0x11 X9.19; 0x12 MAA", Saved, OneOf},
-    Group(kEllipseRows<C>),
+    Group(Rows<kEllipseRows<C>>),
 };
 // clang-format on
 

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpPINPrdEppRegInfo : public CPINRegInfo, public wqspcfg::Elli
 {
   public:
     CSpPINPrdEppRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPINPrdEppRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

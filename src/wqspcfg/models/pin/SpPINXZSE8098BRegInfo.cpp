@@ -79,7 +79,7 @@ constexpr const wchar_t* kSaved[] = {
     L"AtivePageUpPageDownInGetData", L"EarlyTerminateEnterToMaxLen", L"PageUpToFDK", L"PageUpToXFSKey",
     L"PageDownToFDK", L"LoadKeyEncKeyOfCryptCmd", L"ReadOneKeyToMaxForceEnter", L"PageDownToXFSKey", L"CBHBSM"};
 // clang-format on
-constexpr auto kSaveOrder = SaveOrder(kSettings, kSaved);
+constexpr auto kSaveOrder = SaveOrder<kSettings, kSaved>;
 
 } // namespace
 

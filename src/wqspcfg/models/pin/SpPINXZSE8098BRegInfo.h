@@ -9,6 +9,7 @@ class WQSPCFG_API CSpPINXZSE8098BRegInfo : public CPINRegInfo
 {
   public:
     CSpPINXZSE8098BRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPINXZSE8098BRegInfo() override;
 
     static const wqspcfg::Table& Settings() noexcept;
 

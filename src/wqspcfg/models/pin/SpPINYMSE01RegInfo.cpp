@@ -13,7 +13,7 @@ namespace {
 constexpr Setting kSettings[] = {
     {key::Device, L"Mac99", &C::m_dwMac99, 0,
      meaning::kMac99, Saved, Format(L"0x%02X")},
-    Group(kVersionedKeypadRows<C>),
+    Group(Rows<kVersionedKeypadRows<C>>),
     {key::Device, L"DelDuplicateKEK", &C::m_bDelDuplicateKEK, 0,
      meaning::kDelDuplicateKEK, Saved},
     {key::Device, L"DelDuplicateKEKSM", &C::m_bDelDuplicateKEKSM, 0,
@@ -26,7 +26,7 @@ constexpr Setting kSettings[] = {
      meaning::kPostKeyInGetPin, Saved, OneOf},
     {key::Device, L"DisabledPCKeyEventOfKey", &C::m_strDisabledPCKeyEventOfKey, L"",
      meaning::kDisabledPCKeyEventOfKey, Saved},
-    Group(kEllipseRows<C>),
+    Group(Rows<kEllipseRows<C>>),
     {key::Device, L"AtiveClearAndBaskSpaceOption", &C::m_dwAtiveClearAndBaskSpaceOption, 0,
      meaning::kClearAndBackspace, Saved, OneOf},
     {key::Device, L"DefaultMaxPinLength", &C::m_dwDefaultMaxPinLength, 12,

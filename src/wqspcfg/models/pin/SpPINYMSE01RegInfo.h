@@ -12,6 +12,7 @@ class WQSPCFG_API CSpPINYMSE01RegInfo : public CPINRegInfo,
 {
   public:
     CSpPINYMSE01RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPINYMSE01RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

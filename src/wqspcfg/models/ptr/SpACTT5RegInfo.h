@@ -7,6 +7,7 @@ class WQSPCFG_API CSpACTT5RegInfo : public CPTRRegInfo
 {
   public:
     CSpACTT5RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpACTT5RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpJOURNALPTREXERegInfo : public CPTRRegInfo
 {
   public:
     CSpJOURNALPTREXERegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpJOURNALPTREXERegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -22,5 +22,5 @@ WQSPCFG_SETTINGS(CSpLQ80KFExeRegInfo, CPTRRegInfo, kSettings)
 
 void CSpLQ80KFExeRegInfo::ResetValue()
 {
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
 }

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpLQ80KFExeRegInfo : public CPTRRegInfo
 {
   public:
     CSpLQ80KFExeRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpLQ80KFExeRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

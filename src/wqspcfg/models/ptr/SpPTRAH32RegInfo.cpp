@@ -12,7 +12,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kRasterReceiptPrinterRows),
+    Group(Rows<kRasterReceiptPrinterRows>),
     {key::Control, L"SendMediaTakenEvent", &C::m_bSendMediaTakenEvent, 0, printer::kSendMediaTakenEvent, Saved},
     {key::Control, L"WaitMediaTakenTime",  &C::m_dwWaitMediaTakenTime, 3, printer::kWaitMediaTakenTime, Saved},
     {key::Control, L"PrintIntervalTime",   &C::m_dwPrintIntervalTime,  0, printer::kPrintIntervalTime, Saved},

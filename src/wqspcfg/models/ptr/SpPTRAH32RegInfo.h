@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRAH32RegInfo : public wqspcfg::RasterReceiptPrinter
 {
   public:
     CSpPTRAH32RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRAH32RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

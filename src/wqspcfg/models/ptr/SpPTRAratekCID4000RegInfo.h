@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRAratekCID4000RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRAratekCID4000RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRAratekCID4000RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRBSD216RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRBSD216RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRBSD216RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -10,9 +10,9 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kPagePrinterRows),
-    Group(kStampingUnitRows),
-    Group(kJobPagePrinterRows),
+    Group(Rows<kPagePrinterRows>),
+    Group(Rows<kStampingUnitRows>),
+    Group(Rows<kJobPagePrinterRows>),
 };
 // clang-format on
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRBrotherHL5595DNRegInfo : public wqspcfg::JobPagePrinter
 {
   public:
     CSpPTRBrotherHL5595DNRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRBrotherHL5595DNRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -17,7 +17,7 @@ constexpr Setting kSettings[] = {
     {key::Comm,   L"BaudRate",  &C::m_dwBaudRate,  9600, kBaudRate, Saved},
     {key::Device, L"CharSpace", &C::m_dwCharSpace, 0,    printer::kWordSpace, Saved},
     {key::Device, L"LineSpace", &C::m_dwLineSpace, 30,   printer::kLineSpace, Saved},
-    Group(kPassbookPageRows),
+    Group(Rows<kPassbookPageRows>),
     {key::Device, L"UseOneForm",    &C::m_dwUseOneForm,    0,  printer::kUseOneForm, Saved},
     {key::Device, L"StartLineNum",  &C::m_dwStartLineNum,  1,  printer::kStartLineNum, Saved},
     {key::Device, L"MaxLineNum",    &C::m_dwMaxLineNum,    24, printer::kMaxLineNum, Saved},

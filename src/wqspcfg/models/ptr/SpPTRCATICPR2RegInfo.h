@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRCATICPR2RegInfo : public wqspcfg::PassbookPrinter
 {
   public:
     CSpPTRCATICPR2RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRCATICPR2RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

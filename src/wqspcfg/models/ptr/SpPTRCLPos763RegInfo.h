@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRCLPos763RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRCLPos763RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRCLPos763RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRCTZDP330RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRCTZDP330RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRCTZDP330RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

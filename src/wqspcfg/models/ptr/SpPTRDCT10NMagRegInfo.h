@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRDCT10NMagRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRDCT10NMagRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRDCT10NMagRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -12,7 +12,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kLinePassbookPrinterRows),
+    Group(Rows<kLinePassbookPrinterRows>),
     {key::Device, L"InsertVertical",      &C::m_bInsertVertical,      0, printer::kInsertVertical, Saved},
     {key::Device, L"KeepPaperStatusFull", &C::m_bKeepPaperStatusFull, 0, printer::kKeepPaperStatusFull, Saved},
     {key::Device, L"RawDataParseID",      &C::m_dwRawDataParseID,     0, printer::kRawDataParseID, Saved},

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTREpsonPLQ20KMRegInfo : public wqspcfg::LinePassbookPrinte
 {
   public:
     CSpPTREpsonPLQ20KMRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTREpsonPLQ20KMRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

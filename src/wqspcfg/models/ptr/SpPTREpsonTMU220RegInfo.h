@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTREpsonTMU220RegInfo : public wqspcfg::BlackMarkReceiptPri
 {
   public:
     CSpPTREpsonTMU220RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTREpsonTMU220RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRFL720MJRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRFL720MJRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRFL720MJRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -14,7 +14,7 @@ constexpr auto kStampUnit = StampRows(key::Below(L"Stamp\\NEWBSIDBTS100"));
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kPagePrinterRows),
+    Group(Rows<kPagePrinterRows>),
     {key::Device, L"TonerStatusType", &C::m_dwTonerStatusType, 0,
      L"how the toner status is told; 0 the standard way", Saved},
     {key::Device, L"CheckInputParam",      &C::m_dwCheckInputParam,      0, printer::kCheckInputParam, Saved},
@@ -24,8 +24,8 @@ constexpr Setting kSettings[] = {
     {key::Device, L"DeviceType", &C::m_dwDeviceType, 0, printer::kNotDocumented, Saved},
     {kStamp,      L"IsStamp",    &C::m_bIsStamp,     0, printer::kIsStamp, Saved},
     {kStamp,      L"StampType",  &C::m_dwStampType,  0, printer::kNotDocumented, Saved},
-    Group(kStampUnit),
-    Group(kPaperOutRows),
+    Group(Rows<kStampUnit>),
+    Group(Rows<kPaperOutRows>),
     {key::Device, L"CountOfTrays", &C::m_dwCountOfTrays, 1, L"number of paper trays", Saved},
     {key::Device, L"SendExeePresented", &C::m_bSendExeePresented, 0,
      L"the media-presented event is sent: 0 no; nonzero yes", Saved},

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRFXP355dbRegInfo : public wqspcfg::PagePrinter
 {
   public:
     CSpPTRFXP355dbRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRFXP355dbRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -12,7 +12,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kLinePassbookPrinterRows),
+    Group(Rows<kLinePassbookPrinterRows>),
     {key::Device, L"UseOneForm",   &C::m_dwUseOneForm,   0,  printer::kUseOneForm, Saved},
     {key::Device, L"StartLineNum", &C::m_dwStartLineNum, 1,  printer::kStartLineNum, Saved},
     {key::Device, L"MaxLineNum",   &C::m_dwMaxLineNum,   24, printer::kMaxLineNum, Saved},

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRFujitsuDPK210RegInfo : public wqspcfg::LinePassbookPrint
 {
   public:
     CSpPTRFujitsuDPK210RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRFujitsuDPK210RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -13,7 +13,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kBlackMarkReceiptPrinterRows),
+    Group(Rows<kBlackMarkReceiptPrinterRows>),
     {key::Control, L"BidirectionalPtr", &C::m_bBidirectionalPtr, 0,
      L"print in both directions: 0 no; nonzero yes", Saved},
     {key::Control, L"CutAll", &C::m_bCutAll, 1, printer::kFullCut, Saved},
@@ -37,5 +37,5 @@ WQSPCFG_SETTINGS(CSpPTRGHPOS1900RegInfo, BlackMarkReceiptPrinter, kSettings)
 
 void CSpPTRGHPOS1900RegInfo::DescCurLowCount()
 {
-    WriteCount(*this, m_dwCurLastCount, OneLess(m_dwCurLastCount), RowOf(kSettings, L"CurLastCount"));
+    WriteCount(*this, m_dwCurLastCount, OneLess(m_dwCurLastCount), RowOf<kSettings>(L"CurLastCount"));
 }

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRGHPOS1900RegInfo : public wqspcfg::BlackMarkReceiptPrint
 {
   public:
     CSpPTRGHPOS1900RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRGHPOS1900RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

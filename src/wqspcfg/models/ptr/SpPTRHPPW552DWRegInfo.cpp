@@ -12,8 +12,8 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kPagePrinterRows),
-    Group(kStampingUnitRows),
+    Group(Rows<kPagePrinterRows>),
+    Group(Rows<kStampingUnitRows>),
     {key::Device, L"dwRawdataParseID", &C::m_dwRawdataParseID, 0, printer::kRawDataParseID, Saved},
 };
 // clang-format on

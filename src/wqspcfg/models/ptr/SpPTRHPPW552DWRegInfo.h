@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRHPPW552DWRegInfo : public wqspcfg::PagePrinter
 {
   public:
     CSpPTRHPPW552DWRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRHPPW552DWRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

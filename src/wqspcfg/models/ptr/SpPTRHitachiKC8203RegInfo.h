@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRHitachiKC8203RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRHitachiKC8203RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRHitachiKC8203RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRHoneyWellN5680RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRHoneyWellN5680RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRHoneyWellN5680RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

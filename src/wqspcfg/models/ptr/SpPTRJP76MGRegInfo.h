@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRJP76MGRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRJP76MGRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRJP76MGRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRJP80TRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRJP80TRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRJP80TRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -13,7 +13,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kRasterReceiptPrinterRows),
+    Group(Rows<kRasterReceiptPrinterRows>),
     {key::Control, L"EjectLength",         &C::m_dwEjectLength,        0,   printer::kEjectLength, Saved},
     {key::Control, L"CutWhenEject",        &C::m_bCutWhenEject,        1,   printer::kCutWhenEject, Saved},
     {key::Control, L"SendMediaTakenEvent", &C::m_bSendMediaTakenEvent, 0,   printer::kSendMediaTakenEvent, Saved},
@@ -34,10 +34,10 @@ WQSPCFG_SETTINGS(CSpPTRJT58RegInfo, RasterReceiptPrinter, kSettings)
 
 void CSpPTRJT58RegInfo::ReduceLowCount()
 {
-    WriteCount(*this, m_dwCurCountWhenLow, OneLess(m_dwCurCountWhenLow), RowOf(kSettings, L"CurCountWhenLow"));
+    WriteCount(*this, m_dwCurCountWhenLow, OneLess(m_dwCurCountWhenLow), RowOf<kSettings>(L"CurCountWhenLow"));
 }
 
 void CSpPTRJT58RegInfo::ResetLowCount()
 {
-    WriteCount(*this, m_dwCurCountWhenLow, m_dwMaxCountWhenLow, RowOf(kSettings, L"CurCountWhenLow"));
+    WriteCount(*this, m_dwCurCountWhenLow, m_dwMaxCountWhenLow, RowOf<kSettings>(L"CurCountWhenLow"));
 }

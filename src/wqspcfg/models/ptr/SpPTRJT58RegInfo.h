@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRJT58RegInfo : public wqspcfg::RasterReceiptPrinter
 {
   public:
     CSpPTRJT58RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRJT58RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRKdeKtx32XExeRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRKdeKtx32XExeRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRKdeKtx32XExeRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -12,11 +12,11 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kPageCheckRows),
+    Group(Rows<kPageCheckRows>),
     {key::Device, L"RawDataFilePathStyle", &C::m_dwRawDataFilePathStyle, 0, printer::kRawDataFilePathStyle, Saved},
-    Group(kPageFontRows),
-    Group(kStampingUnitRows),
-    Group(kJobPagePrinterRows),
+    Group(Rows<kPageFontRows>),
+    Group(Rows<kStampingUnitRows>),
+    Group(Rows<kJobPagePrinterRows>),
 };
 // clang-format on
 

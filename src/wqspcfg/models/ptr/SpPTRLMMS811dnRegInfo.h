@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRLMMS811dnRegInfo : public wqspcfg::JobPagePrinter
 {
   public:
     CSpPTRLMMS811dnRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRLMMS811dnRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

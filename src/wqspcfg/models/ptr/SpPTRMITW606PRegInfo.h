@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRMITW606PRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRMITW606PRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRMITW606PRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -39,11 +39,9 @@ constexpr Setting kSettings[] = {
     {key::Device, L"RawDataAddLineCount", &C::m_dwRawDataAddLineCount, 0,
      L"number of lines added after raw data", Saved},
 };
-constexpr Setting kReceiptsLeft[] = {
-    {key::Device, L"CurLastCount", DwordValue, 0, L"receipts left", NotLogged},
-};
+constexpr Setting kReceiptsLeft{key::Device, L"CurLastCount", DwordValue, 0, L"receipts left", NotLogged};
 // clang-format on
-constexpr OperationSettings kOnRequest[] = {{L"DescCurLowCount", L"DescCurLowCount", kReceiptsLeft}};
+constexpr OperationSettings kOnRequest[] = {{L"DescCurLowCount", L"DescCurLowCount", Rows<kReceiptsLeft>}};
 
 } // namespace
 
@@ -51,14 +49,14 @@ WQSPCFG_SETTINGS(CSpPTRMP512RegInfo, CPTRRegInfo, kSettings, {}, kOnRequest)
 
 void CSpPTRMP512RegInfo::ResetValue()
 {
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
 }
 
 void CSpPTRMP512RegInfo::DescCurLowCount()
 {
     Saving saving(*this);
     DWORD dwLeft = 0;
-    if (ReadSetting(*this, *kReceiptsLeft, dwLeft) && dwLeft > 0) {
-        saving.Put(kReceiptsLeft->key, CString(kReceiptsLeft->name), dwLeft - 1);
+    if (ReadSetting(*this, kReceiptsLeft, dwLeft) && dwLeft > 0) {
+        saving.Put(kReceiptsLeft.key, CString(kReceiptsLeft.name), dwLeft - 1);
     }
 }

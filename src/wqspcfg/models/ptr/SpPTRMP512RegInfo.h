@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRMP512RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRMP512RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRMP512RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

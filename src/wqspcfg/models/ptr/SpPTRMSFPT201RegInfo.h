@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRMSFPT201RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRMSFPT201RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRMSFPT201RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRMaiDiV3RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRMaiDiV3RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRMaiDiV3RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRMotoScannerRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRMotoScannerRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRMotoScannerRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRNEWBSIDBTPP33RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRNEWBSIDBTPP33RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRNEWBSIDBTPP33RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

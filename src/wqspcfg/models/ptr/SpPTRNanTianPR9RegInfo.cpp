@@ -16,7 +16,7 @@ constexpr Setting kSettings[] = {
     {key::Comm,   L"Port",      &C::m_dwPort,      1,    kPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Comm,   L"BaudRate",  &C::m_dwBaudRate,  9600, kBaudRate, Saved},
     {key::Device, L"CharSpace", &C::m_dwCharSpace, 0,    printer::kWordSpace, Saved},
-    Group(kPassbookPageRows),
+    Group(Rows<kPassbookPageRows>),
     {key::Device, L"UseOneForm",          &C::m_dwUseOneForm,         0,         printer::kUseOneForm, Saved},
     {key::Device, L"PowerOnOption",       &C::m_dwPowerOnOption,      1,         printer::kPowerOnOption, Saved},
     {key::Device, L"MaxRetract",          &C::m_dwMaxRetract,         10,        printer::kMaxRetract, Saved},

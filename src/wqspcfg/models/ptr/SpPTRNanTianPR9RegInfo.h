@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRNanTianPR9RegInfo : public wqspcfg::PassbookPrinter
 {
   public:
     CSpPTRNanTianPR9RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRNanTianPR9RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

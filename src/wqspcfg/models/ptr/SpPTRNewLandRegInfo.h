@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRNewLandRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRNewLandRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRNewLandRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

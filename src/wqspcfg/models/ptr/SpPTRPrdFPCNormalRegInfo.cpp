@@ -18,26 +18,25 @@ constexpr Setting kReadImageRule[] = {
     {key::Below(L"ReadImageRule"), L"%s", Map<&C::m_mapReadImageRule>, L"", L"rule of the read-image command"},
 };
 // clang-format on
-constexpr OperationSettings kOperations[] = {{L"LoadReadImageRuleCfg", L"", kReadImageRule}};
+constexpr OperationSettings kOperations[] = {{L"LoadReadImageRuleCfg", L"", Rows<kReadImageRule>}};
 
 } // namespace
 
 const Table& CSpPTRPrdFPCNormalRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{.className = L"CSpPTRPrdFPCNormalRegInfo",
-                                  .base = &CPTRRegInfo::Settings,
-                                  .deviceClass = nullptr,
-                                  .rows = kSettings,
-                                  .operations = kOperations,
-                                  .mixin = &CSpFPCRegInfo::Settings};
-    return kTable;
+    static const Table table{
+        L"CSpPTRPrdFPCNormalRegInfo", &CPTRRegInfo::Settings, nullptr, Rows<kSettings>, nullptr, kOperations,
+        &CSpFPCRegInfo::Settings};
+    return table;
 }
 
 CSpPTRPrdFPCNormalRegInfo::CSpPTRPrdFPCNormalRegInfo(const CString& strName, bool bPhysicalName)
     : CPTRRegInfo(strName, bPhysicalName), CSpFPCRegInfo(static_cast<const CRegInfo&>(*this))
 {
-    Construct(static_cast<CRegInfo&>(*this), kSettings);
+    Construct(static_cast<CRegInfo&>(*this), Rows<kSettings>);
 }
+
+CSpPTRPrdFPCNormalRegInfo::~CSpPTRPrdFPCNormalRegInfo() = default;
 
 bool CSpPTRPrdFPCNormalRegInfo::Load(CLog* pLog)
 {
@@ -60,7 +59,7 @@ void CSpPTRPrdFPCNormalRegInfo::Save()
 bool CSpPTRPrdFPCNormalRegInfo::LoadReadImageRuleCfg(CLog* pLog)
 {
     Loading loading(*this, pLog);
-    loading.Read(Settings(), kReadImageRule);
+    loading.Read(Settings(), Rows<kReadImageRule>);
     return !m_mapReadImageRule.IsEmpty();
 }
 

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpPTRPrdFPCNormalRegInfo : public CPTRRegInfo, public CSpFPCR
 {
   public:
     CSpPTRPrdFPCNormalRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRPrdFPCNormalRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRPrdIDFMotorRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRPrdIDFMotorRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRPrdIDFMotorRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

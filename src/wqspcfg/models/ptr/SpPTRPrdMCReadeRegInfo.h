@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRPrdMCReadeRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRPrdMCReadeRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRPrdMCReadeRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -78,10 +78,10 @@ WQSPCFG_SETTINGS(CSpPTRPrdRPRRegInfo, CPTRRegInfo, kSettings)
 
 void CSpPTRPrdRPRRegInfo::SetRetractCount(DWORD dwCount)
 {
-    WriteCount(*this, m_dwRetractCount, dwCount, RowOf(kSettings, L"RetractCount"));
+    WriteCount(*this, m_dwRetractCount, dwCount, RowOf<kSettings>(L"RetractCount"));
 }
 
 void CSpPTRPrdRPRRegInfo::SetCurLastCount(DWORD dwCount)
 {
-    WriteCount(*this, m_dwCurLastCount, dwCount, RowOf(kSettings, L"CurLastCount"));
+    WriteCount(*this, m_dwCurLastCount, dwCount, RowOf<kSettings>(L"CurLastCount"));
 }

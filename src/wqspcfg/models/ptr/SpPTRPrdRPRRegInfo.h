@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRPrdRPRRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRPrdRPRRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRPrdRPRRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRPrdScannerRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRPrdScannerRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRPrdScannerRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

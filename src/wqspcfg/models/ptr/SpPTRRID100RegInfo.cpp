@@ -15,7 +15,7 @@ namespace {
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    Group(kRID100Rows),
+    Group(Rows<kRID100Rows>),
     {key::Device, L"BankType", &C::m_dwBankType, 1, printer::kBankType, Saved, OneOf},
 };
 
@@ -28,9 +28,9 @@ constexpr Setting kTicketsLeft[] = {
      L"tickets left in the supply bin in use", Saved, NotLogged},
 };
 constexpr OperationSettings kOnRequest[] = {
-    {L"LoadSimData",        L"",                   kRID100SimulationRows},
-    {L"LoadRetainBinCount", L"SaveRetainBinCount", kRetained},
-    {L"",                   L"SaveSetPaperCount",  kTicketsLeft},
+    {L"LoadSimData",        L"",                   Rows<kRID100SimulationRows>},
+    {L"LoadRetainBinCount", L"SaveRetainBinCount", Rows<kRetained>},
+    {L"",                   L"SaveSetPaperCount",  Rows<kTicketsLeft>},
 };
 // clang-format on
 
@@ -50,15 +50,15 @@ bool CSpPTRRID100RegInfo::IsPrintAsTextField(const CString& strField) const
 
 void CSpPTRRID100RegInfo::LoadRetainBinCount()
 {
-    Loading(*this, nullptr).Read(Settings(), kRetained);
+    Loading(*this, nullptr).Read(Settings(), Rows<kRetained>);
 }
 
 void CSpPTRRID100RegInfo::SaveRetainBinCount()
 {
-    Saving(*this).Write(*kRetained);
+    Saving(*this).Write(Rows<kRetained>[0]);
 }
 
 void CSpPTRRID100RegInfo::SaveSetPaperCount()
 {
-    Saving(*this).Write(*kTicketsLeft);
+    Saving(*this).Write(Rows<kTicketsLeft>[0]);
 }

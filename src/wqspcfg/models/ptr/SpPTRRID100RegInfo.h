@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRRID100RegInfo : public wqspcfg::RID100Printer
 {
   public:
     CSpPTRRID100RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRRID100RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -13,7 +13,7 @@ namespace {
 // clang-format off
 
 constexpr Setting kSettings[] = {
-    Group(kRSV100Rows),
+    Group(Rows<kRSV100Rows>),
     {key::Device, L"BankType", &C::m_dwBankType, 1, printer::kBankType, Saved},
 };
 // clang-format on
@@ -24,5 +24,5 @@ WQSPCFG_SETTINGS(CSpPTRRSV100RegInfo, RSV100Printer, kSettings)
 
 void CSpPTRRSV100RegInfo::SaveRetainBinCount()
 {
-    Saving(*this).Write(wqspcfg::kRetainBins);
+    Saving(*this).Write(Rows<wqspcfg::kRetainBins>);
 }

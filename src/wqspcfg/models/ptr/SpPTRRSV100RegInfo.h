@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRRSV100RegInfo : public wqspcfg::RSV100Printer
 {
   public:
     CSpPTRRSV100RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRRSV100RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -35,10 +35,10 @@ WQSPCFG_SETTINGS(CSpPTRSK5015GRegInfo, CPTRRegInfo, kSettings)
 
 void CSpPTRSK5015GRegInfo::AddCurCount()
 {
-    WriteCount(*this, m_dwRetractCount, OneMore(m_dwRetractCount), RowOf(kSettings, L"RetractCount"));
+    WriteCount(*this, m_dwRetractCount, OneMore(m_dwRetractCount), RowOf<kSettings>(L"RetractCount"));
 }
 
 void CSpPTRSK5015GRegInfo::ResetZeroCount()
 {
-    WriteCount(*this, m_dwRetractCount, 0, RowOf(kSettings, L"RetractCount"));
+    WriteCount(*this, m_dwRetractCount, 0, RowOf<kSettings>(L"RetractCount"));
 }

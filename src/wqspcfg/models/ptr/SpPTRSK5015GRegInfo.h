@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRSK5015GRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRSK5015GRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRSK5015GRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRSNBCC6500MRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRSNBCC6500MRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRSNBCC6500MRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

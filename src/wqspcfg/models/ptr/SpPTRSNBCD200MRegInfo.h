@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRSNBCD200MRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRSNBCD200MRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRSNBCD200MRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRSNBCSC100PRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRSNBCSC100PRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRSNBCSC100PRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -34,10 +34,10 @@ WQSPCFG_SETTINGS(CSpPTRScanD412RegInfo, CPTRRegInfo, kSettings)
 
 void CSpPTRScanD412RegInfo::AddCurCount()
 {
-    WriteCount(*this, m_dwRetractCount, OneMore(m_dwRetractCount), RowOf(kSettings, L"RetractCount"));
+    WriteCount(*this, m_dwRetractCount, OneMore(m_dwRetractCount), RowOf<kSettings>(L"RetractCount"));
 }
 
 void CSpPTRScanD412RegInfo::ResetZeroCount()
 {
-    WriteCount(*this, m_dwRetractCount, 0, RowOf(kSettings, L"RetractCount"));
+    WriteCount(*this, m_dwRetractCount, 0, RowOf<kSettings>(L"RetractCount"));
 }

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRScanD412RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRScanD412RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRScanD412RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

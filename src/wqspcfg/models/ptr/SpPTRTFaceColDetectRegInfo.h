@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRTFaceColDetectRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRTFaceColDetectRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRTFaceColDetectRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

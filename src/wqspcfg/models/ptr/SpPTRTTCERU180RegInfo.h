@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRTTCERU180RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRTTCERU180RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRTTCERU180RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRTcsyRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRTcsyRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRTcsyRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

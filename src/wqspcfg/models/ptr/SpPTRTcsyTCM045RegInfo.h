@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRTcsyTCM045RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRTcsyTCM045RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRTcsyTCM045RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRVeinWd200RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRVeinWd200RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRVeinWd200RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRWEL410AFEV10RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRWEL410AFEV10RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRWEL410AFEV10RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,7 +7,7 @@ using namespace wqspcfg;
 
 namespace {
 
-constexpr OperationSettings kOnRequest[] = {{L"LoadSimData", L"", kRID100SimulationRows}};
+constexpr OperationSettings kOnRequest[] = {{L"LoadSimData", L"", Rows<kRID100SimulationRows>}};
 
 } // namespace
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRWQRID100RegInfo : public wqspcfg::RID100Printer
 {
   public:
     CSpPTRWQRID100RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRWQRID100RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -13,7 +13,7 @@ namespace {
 // clang-format off
 
 constexpr Setting kSettings[] = {
-    Group(kRSV100Rows),
+    Group(Rows<kRSV100Rows>),
     {key::Device, L"FrimBankType", &C::m_dwFrimBankType, 0,
      L"bank profile of the firmware; 0 the standard one", Saved},
     {key::Device, L"SaveImageTime", &C::m_dwSaveImageTime, 30, printer::kSaveImageTime, Saved},

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRWQRSV100RegInfo : public wqspcfg::RSV100Printer
 {
   public:
     CSpPTRWQRSV100RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRWQRSV100RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

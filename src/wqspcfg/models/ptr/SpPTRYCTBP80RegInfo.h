@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRYCTBP80RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRYCTBP80RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRYCTBP80RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

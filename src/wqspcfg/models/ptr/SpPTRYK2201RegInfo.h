@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRYK2201RegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRYK2201RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRYK2201RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

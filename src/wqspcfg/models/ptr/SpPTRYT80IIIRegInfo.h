@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRYT80IIIRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRYT80IIIRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRYT80IIIRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRZzSM2BRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRZzSM2BRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRZzSM2BRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

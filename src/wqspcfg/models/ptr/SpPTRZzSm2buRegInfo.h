@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPTRZzSm2buRegInfo : public CPTRRegInfo
 {
   public:
     CSpPTRZzSm2buRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPTRZzSm2buRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

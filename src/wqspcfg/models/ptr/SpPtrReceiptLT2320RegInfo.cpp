@@ -88,22 +88,22 @@ void CSpPtrReceiptLT2320RegInfo::ResetValue()
 {
     const DWORD dwLeft = m_dwCurLastCount;
     const DWORD dwPrinted = m_dwPrintedLenght;
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
     m_dwCurLastCount = dwLeft;
     m_dwPrintedLenght = dwPrinted;
 }
 
 void CSpPtrReceiptLT2320RegInfo::DescCurLowCount()
 {
-    WriteCount(*this, m_dwCurLastCount, OneLess(m_dwCurLastCount), RowOf(kSettings, L"CurLastCount"));
+    WriteCount(*this, m_dwCurLastCount, OneLess(m_dwCurLastCount), RowOf<kSettings>(L"CurLastCount"));
 }
 
 void CSpPtrReceiptLT2320RegInfo::ResetCurLowCount()
 {
-    WriteCount(*this, m_dwCurLastCount, m_dwLowMaxCount, RowOf(kSettings, L"CurLastCount"));
+    WriteCount(*this, m_dwCurLastCount, m_dwLowMaxCount, RowOf<kSettings>(L"CurLastCount"));
 }
 
 void CSpPtrReceiptLT2320RegInfo::SavePrintedLength()
 {
-    Saving(*this).Write(RowOf(kSettings, L"PrintedLenght"));
+    Saving(*this).Write(RowOf<kSettings>(L"PrintedLenght"));
 }

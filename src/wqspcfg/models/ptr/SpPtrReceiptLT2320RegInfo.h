@@ -7,6 +7,7 @@ class WQSPCFG_API CSpPtrReceiptLT2320RegInfo : public CPTRRegInfo
 {
   public:
     CSpPtrReceiptLT2320RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpPtrReceiptLT2320RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

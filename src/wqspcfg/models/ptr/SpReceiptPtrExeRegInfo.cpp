@@ -57,16 +57,16 @@ WQSPCFG_SETTINGS(CSpReceiptPtrExeRegInfo, CPTRRegInfo, kSettings)
 void CSpReceiptPtrExeRegInfo::ResetValue()
 {
     const DWORD dwLeft = m_dwCurLastCount;
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
     m_dwCurLastCount = dwLeft;
 }
 
 void CSpReceiptPtrExeRegInfo::DescCurLowCount()
 {
-    WriteCount(*this, m_dwCurLastCount, OneLess(m_dwCurLastCount), RowOf(kSettings, L"CurLastCount"));
+    WriteCount(*this, m_dwCurLastCount, OneLess(m_dwCurLastCount), RowOf<kSettings>(L"CurLastCount"));
 }
 
 void CSpReceiptPtrExeRegInfo::ResetCurLowCount()
 {
-    WriteCount(*this, m_dwCurLastCount, m_dwLowMaxCount, RowOf(kSettings, L"CurLastCount"));
+    WriteCount(*this, m_dwCurLastCount, m_dwLowMaxCount, RowOf<kSettings>(L"CurLastCount"));
 }

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpReceiptPtrExeRegInfo : public CPTRRegInfo
 {
   public:
     CSpReceiptPtrExeRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpReceiptPtrExeRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -63,7 +63,7 @@ inline constexpr Key kPicPath = key::Below(L"PicPath");
 
 // clang-format off
 inline constexpr Setting kIdentityCardReaderRows[] = {
-    Group(kDriverFormatRows),
+    Group(Rows<kDriverFormatRows>),
     {kPicPath, L"HeadPicPath", &IdentityCardReader::m_strHeadPicPath, L"",
      L"path of the picture of the holder's head", Saved},
     {kPicPath, L"FrontPicPath", &IdentityCardReader::m_strFrontPicPath, L"",
@@ -77,7 +77,7 @@ inline constexpr Setting kIdentityCardScannerRows[] = {
      L"the new format configuration is used: 0 no; nonzero yes", Saved},
     {key::Control, L"PadCharHex", &IdentityCardScanner::m_strPadCharHex, L"20",
      L"padding character as a hexadecimal number", Saved},
-    Group(kScannerFormatRows),
+    Group(Rows<kScannerFormatRows>),
     {key::Control, L"IDTypeDesc", &IdentityCardScanner::m_strIDTypeDesc, L"",
      L"description of the document type for identity cards", Saved},
     {key::Control, L"FIDTypeDesc", &IdentityCardScanner::m_strFIDTypeDesc, L"",

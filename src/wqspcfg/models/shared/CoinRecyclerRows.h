@@ -27,7 +27,7 @@ inline constexpr Setting kCoinHopper[] = {
 inline constexpr const wchar_t* kCoinRecyclerSlots[] = {L"A", L"B", L"C", L"R"};
 inline constexpr DWORD kCoinRecyclerTypes[] = {0x100, 0x050, 0x010, 0x000};
 inline constexpr Setting kCoinRecyclerSlot[] = {
-    Group(kCoinHopper<CoinRecycler>),
+    Group(Rows<kCoinHopper<CoinRecycler>>),
     {kSlot, L"Type", Element<&CoinRecycler::m_arSlot, &tagCoinRecycleHopper::dwType>,
      0,
      L"denomination of the hopper: 0x100 recycle for 1 yuan; 0x050 recycle for 5 jiao; 0x010 recycle for 1 jiao; "
@@ -36,7 +36,7 @@ inline constexpr Setting kCoinRecyclerSlot[] = {
 };
 inline constexpr Setting kCoinRecycler[] = {
     {kHopper, L"UnitPhyPosName", &CoinRecycler::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
-    Repeat(kCoinRecyclerSlots, kCoinRecyclerSlot),
+    Repeat(kCoinRecyclerSlots, Rows<kCoinRecyclerSlot>),
 };
 // clang-format on
 

@@ -30,7 +30,7 @@ inline constexpr Setting kPageFontRows[] = {
     {key::Device, L"FontName", &PagePrinter::m_strFontName, L"SimSun", meaning::printer::kFontName, Saved},
     {key::Device, L"FontSize", &PagePrinter::m_dwFontSize,  12,        meaning::printer::kFontSize, Saved},
 };
-inline constexpr Setting kPagePrinterRows[] = {Group(kPageCheckRows), Group(kPageFontRows)};
+inline constexpr Setting kPagePrinterRows[] = {Group(Rows<kPageCheckRows>), Group(Rows<kPageFontRows>)};
 
 // The stamping unit's settings, which are in the given key.
 consteval std::array<Setting, 9> StampRows(Key key)
@@ -58,8 +58,8 @@ inline constexpr Setting kPaperOutRows[] = {
 };
 inline constexpr Setting kStampingUnitRows[] = {
     {kStamp, L"IsStamp", &PagePrinter::m_bIsStamp, 0, meaning::printer::kIsStamp, Saved},
-    Group(kStampRows),
-    Group(kPaperOutRows),
+    Group(Rows<kStampRows>),
+    Group(Rows<kPaperOutRows>),
 };
 
 inline constexpr Setting kJobPagePrinterRows[] = {

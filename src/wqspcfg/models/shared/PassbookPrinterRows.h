@@ -33,7 +33,7 @@ inline constexpr Setting kLinePassbookPrinterRows[] = {
     {key::Device, L"LineSpace",  &LinePassbookPrinter::m_dwLineSpace,  30, meaning::printer::kLineSpace, Saved},
     {key::Device, L"UseBlackFace", &LinePassbookPrinter::m_bUseBlackFace, 0,
      L"print in bold face: 0 no; nonzero yes", Saved},
-    Group(kPassbookPageRows),
+    Group(Rows<kPassbookPageRows>),
 };
 // clang-format on
 

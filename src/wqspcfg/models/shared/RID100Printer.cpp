@@ -7,7 +7,7 @@ namespace wqspcfg {
 
 void RID100Printer::LoadSimData(CLog* pLog)
 {
-    Loading(*this, pLog).Read(Settings(), kRID100SimulationRows);
+    Loading(*this, pLog).Read(Settings(), Rows<kRID100SimulationRows>);
 }
 
 } // namespace wqspcfg

@@ -12,12 +12,12 @@ inline constexpr Setting kRetainBinRows[] = {
     {key::Below(L"RetainBins\\RetainBin%d"), L"RetainBinCount", Element<&RSV100Printer::m_dwRetainBinCount>, 0,
      meaning::printer::kRetainBinCount, Saved},
 };
-inline constexpr Setting kRetainBins[] = {Repeat(0, RSV100Printer::kRetainBins - 1, kRetainBinRows)};
+inline constexpr Setting kRetainBins[] = {Repeat(0, RSV100Printer::kRetainBins - 1, Rows<kRetainBinRows>)};
 inline constexpr Setting kRSV100Rows[] = {
     {key::Device, L"MaxRetainCount", &RSV100Printer::m_dwMaxRetainCount, 100, meaning::printer::kMaxRetainCount, Saved},
     {key::Device, L"HighRetainCount", &RSV100Printer::m_dwHighRetainCount, 90,
      meaning::printer::kHighRetainCount, Saved},
-    Group(kRetainBins),
+    Group(Rows<kRetainBins>),
     {key::Comm, L"PortOfRFID", &RSV100Printer::m_dwPortOfRFID, 1,
      meaning::printer::kRFIDPort, Saved, RefersTo(Reference::SerialPort)},
     {key::Device, L"LeftAdjustSpace", &RSV100Printer::m_dwLeftAdjustSpace, 0,

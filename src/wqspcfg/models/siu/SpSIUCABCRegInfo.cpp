@@ -84,7 +84,7 @@ constexpr Setting kLightRows[] = {
      L"not used", NotLogged, Saved, kIfMappedAnew<First>},
 };
 constexpr Setting kFirstLightRows[] = {
-    Repeat(kFirstLight, kFirstLight, kLightRows<kFirstLight>),
+    Repeat(kFirstLight, kFirstLight, Rows<kLightRows<kFirstLight>>),
 };
 
 constexpr Setting kBoard[] = {
@@ -139,7 +139,7 @@ constexpr Setting kBoard[] = {
      L"type of the current card reader", Saved},
     {kShareInfoSrc, L"EntryPassword", &C::m_strEntryPassword, L"WQPINPADEXE",
      L"type of the current PIN pad", Saved},
-    Group(kSafeAgentRows<C>),
+    Group(Rows<kSafeAgentRows<C>>),
     {kSafeAgent, L"ObserverType", &C::m_dwObserverType, 2,
      L"what is observed: 1 the current state; 2 the warning state", Saved, OneOf},
     {key::Beep, L"KeyPress", &C::m_strKeyPress, L"C:\\vexo\\sp\\Config\\sp.data\\KeyDownSound.wav",
@@ -174,8 +174,8 @@ constexpr Setting kBoard[] = {
     {kCashModule, L"Executable", StringValue, L"WQC81Driver.exe",
      L"executable of the cash module's driver, which tells whether the cash module has a light of its own",
      Label(L"TARNO_RECYCLE\\Executable"), kFindCashModuleLight},
-    When([](const C& c) { return !c.m_bCashModuleLight; }, kFirstLightRows),
-    Repeat(kFirstLight + 1, kLastLight, kLightRows<kFirstLight + 1>),
+    When([](const C& c) { return !c.m_bCashModuleLight; }, Rows<kFirstLightRows>),
+    Repeat(kFirstLight + 1, kLastLight, Rows<kLightRows<kFirstLight + 1>>),
 };
 constexpr Setting kProximity[] = {
     {key::Control, L"ProximityPresentWaitTime", &C::m_dwProximityPresentWaitTime, 0,
@@ -188,12 +188,12 @@ constexpr Setting kProximity[] = {
 const Table& CSpSIUCABCRegInfo::Settings() noexcept
 {
     static constexpr Setting kSettings[] = {
-        Group(kBoard),
+        Group(Rows<kBoard>),
         Step([](C& c, Loading& loading) { c.MapLights(loading.Log()); }),
-        Group(kProximity),
+        Group(Rows<kProximity>),
     };
-    static constexpr Table kTable{L"CSpSIUCABCRegInfo", &CSIURegInfo::Settings, nullptr, kSettings};
-    return kTable;
+    static const Table table{L"CSpSIUCABCRegInfo", &CSIURegInfo::Settings, nullptr, Rows<kSettings>};
+    return table;
 }
 
 void CSpSIUCABCRegInfo::MapLights(CLog* pLog)

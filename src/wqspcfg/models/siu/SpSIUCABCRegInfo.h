@@ -28,6 +28,7 @@ class WQSPCFG_API CSpSIUCABCRegInfo : public CSIURegInfo, public wqspcfg::SafeAg
     using LightMap = CArray<tagPhyLightToXFSIndex, const tagPhyLightToXFSIndex&>;
 
     CSpSIUCABCRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpSIUCABCRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

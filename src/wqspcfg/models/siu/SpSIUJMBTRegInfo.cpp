@@ -71,16 +71,16 @@ constexpr Setting kSettings[] = {
     {kCoolingTime, L"CoolingTime", &C::m_dwCoolingTime, 15,     meaning::kCoolingTime, Saved, Required()},
     {kCoolingTime, L"BSTIsNotUsed", &C::m_dwBSTIsNotUsed, 0,
      L"the BST is not used: 0 it is; nonzero it is not", Saved, Required()},
-    Repeat(1, 8, kLightIndexRows),
+    Repeat(1, 8, Rows<kLightIndexRows>),
     {kLightsPolarity, L"ALL_Lights_OFF_Pol", &C::m_dwALL_Lights_OFF_Pol, 1,
      L"output level at which all lights are off: 0 low; nonzero high", Saved, Required()},
-    Repeat(1, 8, kLightOffRows),
+    Repeat(1, 8, Rows<kLightOffRows>),
     {kLightsPolarity, L"ALL_Lights_ON_Pol", &C::m_dwALL_Lights_ON_Pol, 1,
      L"output level at which all lights are on: 0 low; nonzero high", Saved, Required()},
-    Repeat(1, 8, kLightOnRows),
-    Repeat(1, 4, kSwitchIndexRows),
-    Repeat(1, 4, kSwitchPolarityRows),
-    Repeat(1, 4, kSwitchTypeRows),
+    Repeat(1, 8, Rows<kLightOnRows>),
+    Repeat(1, 4, Rows<kSwitchIndexRows>),
+    Repeat(1, 4, Rows<kSwitchPolarityRows>),
+    Repeat(1, 4, Rows<kSwitchTypeRows>),
 };
 // clang-format on
 
@@ -88,14 +88,16 @@ constexpr Setting kSettings[] = {
 
 const Table& CSpSIUJMBTRegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSpSIUJMBTRegInfo", &CSIURegInfo::Settings, nullptr, kSettings};
-    return kTable;
+    static const Table table{L"CSpSIUJMBTRegInfo", &CSIURegInfo::Settings, nullptr, Rows<kSettings>};
+    return table;
 }
 
 CSpSIUJMBTRegInfo::CSpSIUJMBTRegInfo(const CString& strName, bool bPhysicalName) : CSIURegInfo(strName, bPhysicalName)
 {
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
 }
+
+CSpSIUJMBTRegInfo::~CSpSIUJMBTRegInfo() = default;
 
 bool CSpSIUJMBTRegInfo::Load(CLog* pLog)
 {

@@ -10,6 +10,7 @@ class WQSPCFG_API CSpSIUJMBTRegInfo : public CSIURegInfo
 {
   public:
     CSpSIUJMBTRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpSIUJMBTRegInfo() override;
     // Writes an error line for each missing value, and is true whatever is missing.
     bool Load(CLog* pLog) override;
     void Save() override;

@@ -7,6 +7,7 @@ class WQSPCFG_API CSpSIUPrdSIUNormalRegInfo : public CSIURegInfo
 {
   public:
     CSpSIUPrdSIUNormalRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpSIUPrdSIUNormalRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

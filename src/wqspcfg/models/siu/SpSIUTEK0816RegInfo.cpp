@@ -55,9 +55,9 @@ constexpr Setting kSettings[] = {
     {key::Device, L"ManualResetSkimmerStatus", &C::m_bManualResetSkimmerStatus, 0,
      meaning::kManualResetSkimmerStatus, Saved},
     {key::Device, L"UseSafeAgent", &C::m_dwUseSafeAgent, 0, meaning::kUseSafeAgent, Saved},
-    Group(kSafeAgentRows<C>),
-    Repeat(1, C::kLights, kLightRows),
-    Repeat(1, C::kSwitches, kSwitchRows),
+    Group(Rows<kSafeAgentRows<C>>),
+    Repeat(1, C::kLights, Rows<kLightRows>),
+    Repeat(1, C::kSwitches, Rows<kSwitchRows>),
     {kUps, L"UseSBUPS", &C::m_bUseSBUPS, 0,
      L"the SB UPS is used: 0 no; nonzero yes", Saved},
     {kUps, L"SBDevType", &C::m_dwSBDevType, 0,
@@ -122,15 +122,17 @@ bool ToIndex(std::wstring_view text, std::size_t limit, DWORD& dwIndex)
 
 const Table& CSpSIUTEK0816RegInfo::Settings() noexcept
 {
-    static constexpr Table kTable{L"CSpSIUTEK0816RegInfo", &CSIURegInfo::Settings, nullptr, kSettings};
-    return kTable;
+    static const Table table{L"CSpSIUTEK0816RegInfo", &CSIURegInfo::Settings, nullptr, Rows<kSettings>};
+    return table;
 }
 
 CSpSIUTEK0816RegInfo::CSpSIUTEK0816RegInfo(const CString& strName, bool bPhysicalName)
     : CSIURegInfo(strName, bPhysicalName)
 {
-    Construct(*this, kSettings);
+    Construct(*this, Rows<kSettings>);
 }
+
+CSpSIUTEK0816RegInfo::~CSpSIUTEK0816RegInfo() = default;
 
 bool CSpSIUTEK0816RegInfo::Load(CLog* pLog)
 {

@@ -47,6 +47,7 @@ class WQSPCFG_API CSpSIUTEK0816RegInfo : public CSIURegInfo, public wqspcfg::Saf
     static constexpr unsigned kSwitches = 8;
 
     CSpSIUTEK0816RegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpSIUTEK0816RegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

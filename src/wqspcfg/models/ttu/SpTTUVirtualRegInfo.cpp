@@ -15,8 +15,8 @@ constexpr Setting kButtonRows[] = {
      L"", L"text on the function-key button; empty shows its number", Saved, Label(L"FDK%d\\Text")},
 };
 constexpr Setting kSettings[] = {
-    Group(kTextTerminalRows<C>),
-    Repeat(1, C::kFdkButtons, kButtonRows),
+    Group(Rows<kTextTerminalRows<C>>),
+    Repeat(1, C::kFdkButtons, Rows<kButtonRows>),
 };
 // clang-format on
 

@@ -22,6 +22,7 @@ class WQSPCFG_API CSpTTUVirtualRegInfo : public CTTURegInfo, public wqspcfg::Tex
     static constexpr unsigned kFdkButtons = 8;
 
     CSpTTUVirtualRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpTTUVirtualRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -8,6 +8,7 @@ class WQSPCFG_API CSpTtuExeRegInfo : public CTTURegInfo, public wqspcfg::TextTer
 {
   public:
     CSpTtuExeRegInfo(const CString& strName, bool bPhysicalName);
+    ~CSpTtuExeRegInfo() override;
     bool Load(CLog* pLog) override;
     void Save() override;
 

@@ -10,14 +10,14 @@ namespace {
 using NameParts = CArray<tagFSNNamePart>;
 
 template <class R>
-bool LoadRecord(R& record, HKEY hKey, std::span<const Setting> rows)
+bool LoadRecord(R& record, HKEY hKey, RowList rows)
 {
     Loading loading(record, hKey);
     return loading.Read(rows);
 }
 
 template <class R>
-bool SaveRecord(const R& record, HKEY hKey, std::span<const Setting> rows)
+bool SaveRecord(const R& record, HKEY hKey, RowList rows)
 {
     KeyWriter writer(hKey);
     WriteRecord(record, rows, hKey, writer);
@@ -25,7 +25,7 @@ bool SaveRecord(const R& record, HKEY hKey, std::span<const Setting> rows)
 }
 
 // The key of a name part below that of the record.
-std::wstring PartKey(std::span<const Setting> rows, const Iteration& part)
+std::wstring PartKey(RowList rows, const Iteration& part)
 {
     return ForIteration(rows[0].key.subkey + std::size(L"SNRData"), &part);
 }
@@ -36,7 +36,7 @@ Iteration PartAt(INT_PTR nIndex)
 }
 
 // A part as it is stored; its type is 0 when the list ends before it.
-tagFSNNamePart ReadPart(HKEY hKey, const std::wstring& strKey, std::span<const Setting> rows)
+tagFSNNamePart ReadPart(HKEY hKey, const std::wstring& strKey, RowList rows)
 {
     KeyReader reader(hKey, strKey);
     tagFSNNamePart part;
@@ -49,7 +49,7 @@ tagFSNNamePart ReadPart(HKEY hKey, const std::wstring& strKey, std::span<const S
     return part;
 }
 
-bool SaveNameParts(HKEY hKey, const NameParts& parts, std::span<const Setting> rows)
+bool SaveNameParts(HKEY hKey, const NameParts& parts, RowList rows)
 {
     bool bDone = true;
     // A list that has become shorter ends before a part of type 0.
@@ -76,7 +76,7 @@ bool SaveNameParts(HKEY hKey, const NameParts& parts, std::span<const Setting> r
 
 } // namespace
 
-void wqspcfg::LoadNameParts(NameParts& parts, Loading& loading, std::span<const Setting> rows)
+void wqspcfg::LoadNameParts(NameParts& parts, Loading& loading, RowList rows)
 {
     parts.RemoveAll();
     while (true) {
@@ -99,64 +99,64 @@ SerialRecord::~SerialRecord()
 
 tagBillSNRegInfo::tagBillSNRegInfo()
 {
-    Construct(*this, kBillSNRows);
+    Construct(*this, Rows<kBillSNRows>);
 }
 
 bool tagBillSNRegInfo::Load(HKEY hKey)
 {
-    return LoadRecord(*this, hKey, kBillSNRows);
+    return LoadRecord(*this, hKey, Rows<kBillSNRows>);
 }
 
 bool tagBillSNRegInfo::Save(HKEY hKey) const
 {
-    return SaveRecord(*this, hKey, kBillSNRows);
+    return SaveRecord(*this, hKey, Rows<kBillSNRows>);
 }
 
 tagBillFSNRegInfo::tagBillFSNRegInfo()
 {
-    Construct(*this, kBillFSNRows);
+    Construct(*this, Rows<kBillFSNRows>);
 }
 
 bool tagBillFSNRegInfo::Load(HKEY hKey)
 {
-    return LoadRecord(*this, hKey, kBillFSNRows);
+    return LoadRecord(*this, hKey, Rows<kBillFSNRows>);
 }
 
 bool tagBillFSNRegInfo::Save(HKEY hKey) const
 {
     KeyWriter whole(hKey); // everything is written together
-    const bool bValues = SaveRecord(*this, hKey, kBillFSNRows);
-    const bool bFileName = SaveNameParts(hKey, FileNameParts, kFileNamePartRows);
-    const bool bFolder = SaveNameParts(hKey, FolderParts, kFolderPartRows);
+    const bool bValues = SaveRecord(*this, hKey, Rows<kBillFSNRows>);
+    const bool bFileName = SaveNameParts(hKey, FileNameParts, Rows<kFileNamePartRows>);
+    const bool bFolder = SaveNameParts(hKey, FolderParts, Rows<kFolderPartRows>);
     return whole.Commit() && bValues && bFileName && bFolder;
 }
 
 tagBillBLRegInfo::tagBillBLRegInfo()
 {
-    Construct(*this, kBillBLRows);
+    Construct(*this, Rows<kBillBLRows>);
 }
 
 bool tagBillBLRegInfo::Load(HKEY hKey)
 {
-    return LoadRecord(*this, hKey, kBillBLRows);
+    return LoadRecord(*this, hKey, Rows<kBillBLRows>);
 }
 
 bool tagBillBLRegInfo::Save(HKEY hKey) const
 {
-    return SaveRecord(*this, hKey, kBillBLRows);
+    return SaveRecord(*this, hKey, Rows<kBillBLRows>);
 }
 
 tagBillFAIRegInfo::tagBillFAIRegInfo()
 {
-    Construct(*this, kBillFAIRows);
+    Construct(*this, Rows<kBillFAIRows>);
 }
 
 bool tagBillFAIRegInfo::Load(HKEY hKey)
 {
-    return LoadRecord(*this, hKey, kBillFAIRows);
+    return LoadRecord(*this, hKey, Rows<kBillFAIRows>);
 }
 
 bool tagBillFAIRegInfo::Save(HKEY hKey) const
 {
-    return SaveRecord(*this, hKey, kBillFAIRows);
+    return SaveRecord(*this, hKey, Rows<kBillFAIRows>);
 }

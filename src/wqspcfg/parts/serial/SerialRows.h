@@ -12,7 +12,7 @@
 namespace wqspcfg {
 
 // Reads and logs a list of name parts: rows[0] to rows[2] are a part's type, text and link.
-void LoadNameParts(CArray<tagFSNNamePart>& parts, Loading& loading, std::span<const Setting> rows);
+void LoadNameParts(CArray<tagFSNNamePart>& parts, Loading& loading, RowList rows);
 
 inline constexpr Key kSnrData = key::Below(L"SNRData");
 inline constexpr Key kFileNamePart = key::Below(L"SNRData\\FSNFileNameParts\\Data%d");
@@ -49,10 +49,10 @@ inline constexpr Setting kFolderPartRows[] = {
     {kFolderPart, L"Link",  StringValue, L"", kPartLink, Saved, NotLogged, Label(L"FSNFolderParts\\Data%d.Link")},
 };
 inline constexpr auto kLoadFileNameParts = [](tagBillFSNRegInfo& record, Loading& loading) {
-    LoadNameParts(record.FileNameParts, loading, kFileNamePartRows);
+    LoadNameParts(record.FileNameParts, loading, Rows<kFileNamePartRows>);
 };
 inline constexpr auto kLoadFolderParts = [](tagBillFSNRegInfo& record, Loading& loading) {
-    LoadNameParts(record.FolderParts, loading, kFolderPartRows);
+    LoadNameParts(record.FolderParts, loading, Rows<kFolderPartRows>);
 };
 
 inline constexpr Setting kFullImageWords[] = {
@@ -62,8 +62,8 @@ inline constexpr Setting kFullImageWords[] = {
      L"full note images are made, bit set: 1 of rejected notes; 2 of genuine notes", Format(L"0x%04x")},
 };
 inline constexpr auto kFullImageLines = [](tagBillSNRegInfo& record, Loading& loading) {
-    loading.Print(kFullImageWords[0], LOWORD(record.dwMakeFullImage));
-    loading.Print(kFullImageWords[1], HIWORD(record.dwMakeFullImage));
+    loading.Print(Rows<kFullImageWords>[0], LOWORD(record.dwMakeFullImage));
+    loading.Print(Rows<kFullImageWords>[1], HIWORD(record.dwMakeFullImage));
 };
 
 inline constexpr Setting kBillSNRows[] = {
@@ -201,8 +201,8 @@ inline constexpr Setting kBillFSNRows[] = {
      L"word in the file name for the operation CDM reset", Saved},
     {kSnrData, L"CDMReject", &tagBillFSNRegInfo::CDMReject, L"CDMReject",
      L"word in the file name for the operation CDM reject", Saved},
-    Step(kLoadFileNameParts, kFileNamePartRows),
-    Step(kLoadFolderParts, kFolderPartRows),
+    Step(kLoadFileNameParts, Rows<kFileNamePartRows>),
+    Step(kLoadFolderParts, Rows<kFolderPartRows>),
 };
 
 inline constexpr Setting kBillBLRows[] = {

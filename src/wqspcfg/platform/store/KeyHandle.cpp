@@ -202,6 +202,15 @@ bool KeyWriter::Set(std::wstring_view name, const CString& value)
     return done;
 }
 
+void KeyWriter::AtEnd(const std::function<void(bool committed)>& call)
+{
+    if (m_scope) {
+        (*m_scope)->AtEnd(call);
+    } else { // the Windows registry, which commits nothing
+        call(!m_failed);
+    }
+}
+
 bool KeyWriter::Commit()
 {
     if (m_scope && !m_scope->Commit()) {

@@ -5,6 +5,7 @@
 #include "wqspcfg/platform/framework/FrameworkTypes.h"
 #include "wqspcfg/platform/store/Session.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -71,6 +72,8 @@ class WQSPCFG_API KeyWriter
 
     bool Set(std::wstring_view name, DWORD value);
     bool Set(std::wstring_view name, const CString& value);
+    // Calls back when what was written is committed, or when it is not to be.
+    void AtEnd(const std::function<void(bool committed)>& call);
     // Ends the writing and tells whether all of it succeeded. Within a Save it becomes durable with that.
     bool Commit();
 

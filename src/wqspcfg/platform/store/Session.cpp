@@ -482,6 +482,9 @@ bool WriteScope::Commit()
         if (!m_own->Failure()) {
             m_own->Commit(m_own->m_flush);
         }
+        for (const auto& call : m_own->m_atEnd) {
+            call(!m_own->Failure());
+        }
         if (m_outer) {
             if (m_own->Failure()) {
                 m_outer->Fail(m_own->Failure());

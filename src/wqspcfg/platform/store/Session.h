@@ -6,11 +6,13 @@
 #include <cstdint>
 #include <deque>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace wqspcfg {
@@ -72,6 +74,8 @@ class WQSPCFG_API Session
     // Counts as a failure of this session: a write that no store could keep.
     Outcome Refuse(const Error& error) { return Fail(error); }
 
+    // Calls back when the session ends, and tells whether what it wrote was committed.
+    void AtEnd(std::function<void(bool committed)> call) { m_atEnd.push_back(std::move(call)); }
     // Who is told of what this session reads from now on; null: nobody.
     void Observe(ReadObserver* observer) noexcept { m_observer = observer; }
     Access GetAccess() const noexcept { return m_access; }
@@ -133,6 +137,7 @@ class WQSPCFG_API Session
     Error m_failure;
     Access m_access;
     std::size_t m_created = 0; // how many keys this session has created
+    std::vector<std::function<void(bool)>> m_atEnd;
     bool m_recordWrites = false;
     bool m_flush = false;
 };
