@@ -3,6 +3,7 @@
 #include "Benchmarks.h"
 #include "RawLmdb.h"
 
+#include "wqspcfg/core/SavePolicy.h"
 #include "wqspcfg/platform/store/Backup.h"
 
 #include <benchmark/benchmark.h>
@@ -118,6 +119,22 @@ void Save(benchmark::State& state, const wqspcfg::ClassEntry& entry)
     state.counters["values"] = static_cast<double>(which.keys.size());
 }
 
+// A Save that finds everything as it would write it.
+void SaveUnchanged(benchmark::State& state, const wqspcfg::ClassEntry& entry, wqspcfg::SavePolicy policy)
+{
+    const auto& which = CaseOf(entry);
+    wqspcfg::SetSavePolicy(policy);
+    wqspcfg::SetCurrentStore(which.prepared);
+    const auto object = ObjectIn(entry, 0);
+    wqspcfg::SetCurrentStore(which.store);
+    object->Load(nullptr);
+    object->Save();
+    for (auto _ : state) {
+        object->Save();
+    }
+    wqspcfg::SetSavePolicy(wqspcfg::SavePolicy::All);
+}
+
 void CommitOnce(benchmark::State& state, const wqspcfg::ClassEntry& entry)
 {
     auto& which = CaseOf(entry);
@@ -162,6 +179,12 @@ void RegisterSave()
         add("limit", CommitOnce);
         add("WQSpCfg", Save);
         add("per value", CommitEach);
+        add("unchanged", [](benchmark::State& state, const wqspcfg::ClassEntry& of) {
+            SaveUnchanged(state, of, wqspcfg::SavePolicy::All);
+        });
+        add("unchanged, own changes", [](benchmark::State& state, const wqspcfg::ClassEntry& of) {
+            SaveUnchanged(state, of, wqspcfg::SavePolicy::OwnChanges);
+        });
     }
 }
 

@@ -112,6 +112,17 @@ def save_row(results, class_name):
     )
 
 
+def unchanged_save_row(results, class_name):
+    work = f"Save/{class_name}"
+    every, own = results.of(work, "unchanged", "unchanged, own changes")
+    return row(
+        f"`Save` of `{class_name}` when nothing has changed",
+        "measured",
+        None,
+        f"{time(every)}; under `SavePolicy::OwnChanges` {time(own)}",
+    )
+
+
 def start_row(results):
     limit, ours = results.of("Start/1000000", "limit", "WQSpCfg")
     return row(
@@ -169,6 +180,7 @@ def comparison(results, programs):
     rows = [load_row(results, name, values) for name in CLASSES for values in (TERMINAL, 0)]
     rows += [value_row(results, 10**n) for n in range(3, 7)]
     rows += [save_row(results, name) for name in CLASSES]
+    rows += [unchanged_save_row(results, name) for name in CLASSES]
     rows += [start_row(results), transfer_row(results, "Import"), transfer_row(results, "Export")]
     rows += diagnosis_rows(results)
     if any(name.startswith("Windows/") for name in results.times):
@@ -240,6 +252,19 @@ def growth(results):
     }
 
 
+def shared_library(programs):
+    rows = []
+    for form, program, file in (
+        ("shared library", "bench_provider_memory_shared", (programs / "libWQSpCfg.so").resolve().name),
+        ("static library, in the program", "bench_provider_memory", "bench_provider_memory"),
+    ):
+        image = programs / file
+        relocations = subprocess.run(["readelf", "-rW", image], capture_output=True, text=True, check=True).stdout
+        dirty = subprocess.run([programs / program, file], capture_output=True, text=True, check=True).stdout
+        rows.append([form, f"{relocations.count('_RELATIVE'):,}", f"{int(dirty)} KiB"])
+    return table(["form", "relative relocations", "private memory after a `Load`"], rows)
+
+
 def output(*command):
     """The first line that a command prints; empty when there is none."""
     try:
@@ -278,6 +303,7 @@ def main():
         "machine": machine(os.environ.get("TMPDIR", options.results)),
         "table": comparison(results, options.results.parent / "release"),
         **growth(results),
+        "shared": shared_library(options.results.parent / "release"),
     }
     if options.write is None:
         print("\n\n".join(sections.values()))

@@ -1,0 +1,36 @@
+// A service provider of one model that tells what it costs in memory that no other process shares: after its Load, the
+// changed pages of the file that holds this library.
+#include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
+#include "wqspcfg/platform/store/Session.h"
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+int main(int argc, char** argv)
+{
+    wqspcfg::Error error;
+    const auto store = argc == 2 ? wqspcfg::OpenStore("memory:", {}, error) : nullptr;
+    if (!store) {
+        std::fprintf(stderr, "%s\n", argc != 2 ? "usage: FILE-THAT-HOLDS-THE-LIBRARY" : error.message.c_str());
+        return 1;
+    }
+    wqspcfg::SetCurrentStore(store);
+    CSpCRDWQTYM1200RegInfo config(L"CardDispenser", false);
+    config.Load(nullptr);
+
+    std::ifstream smaps("/proc/self/smaps");
+    bool isOfFile = false;
+    unsigned long dirty = 0;
+    for (std::string line; std::getline(smaps, line);) {
+        if (line.find('-') < line.find(' ')) { // the head of a mapping; memory without a name behind a file's is its .bss
+            const auto name = line.rfind(' ') + 1;
+            isOfFile = line.find(argv[1]) != std::string::npos || (isOfFile && name == line.size());
+        } else if (isOfFile && line.starts_with("Private_Dirty:")) {
+            dirty += std::stoul(line.substr(line.find(':') + 1));
+        }
+    }
+    std::printf("%lu\n", dirty);
+    return dirty == 0 ? 1 : 0;
+}
