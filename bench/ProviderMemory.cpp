@@ -24,7 +24,8 @@ int main(int argc, char** argv)
     bool isOfFile = false;
     unsigned long dirty = 0;
     for (std::string line; std::getline(smaps, line);) {
-        if (line.find('-') < line.find(' ')) { // the head of a mapping; memory without a name behind a file's is its .bss
+        // The head of a mapping. Memory without a name behind that of a file is for its own data.
+        if (line.find('-') < line.find(' ')) {
             const auto name = line.rfind(' ') + 1;
             isOfFile = line.find(argv[1]) != std::string::npos || (isOfFile && name == line.size());
         } else if (isOfFile && line.starts_with("Private_Dirty:")) {

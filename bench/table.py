@@ -254,6 +254,7 @@ def growth(results):
 
 def shared_library(programs):
     rows = []
+    os.sync()  # what is not on the disk yet would count as changed
     for form, program, file in (
         ("shared library", "bench_provider_memory_shared", (programs / "libWQSpCfg.so").resolve().name),
         ("static library, in the program", "bench_provider_memory", "bench_provider_memory"),
