@@ -154,6 +154,25 @@ void Check(benchmark::State& state, bool check)
     }
 }
 
+#if defined(BENCH_LARGE_HIVE)
+// The services of a terminal, from the registry on its disk.
+void Disk(benchmark::State& state)
+{
+    const auto directory = bench::Scratch() / "disk";
+    if (std::filesystem::create_directory(directory)) {
+        RunProgram(BENCH_LARGE_HIVE, {BENCH_EXAMPLE, directory});
+    }
+    double peak = 0;
+    for (auto _ : state) {
+        const auto run = RunProgram(BENCH_WQSPCFG, {"--store", "hive:" + directory, "services"});
+        peak = std::max(peak, run.peakBytes);
+        state.SetIterationTime(run.seconds);
+    }
+    state.counters["peak"] = peak;
+    state.counters["size"] = static_cast<double>(std::filesystem::file_size(directory + "/SOFTWARE"));
+}
+#endif
+
 void Transfer(benchmark::State& state, std::size_t values, bool import)
 {
     const auto file = RegFile(values);
@@ -208,6 +227,9 @@ int main(int argc, char** argv)
     add("Explain/WQSpCfg", Explain, true);
     add("Check/limit", Check, false);
     add("Check/WQSpCfg", Check, true);
+#if defined(BENCH_LARGE_HIVE)
+    benchmark::RegisterBenchmark("Disk/WQSpCfg", Disk)->UseManualTime()->Unit(benchmark::kMillisecond);
+#endif
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

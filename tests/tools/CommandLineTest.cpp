@@ -58,7 +58,7 @@ TEST_F(CommandLineTest, MistakesAreNamedWithWhatWasMeant)
         {{"load", "x", "--model", "CNone"}, "there is no class \"CNone\""},
         {{"reference", "CNone"}, "there is no class \"CNone\""},
         {{"models", "--view32"}, "--view32 does not apply to models"},
-        {{"ls", "--view32"}, "--view32 applies to import and to reg: and windows: stores"},
+        {{"ls", "--view32"}, "--view32 applies to import and to reg:, hive: and windows: stores"},
         {{"ls", "--codepage", "936"}, "--codepage applies to import and to reg: stores"},
         {{"import", "x", "--codepage", "1200"}, "code page 1200 is not known"},
         {{"ls", "a\x1b[2J\n"}, "invalid key \"a<U+001B>[2J<U+000A>\""},
@@ -135,6 +135,14 @@ TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsStatus3AndIsNamed)
     EXPECT_NE(m_err.find("memory:"), std::string::npos) << m_err;
     EXPECT_FALSE(std::filesystem::exists(File("b")));
     EXPECT_EQ(RunOn("memory:", {"restore", File("b")}), 3);
+#if !defined(WQSPCFG_WITH_HIVEX)
+    EXPECT_EQ(RunOn("hive:" + File("config"), {"services"}), 3);
+#if defined(_WIN32)
+    EXPECT_NE(m_err.find("`reg load`"), std::string::npos) << m_err;
+#else
+    EXPECT_NE(m_err.find("without libhivex"), std::string::npos) << m_err;
+#endif
+#endif
 }
 
 #if !defined(_WIN32)

@@ -41,6 +41,11 @@ class CommandLineTest : public test::ConfigTest
     int RunOn(const std::string& store, std::vector<std::string> arguments, const std::string& input = {})
     {
         arguments.insert(arguments.begin(), {"--store", store});
+        return RunAlone(arguments, input);
+    }
+    // Without a store.
+    int RunAlone(const std::vector<std::string>& arguments, const std::string& input = {})
+    {
         std::istringstream in(input);
         std::ostringstream out;
         std::ostringstream err;

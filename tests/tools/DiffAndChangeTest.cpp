@@ -34,14 +34,7 @@ class DiffAndChangeTest : public CommandLineTest
     int Diff(const std::string& left, const std::string& right, std::vector<std::string> options = {})
     {
         options.insert(options.begin(), {"diff", left, right});
-        std::istringstream in;
-        std::ostringstream out;
-        std::ostringstream err;
-        const int status = tools::Run(options, in, out, err);
-        m_out = out.str();
-        m_err = err.str();
-        ResetProcess();
-        return status;
+        return RunAlone(options);
     }
 
     // An embedded store with the card dispenser.

@@ -99,6 +99,7 @@ class Program
 
 Program::Program(const Console& console) : m_console(console)
 {
+    m_store.note = [this](const std::string& message) { m_console.Note(message); };
     m_app.set_version_flag("--version", std::string("wqspcfg ") + WQSPCFG_VERSION, "Print the version");
     m_app.set_help_flag("-h,--help", "Print this help");
     m_app.require_subcommand(1);
@@ -111,12 +112,12 @@ Program::Program(const Console& console) : m_console(console)
     m_app
         .add_option_function<std::string>(
             "--store", [this](const std::string& address) { m_store.address = address; },
-            "lmdb:DIRECTORY, reg:FILE, memory:, windows:, windows:32 or windows:64. Default: the environment "
-            "variable WQSPCFG_STORE, else the store of the platform")
+            "lmdb:DIRECTORY, reg:FILE, hive:DIRECTORY, hive:FILE, memory:, windows:, windows:32 or windows:64. "
+            "Default: the environment variable WQSPCFG_STORE, else the store of the platform")
         ->option_text("ADDRESS");
     m_app.add_flag("--view32", m_store.view32,
-                   "Take the keys of 32-bit programs: SOFTWARE\\WOW6432Node\\XFS of a reg: store or an imported file "
-                   "as SOFTWARE\\XFS, and the 32-bit view of windows:");
+                   "Take the keys of 32-bit programs: SOFTWARE\\WOW6432Node\\XFS of a reg: or hive: store or an "
+                   "imported file as SOFTWARE\\XFS, and the 32-bit view of windows:");
     m_app
         .add_option("--codepage", m_store.codePage,
                     "Code page of REGEDIT4 text in a reg: store or an imported file, such as 936 or 1252. Default: the "

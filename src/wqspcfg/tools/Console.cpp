@@ -1,6 +1,9 @@
 #include "wqspcfg/tools/Console.h"
 
 #include "wqspcfg/platform/text/CodePage.h"
+#if defined(WQSPCFG_WITH_HIVEX)
+#include "wqspcfg/tools/hive/HiveStore.h"
+#endif
 
 #include <cstdlib>
 #include <filesystem>
@@ -10,6 +13,7 @@ namespace wqspcfg::tools {
 namespace {
 
 constexpr std::string_view kEmbedded = "lmdb:";
+constexpr std::string_view kDisk = "hive:";
 
 } // namespace
 
@@ -36,7 +40,8 @@ StoreChoice StoreChoice::At(const std::string& other, const std::string& option)
     auto choice = *this;
     choice.address = other;
     const bool isFile = other.starts_with("reg:");
-    choice.view32 = view32 && other != "windows:64" && (isFile || other.starts_with("windows:"));
+    choice.view32 =
+        view32 && other != "windows:64" && (isFile || other.starts_with(kDisk) || other.starts_with("windows:"));
     choice.codePage = isFile ? codePage : 0;
     return choice;
 }
@@ -45,11 +50,12 @@ void StoreChoice::Check(bool isImport) const
 {
     const auto store = Address();
     const bool isFile = store.starts_with("reg:");
+    const bool isDisk = store.starts_with(kDisk);
     if (view32 && store == "windows:64") {
         throw UsageError("--view32 contradicts windows:64, which is the view of 64-bit programs");
     }
-    if (view32 && !isFile && !isImport && !store.starts_with("windows:")) {
-        throw UsageError("--view32 applies to import and to reg: and windows: stores, not to " + store);
+    if (view32 && !isFile && !isDisk && !isImport && !store.starts_with("windows:")) {
+        throw UsageError("--view32 applies to import and to reg:, hive: and windows: stores, not to " + store);
     }
     if (codePage != 0 && !isFile && !isImport) {
         throw UsageError("--codepage applies to import and to reg: stores, not to " + store);
@@ -64,7 +70,7 @@ std::shared_ptr<Store> StoreChoice::Open(Access access, Error& error, bool isImp
     Check(isImport);
     const OpenOptions options{
         .readOnly = access == Access::Read, .create = false, .view32 = view32, .codePage = codePage};
-    return OpenStore(Address(), options, error);
+    return OpenAddress(options, error);
 }
 
 std::shared_ptr<Store> StoreChoice::OpenOrCreate(const Console& console, Error& error, bool isImport) const
@@ -72,11 +78,42 @@ std::shared_ptr<Store> StoreChoice::OpenOrCreate(const Console& console, Error& 
     Check(isImport);
     const bool existed = Exists();
     const OpenOptions options{.readOnly = false, .create = true, .view32 = view32, .codePage = codePage};
-    auto store = OpenStore(Address(), options, error);
+    auto store = OpenAddress(options, error);
     if (store && !existed) {
         NoteCreated(console);
     }
     return store;
+}
+
+std::shared_ptr<Store> StoreChoice::OpenAddress(const OpenOptions& options, Error& error) const
+{
+    const auto store = Address();
+    if (!store.starts_with(kDisk)) {
+        return OpenStore(store, options, error);
+    }
+    const auto path = store.substr(kDisk.size());
+    if (path.empty()) {
+        throw UsageError("hive: is to be followed by a directory or a file");
+    }
+#if defined(WQSPCFG_WITH_HIVEX)
+    auto hives = HiveStore::Open(store, path, options.view32, error);
+    if (hives && note) {
+        for (const auto& message : hives->Notes()) {
+            note(message);
+        }
+    }
+    return hives;
+#else
+#if defined(_WIN32)
+    constexpr char kCause[] = ": the registry on a disk is not read on Windows; load the hive with `reg load`, and "
+                              "export its keys with `reg export`";
+#else
+    constexpr char kCause[] = ": this program was built without libhivex, which reads the registry on a disk; install "
+                              "libhivex-dev and build it again";
+#endif
+    error = {ErrorKind::Unsupported, store + kCause};
+    return nullptr;
+#endif
 }
 
 bool StoreChoice::Exists() const

@@ -6,6 +6,7 @@
 #include "wqspcfg/platform/text/DisplayText.h"
 #include "wqspcfg/platform/text/Utf.h"
 
+#include <functional>
 #include <istream>
 #include <memory>
 #include <optional>
@@ -55,6 +56,8 @@ struct StoreChoice
     bool view32 = false;
     unsigned codePage = 0;
     bool secrets = false; // show keys and passwords
+    // Takes what is to be said of a store that was opened.
+    std::function<void(const std::string&)> note;
 
     // Throws UsageError for an empty address.
     std::string Address() const;
@@ -63,12 +66,16 @@ struct StoreChoice
     StoreChoice At(const std::string& other, const std::string& option) const;
     // Throws UsageError where --view32 or --codepage cannot apply. `isImport`: they may concern the imported file.
     void Check(bool isImport) const;
+    // As OpenStore, and `hive:DIRECTORY` or `hive:FILE`: the registry on the disk of a terminal that does not run.
     std::shared_ptr<Store> Open(Access access, Error& error, bool isImport = false) const;
     // Creates an embedded store that does not exist, and names it on standard error.
     std::shared_ptr<Store> OpenOrCreate(const Console& console, Error& error, bool isImport = false) const;
     // Whether an embedded store is there to be opened. True for other stores.
     bool Exists() const;
     void NoteCreated(const Console& console) const;
+
+  private:
+    std::shared_ptr<Store> OpenAddress(const OpenOptions& options, Error& error) const;
 };
 
 inline std::string Utf8(std::wstring_view text)

@@ -35,10 +35,9 @@ std::shared_ptr<Store> OpenForServices(const StoreChoice& choice, Access access,
         transaction->OpenKey(Hive::LocalMachine, kXfsKey32, key) == Outcome::Found) {
         const bool isWindows = store->Address().starts_with("windows:");
         error = {ErrorKind::BadArgument,
-                 store->Address() +
-                     ": the service providers of this terminal are 32-bit programs, whose keys stand "
-                     "under SOFTWARE\\WOW6432Node\\XFS; " +
-                     (isWindows ? "give --view32" : "import the registry export again with `import --view32`")};
+                 store->Address() + Only32BitKeys(isWindows ? "give --view32"
+                                                            : "import the registry export again with `import "
+                                                              "--view32`")};
         return nullptr;
     }
     return store;

@@ -87,6 +87,11 @@ std::shared_ptr<Store> OpenStore(std::string_view address, const OpenOptions& op
         return nullptr;
     }
 #endif
+    if (address.starts_with("hive:")) {
+        error = {ErrorKind::Unsupported,
+                 whole + ": only the program wqspcfg reads the registry on a disk; import an `export` of it"};
+        return nullptr;
+    }
     error = {ErrorKind::BadArgument,
              "unknown store address \"" + whole +
                  "\"; expected windows:, windows:32, windows:64, lmdb:DIRECTORY, memory: or reg:FILE"};
