@@ -73,7 +73,7 @@ else()
     set(program_docs ${CMAKE_INSTALL_DATADIR}/doc/wqspcfg)
     set(development_docs ${CMAKE_INSTALL_DATADIR}/doc/libwqspcfg-dev)
 endif()
-install(FILES docs/stores.md docs/decisions.md DESTINATION ${development_docs}
+install(FILES docs/service-providers.md docs/stores.md docs/decisions.md DESTINATION ${development_docs}
         COMPONENT development)
 install(FILES docs/diagnosis.md docs/stores.md docs/decisions.md DESTINATION ${program_docs} COMPONENT program)
 install(DIRECTORY docs/reference DESTINATION ${program_docs} COMPONENT program)
