@@ -26,7 +26,9 @@ endfunction()
 
 function(wqspcfg_link_options target)
     target_link_options(${target} PRIVATE -Wl,--gc-sections)
-    if(NOT WIN32)
+    if(WIN32)
+        target_link_options(${target} PRIVATE -Wl,--no-insert-timestamp) # the same sources give the same bytes
+    else()
         target_link_options(${target} PRIVATE -Wl,-z,relro,-z,now)
         if(NOT WQSPCFG_SANITIZE)
             target_link_options(${target} PRIVATE -Wl,--no-undefined)

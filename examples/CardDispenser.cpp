@@ -44,8 +44,8 @@ int main(int argc, char** argv)
 
     wqspcfg::StreamLog log(std::cout);
     CSpCRDWQTYM1200RegInfo config(CString(wqspcfg::NarrowToWide(argv[2])), false);
-    if (!config.Load(&log)) {
-        return 1;
+    if (!config.Load(&log) || wqspcfg::LastStoreError()) {
+        return 1; // the log says why
     }
     std::cout << "port " << config.m_dwPort << " at " << config.m_dwBaudRate << " baud\n";
 

@@ -493,7 +493,8 @@ std::map<std::string, std::string> ReferencePages()
     std::map<std::string, std::string> pages;
     std::string index =
         "# Settings\n\nEvery setting of every class, one page for each device class. `wqspcfg reference` "
-        "prints the same for one class or all of them.\n\n- [Shared by all](shared.md)\n";
+        "prints the same for one class or all of them. What the settings leave open, and how it was decided: "
+        "[decisions](../decisions.md).\n\n- [Shared by all](shared.md)\n";
     pages["shared.md"] = Page("Settings that all service providers share", kKeys, shared);
     for (const auto& [deviceClass, entries] : byDeviceClass) {
         auto sorted = entries;
