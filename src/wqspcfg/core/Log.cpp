@@ -93,6 +93,9 @@ int StreamLog::Write(Severity, DWORD, std::wstring_view text)
 
 int FileLog::Write(Severity severity, DWORD, std::wstring_view text)
 {
+    // One for all: they write to one disk. The time is made under it too: the C library takes a lock of its own for the
+    // time zone, which a fork would leave locked in the child.
+    const std::lock_guard lock(ForkSafeMutex(ForkSafe::FileLogs));
     const auto now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     std::tm local{};
 #if defined(_WIN32)
@@ -102,7 +105,6 @@ int FileLog::Write(Severity severity, DWORD, std::wstring_view text)
 #endif
     char time[32];
     std::strftime(time, sizeof time, "%Y-%m-%d %H:%M:%S", &local);
-    const std::lock_guard lock(ForkSafeMutex(ForkSafe::FileLogs)); // one for all: they write to one disk
     return Append(m_path, std::string(time) + ' ' + NameOf(severity) + ' ' + Lines(text)) ? 1 : 0;
 }
 
