@@ -1,5 +1,7 @@
 #include "wqspcfg/parts/serial/BillFSNRegInfo.h"
 #include "wqspcfg/platform/store/KeyHandle.h"
+#include "wqspcfg/platform/store/RegistryValue.h"
+#include "wqspcfg/platform/store/Session.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +33,39 @@ TEST(KeyHandleWindowsTest, RecordsTakeAKeyOfTheWindowsRegistry)
     EXPECT_EQ(read.DevNO, CString());
     RegCloseKey(hKey);
     RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\WQSpCfgTest");
+}
+
+// What another module reads and writes through the handle is what the library does.
+TEST(KeyHandleWindowsTest, TheHandleIsOneOfTheSystem)
+{
+    using namespace wqspcfg;
+    Error error;
+    const auto before = CurrentStore(error);
+    SetCurrentStore(OpenStore("windows:", {}, error));
+    constexpr wchar_t kPath[] = L"SOFTWARE\\WQSpCfgTest\\Handle";
+    {
+        WriteScope scope;
+        const DwordBytes five(5);
+        scope->Set(scope->Open(kPath), L"dwAPID", five.View());
+    }
+    KeyHandle key;
+    ASSERT_TRUE(key.Open(kPath));
+    DWORD number = 0;
+    DWORD size = sizeof number;
+    EXPECT_EQ(RegQueryValueExW(key.Get(), L"dwAPID", nullptr, nullptr, reinterpret_cast<BYTE*>(&number), &size),
+              ERROR_SUCCESS);
+    EXPECT_EQ(number, 5U);
+    number = 6;
+    EXPECT_EQ(RegSetValueExW(key.Get(), L"dwAPID", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number), sizeof number),
+              ERROR_SUCCESS);
+    DWORD read = 0;
+    EXPECT_TRUE(KeyReader(key.Get()).Query(L"dwAPID", read));
+    EXPECT_EQ(read, 6U);
+    key.Close();
+    EXPECT_EQ(key.Get(), nullptr);
+    EXPECT_FALSE(key.Open(L"SOFTWARE\\WQSpCfgTest\\Missing"));
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\WQSpCfgTest");
+    SetCurrentStore(before);
 }
 
 } // namespace

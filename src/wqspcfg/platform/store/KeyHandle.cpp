@@ -1,20 +1,22 @@
 #include "wqspcfg/platform/store/KeyHandle.h"
 
 #include "wqspcfg/platform/store/ForkSafe.h"
+#include "wqspcfg/platform/store/RegistryPath.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 
 #include <mutex>
-#include <unordered_set>
+#include <string>
+#include <unordered_map>
 
 namespace wqspcfg {
 
 namespace {
 
-// The handles that are open in this process. A HKEY is the address of its path.
+// The handles that are open in this process.
 struct OpenHandles
 {
     std::mutex& mutex = ForkSafeMutex(ForkSafe::KeyHandles);
-    std::unordered_set<const std::wstring*> paths;
+    std::unordered_map<HKEY, std::wstring> paths;
 };
 
 OpenHandles& Handles()
@@ -26,19 +28,34 @@ OpenHandles& Handles()
 // The path of the key, when it is one of a KeyHandle.
 std::optional<std::wstring> PathOf(HKEY key, std::wstring_view subkey)
 {
-    const auto* path = reinterpret_cast<const std::wstring*>(key);
     auto& handles = Handles();
     const std::lock_guard lock(handles.mutex);
-    if (!handles.paths.contains(path)) {
+    const auto found = handles.paths.find(key);
+    if (found == handles.paths.end()) {
         return std::nullopt;
     }
-    auto whole = *path;
+    auto whole = found->second;
     if (!subkey.empty()) {
         whole += L'\\';
         whole += subkey;
     }
     return whole;
 }
+
+#if defined(_WIN32)
+// The access of a key of the Windows registry when that is the current store.
+std::optional<REGSAM> AccessToRegistry()
+{
+    Error error;
+    const auto store = CurrentStore(error);
+    const auto address = store ? store->Address() : std::string();
+    if (!address.starts_with("windows:")) {
+        return std::nullopt;
+    }
+    constexpr REGSAM kAccess = KEY_READ | KEY_WRITE;
+    return kAccess | (address == "windows:32" ? KEY_WOW64_32KEY : address == "windows:64" ? KEY_WOW64_64KEY : 0);
+}
+#endif
 
 } // namespace
 
@@ -54,26 +71,48 @@ bool KeyHandle::Open(std::wstring_view path)
     if (!scope->Exists(scope->Open(path))) {
         return false;
     }
-    m_path = std::make_unique<std::wstring>(path);
+#if defined(_WIN32)
+    if (const auto access = AccessToRegistry()) {
+        const HKEY root = HiveOf(path) == Hive::Users ? HKEY_USERS : HKEY_LOCAL_MACHINE;
+        if (RegOpenKeyExW(root, std::wstring(path).c_str(), 0, *access, &m_key) != ERROR_SUCCESS) {
+            m_key = nullptr;
+            return false;
+        }
+        m_native = true;
+    }
+#endif
+    if (m_key == nullptr) { // the address of something that this handle owns
+        m_place = std::make_unique<char>();
+        m_key = reinterpret_cast<HKEY>(m_place.get());
+    }
     auto& handles = Handles();
     const std::lock_guard lock(handles.mutex);
-    handles.paths.insert(m_path.get());
+    handles.paths[m_key] = path;
     return true;
 }
 
 void KeyHandle::Close() noexcept
 {
-    if (m_path) {
+    if (m_key == nullptr) {
+        return;
+    }
+    {
         auto& handles = Handles();
         const std::lock_guard lock(handles.mutex);
-        handles.paths.erase(m_path.get());
-        m_path.reset();
+        handles.paths.erase(m_key);
     }
+#if defined(_WIN32)
+    if (std::exchange(m_native, false)) {
+        RegCloseKey(m_key);
+    }
+#endif
+    m_key = nullptr;
+    m_place.reset();
 }
 
 HKEY KeyHandle::Get() const noexcept
 {
-    return reinterpret_cast<HKEY>(m_path.get());
+    return m_key;
 }
 
 // ---- Reading ----

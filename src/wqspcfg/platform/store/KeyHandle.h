@@ -14,9 +14,10 @@
 
 namespace wqspcfg {
 
-// Owns a HKEY that stands for an existing key of the current store, whatever that store is. It is for KeyReader and
-// KeyWriter only: the Windows API does not know it, on Windows neither. So what is read through it within a Load comes
-// from the state that the Load reads, and what is written within a Save joins that Save, on every store.
+// Owns a HKEY that stands for an existing key of the current store. Where that is the Windows registry, it is a handle
+// of the system, open for reading and writing, which other modules can be handed too. On any other store only KeyReader
+// and KeyWriter know it. On every store, what these read through it within a Load comes from the state that the Load
+// reads, and what they write within a Save joins that Save.
 class WQSPCFG_API KeyHandle
 {
   public:
@@ -25,14 +26,19 @@ class WQSPCFG_API KeyHandle
     KeyHandle(const KeyHandle&) = delete;
     KeyHandle& operator=(const KeyHandle&) = delete;
 
-    // Closes the key it held. False, and closed, when the key does not exist.
+    // Closes the key it held. False, and closed, when the key does not exist; in the Windows registry also when it may
+    // not be written.
     bool Open(std::wstring_view path);
     void Close() noexcept;
     // Null when closed. Valid until the handle is closed, in every thread.
     HKEY Get() const noexcept;
 
   private:
-    std::unique_ptr<std::wstring> m_path;
+    std::unique_ptr<char> m_place; // its address is the handle where no system has one
+    HKEY m_key = nullptr;
+#if defined(_WIN32)
+    bool m_native = false;
+#endif
 };
 
 // Reads the values of an open key, or of a subkey of it. The key is one of a KeyHandle; on Windows it may as well be

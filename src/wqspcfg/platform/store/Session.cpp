@@ -1,6 +1,7 @@
 #include "wqspcfg/platform/store/Session.h"
 
 #include "wqspcfg/platform/store/ForkSafe.h"
+#include "wqspcfg/platform/store/RegistryPath.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 
 #include <algorithm>
@@ -39,10 +40,14 @@ bool IsUsersPath(std::wstring_view path)
     return first.size() == kDefaultUser.size() && CompareNoCase(first, kDefaultUser) == 0;
 }
 
+} // namespace
+
 Hive HiveOf(std::wstring_view path)
 {
     return IsUsersPath(path) ? Hive::Users : Hive::LocalMachine;
 }
+
+namespace {
 
 std::wstring_view TakeComponent(std::wstring_view& path)
 {
