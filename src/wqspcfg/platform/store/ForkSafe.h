@@ -20,6 +20,7 @@ enum class ForkSafe : std::size_t
     ModuleDirectory,
     FileLogs,
     Environments,
+    WrittenStores,
     Count,
 };
 

@@ -194,6 +194,31 @@ TEST_F(LmdbHardeningTest, WhatAProcessWithoutStandardFilesPrintsStaysOutOfTheSto
     }
 }
 
+TEST_F(LmdbHardeningTest, NoProgramThatIsStartedInheritsAFileOfTheStore)
+{
+    Create();
+    const auto store = Open(Address());
+    const auto reader = Begin(*store, Access::Read);
+    const auto inherited = [this] {
+        std::string names;
+        for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+            std::error_code code;
+            const auto file = fs::read_symlink(entry.path(), code).string();
+            const auto flags = fcntl(std::stoi(entry.path().filename().string()), F_GETFD);
+            names += file.starts_with(temporary.Path().string()) && (flags & FD_CLOEXEC) == 0 ? file + ' ' : "";
+        }
+        return names;
+    };
+    EXPECT_EQ(inherited(), "");
+    const FileDescriptor copy(open(temporary.File("copy").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    EXPECT_EQ(WriteStore(copy, kLeastMapSize,
+                         [&](MDB_txn*, MDB_dbi) {
+                             EXPECT_EQ(inherited(), "");
+                             return 0;
+                         }),
+              0);
+}
+
 TEST_F(LmdbHardeningTest, PlantedFilesAreRefusedAndWhatTheyLeadToIsLeftAlone)
 {
     const auto victim = temporary.File("victim");

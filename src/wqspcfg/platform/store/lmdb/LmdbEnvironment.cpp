@@ -263,14 +263,11 @@ bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& fold
     // The lock file holds the number of the last transaction, and a process that waits for the lock will believe it.
     MDB_env* env = nullptr;
     if (result == 0) {
-        result = FillStandardDescriptors();
-    }
-    if (result == 0) {
         result = mdb_env_create(&env);
     }
     if (result == 0) {
         (void)mdb_env_set_maxreaders(env, kMaxReaders);
-        result = mdb_env_open(env, folder.OpenPath().c_str(), MDB_NOTLS, 0600);
+        result = OpenEnvironment(env, folder.OpenPath(), MDB_NOTLS);
         mdb_env_close(env);
     }
     if (result != 0) {
@@ -318,16 +315,13 @@ bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::
 {
     m_mapSize = std::max(m_mapSize, needed);
     for (;;) {
-        status = FillStandardDescriptors();
-        if (status == 0) {
-            status = mdb_env_create(&m_env);
-        }
+        status = mdb_env_create(&m_env);
         if (status != 0) {
             return false;
         }
         (void)mdb_env_set_maxreaders(m_env, kMaxReaders);
         (void)mdb_env_set_mapsize(m_env, m_mapSize);
-        status = mdb_env_open(m_env, m_folder.OpenPath().c_str(), MDB_NOTLS | flags, 0600);
+        status = OpenEnvironment(m_env, m_folder.OpenPath(), MDB_NOTLS | flags);
         int file = -1;
         struct stat opened = {};
         if (status == 0) {

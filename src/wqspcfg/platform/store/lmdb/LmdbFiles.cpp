@@ -1,5 +1,6 @@
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
 
+#include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/store/Record.h"
 #include "wqspcfg/platform/store/lmdb/LmdbEnvironment.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
@@ -241,6 +242,20 @@ FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder
     return file;
 }
 
+int OpenEnvironment(MDB_env* env, const std::string& path, unsigned flags)
+{
+    auto status = FillStandardDescriptors();
+    if (status == 0) {
+        status = mdb_env_open(env, path.c_str(), flags, 0600);
+    }
+    int file = -1;
+    if (status == 0) {
+        status = mdb_env_get_fd(env, &file);
+    }
+    // LMDB leaves its data file to the programs that this process starts.
+    return status == 0 && fcntl(file, F_SETFD, FD_CLOEXEC) != 0 ? errno : status;
+}
+
 namespace {
 
 // Makes the content of the last transaction that of the given one. An errno value, or 0.
@@ -266,9 +281,6 @@ int Renumber(const FileDescriptor& file, std::uint64_t transaction)
 
 int WriteStore(const FileDescriptor& file, std::size_t mapSize, const FillStore& fill, std::uint64_t transaction)
 {
-    if (const auto filled = FillStandardDescriptors(); filled != 0) {
-        return filled;
-    }
     MDB_env* env = nullptr;
     auto status = mdb_env_create(&env);
     if (status != 0) {
@@ -277,7 +289,10 @@ int WriteStore(const FileDescriptor& file, std::size_t mapSize, const FillStore&
     MDB_txn* txn = nullptr;
     MDB_dbi dbi = 0;
     (void)mdb_env_set_mapsize(env, mapSize);
-    status = mdb_env_open(env, file.Path().c_str(), MDB_NOSUBDIR | MDB_NOLOCK, 0600);
+    {
+        const std::lock_guard lock(ForkSafeMutex(ForkSafe::WrittenStores));
+        status = OpenEnvironment(env, file.Path(), MDB_NOSUBDIR | MDB_NOLOCK);
+    }
     if (status == 0) {
         status = mdb_txn_begin(env, nullptr, 0, &txn);
     }

@@ -71,6 +71,10 @@ void WriteMark(const FileDescriptor& lockFile, LmdbMark mark);
 FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder, const ActAsOwner& owner,
                             const struct stat& data, int& status, Error& error);
 
+// Opens LMDB's environment so that no program that this process starts inherits its files. No other thread forks
+// meanwhile: one of the locks of ForkSafe.h is held. An LMDB or errno value, or 0.
+int OpenEnvironment(MDB_env* env, const std::string& path, unsigned flags);
+
 // Puts records in the order of their names.
 using FillStore = std::function<int(MDB_txn* txn, MDB_dbi dbi)>;
 // Writes a store with one transaction into the empty file, which is in no one else's use. The map has room for
