@@ -23,6 +23,7 @@ install(
     PATTERN "RegFileStore.h" EXCLUDE
     PATTERN "View32.h" EXCLUDE
     PATTERN "PosixFile.h" EXCLUDE
+    PATTERN "PosixTarget.h" EXCLUDE
     PATTERN "AtomicFile.h" EXCLUDE
     PATTERN "FlatKey.h" EXCLUDE
     PATTERN "FlatTransaction.h" EXCLUDE

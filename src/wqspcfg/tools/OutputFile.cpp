@@ -3,16 +3,15 @@
 #include "wqspcfg/platform/store/AtomicFile.h"
 
 #if defined(_WIN32)
+#include <filesystem>
 #include <fstream>
 #else
-#include "wqspcfg/platform/store/PosixFile.h"
+#include "wqspcfg/platform/store/PosixTarget.h"
 
 #include <cerrno>
-#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
-#include <filesystem>
 #include <streambuf>
 
 namespace wqspcfg::tools {
@@ -41,12 +40,12 @@ class SinkBuffer final : public std::streambuf
     std::function<bool(std::string_view)> m_sink;
 };
 
-int WriteRegularFile(const std::string& file, const std::string& source, const std::function<int(std::ostream&)>& write,
-                     const Console& console)
+int WriteRegularFile(const std::string& file, const std::vector<std::string>& sources,
+                     const std::function<int(std::ostream&)>& write, const Console& console)
 {
     AtomicFile target;
     Error error;
-    if (!target.Open(file, source, error)) {
+    if (!target.Open(file, sources, error)) {
         return console.Fail(error);
     }
     SinkBuffer buffer([&](std::string_view bytes) { return target.Write(bytes, error); });
@@ -66,17 +65,13 @@ int WriteDevice(const std::string& file, const std::function<int(std::ostream&)>
 
 #else
 
-int WriteDevice(const std::string& file, const std::function<int(std::ostream&)>& write, const Console& console)
+int WriteDevice(const PosixTarget& target, const std::string& file, const std::function<int(std::ostream&)>& write,
+                const Console& console)
 {
-    // Neither made nor cut: another file may stand under its name by now.
-    const auto device = OpenFile(file, O_WRONLY | O_NOCTTY);
-    struct stat status
-    {};
-    if (!device || fstat(device.Get(), &status) != 0) {
-        return console.Fail(SystemError("write", file, errno));
-    }
-    if (S_ISREG(status.st_mode)) {
-        return console.Fail(kFailed, "cannot write " + file + ": another file was put in its place");
+    Error error;
+    const auto device = target.OpenSpecial(file, error);
+    if (!device) {
+        return console.Fail(error);
     }
     int failure = 0;
     SinkBuffer buffer([&](std::string_view bytes) {
@@ -102,15 +97,27 @@ int WriteDevice(const std::string& file, const std::function<int(std::ostream&)>
 
 } // namespace
 
-int WriteOutputFile(const std::string& file, const std::string& source, const std::function<int(std::ostream&)>& write,
-                    const Console& console)
+int WriteOutputFile(const std::string& file, const std::vector<std::string>& sources,
+                    const std::function<int(std::ostream&)>& write, const Console& console)
 {
+#if defined(_WIN32)
     std::error_code code;
     const auto status = std::filesystem::status(std::filesystem::path(std::u8string(file.begin(), file.end())), code);
-    return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status) &&
-                   !std::filesystem::is_directory(status)
-               ? WriteDevice(file, write, console)
-               : WriteRegularFile(file, source, write, console);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status) &&
+        !std::filesystem::is_directory(status)) {
+        return WriteDevice(file, write, console);
+    }
+#else
+    PosixTarget target;
+    Error error;
+    if (!FindTarget(file, target, error)) {
+        return console.Fail(error);
+    }
+    if (target.IsSpecial()) {
+        return WriteDevice(target, file, write, console);
+    }
+#endif
+    return WriteRegularFile(file, sources, write, console);
 }
 
 } // namespace wqspcfg::tools

@@ -9,6 +9,7 @@
 #include <ctime>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace wqspcfg::tools {
 
@@ -41,7 +42,7 @@ int Report(const StoreChoice& choice, const ReportCommandOptions& options, const
     if (!store) {
         return console.Fail(error);
     }
-    const auto source = store->FilePath();
+    std::vector<std::string> sources{store->FilePath()};
     diagnosis::Places places(SourceOf(choice));
     diagnosis::Checkup checkup;
     {
@@ -58,6 +59,7 @@ int Report(const StoreChoice& choice, const ReportCommandOptions& options, const
         if (!(store = OpenForExamination(*other, error))) {
             return console.Fail(error);
         }
+        sources.push_back(store->FilePath());
         const CurrentStoreScope current(std::move(store));
         otherTerminal = diagnosis::ExamineTerminal({});
         if (otherTerminal.failure) {
@@ -75,7 +77,7 @@ int Report(const StoreChoice& choice, const ReportCommandOptions& options, const
         return int{kDone};
     };
     const int status =
-        options.file.empty() ? write(console.out) : WriteOutputFile(options.file, source, write, console);
+        options.file.empty() ? write(console.out) : WriteOutputFile(options.file, sources, write, console);
     const bool hasErrors =
         std::any_of(checkup.findings.begin(), checkup.findings.end(),
                     [](const diagnosis::Finding& each) { return each.severity == diagnosis::Severity::Error; });

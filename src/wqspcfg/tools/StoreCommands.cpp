@@ -291,7 +291,7 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
         return done || !output ? int{kDone}
                                : console.Fail(error.kind == ErrorKind::NotFound ? kNegative : kFailed, error.message);
     };
-    return file.empty() ? write(console.out) : WriteOutputFile(file, store->FilePath(), write, console);
+    return file.empty() ? write(console.out) : WriteOutputFile(file, {store->FilePath()}, write, console);
 }
 
 int BackUp(const StoreChoice& choice, const std::string& file, const Console& console)

@@ -17,10 +17,10 @@ namespace fs = std::filesystem;
 class AtomicFileTest : public testing::Test
 {
   protected:
-    bool Write(const std::string& path, std::string_view content, const std::string& source = {})
+    bool Write(const std::string& path, std::string_view content, const std::vector<std::string>& sources = {})
     {
         AtomicFile file;
-        return file.Open(path, source, error) && file.Write(content, error) && file.Commit(error);
+        return file.Open(path, sources, error) && file.Write(content, error) && file.Commit(error);
     }
 
     void Make(const std::string& path, unsigned mode, uid_t owner = geteuid(), gid_t group = getegid())
@@ -83,13 +83,57 @@ TEST_F(AtomicFileTest, FollowsNoLinkThatSomebodyElseCanPlant)
     for (const auto* path : {"/dev/null", "/tmp", "", "/tmp/", "/missing/file"}) {
         EXPECT_FALSE(Write(path, "new")) << path;
     }
-    if (geteuid() == 0) {
-        ASSERT_EQ(lchown(link.c_str(), 65534, 65534), 0);
-        ASSERT_EQ(chmod(temporary.Path().c_str(), 01777), 0);
-        EXPECT_FALSE(Write(link, "planted"));
-        EXPECT_EQ(error.kind, ErrorKind::AccessDenied) << error.message;
-        EXPECT_EQ(ReadFile(Path()), "new");
+    fs::create_symlink("..", temporary.File("up"));
+    const auto above = temporary.File("up/") + temporary.Path().filename().string() + "/file";
+    ASSERT_TRUE(Write(above, "newer")) << error.message;
+    fs::create_symlink("loop", temporary.File("loop"));
+    EXPECT_FALSE(Write(temporary.File("loop"), "new"));
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "links of other users need the superuser";
     }
+    const auto isRefused = [this](const std::string& path) {
+        return !Write(path, "planted") && error.kind == ErrorKind::AccessDenied && ReadFile(Path()) == "newer";
+    };
+    for (const auto mode : {0755U, 01777U}) {
+        ASSERT_EQ(chmod(temporary.Path().c_str(), mode), 0);
+        for (const auto* name : {"link", "up"}) {
+            ASSERT_EQ(lchown(temporary.File(name).c_str(), 65534, 65534), 0);
+        }
+        EXPECT_TRUE(isRefused(link)) << error.message;
+        EXPECT_TRUE(isRefused(above)) << "a link before the last name";
+    }
+    // Whose directory it is can put a link of the superuser there: by another name of it.
+    ASSERT_EQ(chown(temporary.Path().c_str(), 65534, 65534), 0);
+    ASSERT_EQ(lchown(link.c_str(), 0, 0), 0);
+    EXPECT_TRUE(isRefused(link)) << error.message;
+}
+
+TEST_F(AtomicFileTest, NoSourceAndNoStoreIsReplaced)
+{
+    Make(Path(), 0600);
+    const auto link = temporary.File("link");
+    const auto other = temporary.File("other");
+    fs::create_symlink("file", link);
+    fs::create_hard_link(Path(), other);
+    for (const auto& path : {Path(), link, other}) {
+        EXPECT_FALSE(Write(path, "new", {"/etc/passwd", Path()})) << path;
+        EXPECT_NE(error.message.find(path), std::string::npos) << error.message;
+    }
+    EXPECT_EQ(ReadFile(Path()), "old");
+    EXPECT_FALSE(Open("lmdb:" + temporary.File("store"), {.create = true}) == nullptr);
+    for (const auto* name : {"store/data.mdb", "store/lock.mdb"}) {
+        const auto content = ReadFile(temporary.File(name));
+        for (const auto replaces : {AtomicFile::Replaces::Files, AtomicFile::Replaces::Backups}) {
+            AtomicFile file;
+            EXPECT_FALSE(file.Open(temporary.File(name), {}, error, replaces));
+            EXPECT_NE(error.message.find(name), std::string::npos) << error.message;
+        }
+        EXPECT_EQ(ReadFile(temporary.File(name)), content);
+    }
+    fs::copy_file(temporary.File("store/data.mdb"), temporary.File("backup"));
+    AtomicFile file;
+    EXPECT_FALSE(file.Open(temporary.File("backup"), {}, error));
+    EXPECT_TRUE(file.Open(temporary.File("backup"), {}, error, AtomicFile::Replaces::Backups)) << error.message;
 }
 
 TEST_F(AtomicFileTest, ItsRightsAreNoWiderThanThoseOfTheSourceAndOfTheOldFile)
@@ -113,11 +157,29 @@ TEST_F(AtomicFileTest, ItsRightsAreNoWiderThanThoseOfTheSourceAndOfTheOldFile)
         if (sourceMode != 0) {
             Make(source, sourceMode);
         }
-        EXPECT_TRUE(Write(Path(), "new", sourceMode != 0 ? source : "")) << error.message;
+        EXPECT_TRUE(Write(Path(), "new", {sourceMode != 0 ? source : ""})) << error.message;
         EXPECT_EQ(Rights(Path()), me + rights) << std::oct << sourceMode << ' ' << oldMode;
         umask(mask);
     }
-    EXPECT_FALSE(Write(Path(), "new", temporary.File("missing")));
+    EXPECT_FALSE(Write(Path(), "new", {temporary.File("missing")}));
+
+    // The narrowest of several, and of a source and its directory.
+    const auto closed = temporary.File("closed");
+    fs::create_directory(closed);
+    for (const auto mode : {0700U, 0755U}) {
+        const auto mask = umask(022);
+        Make(source, 0644);
+        Make(closed + "/source", 0644);
+        ASSERT_EQ(chmod(closed.c_str(), mode), 0);
+        fs::create_symlink(closed + "/source", temporary.File("link"));
+        for (const auto& sources : {std::vector<std::string>{source, closed + "/source"}, {temporary.File("link")}}) {
+            fs::remove(Path());
+            ASSERT_TRUE(Write(Path(), "new", sources)) << error.message;
+            EXPECT_EQ(Rights(Path()), me + (mode == 0700U ? "600" : "644"));
+        }
+        fs::remove(temporary.File("link"));
+        umask(mask);
+    }
 
     if (geteuid() != 0) {
         GTEST_SKIP() << "files of other users need the superuser";
@@ -127,7 +189,7 @@ TEST_F(AtomicFileTest, ItsRightsAreNoWiderThanThoseOfTheSourceAndOfTheOldFile)
     ASSERT_TRUE(Write(Path(), "new"));
     EXPECT_EQ(Rights(Path()), "65534:65534 600");
     Make(source, 0600);
-    ASSERT_TRUE(Write(Path(), "new", source));
+    ASSERT_TRUE(Write(Path(), "new", {source}));
     EXPECT_EQ(Rights(Path()), "0:65534 600");
 
     // A group that may read the source is not widened to the writer's own.
@@ -136,7 +198,7 @@ TEST_F(AtomicFileTest, ItsRightsAreNoWiderThanThoseOfTheSourceAndOfTheOldFile)
     Make(source, 0640, 1001, 2001);
     EXPECT_EQ(InChild([&] {
                   const bool dropped = setgid(3001) == 0 && setuid(1001) == 0;
-                  return dropped && Write(Path(), "new", source) ? 0 : 1;
+                  return dropped && Write(Path(), "new", {source}) ? 0 : 1;
               }),
               0);
     EXPECT_EQ(Rights(Path()), "1001:3001 600");

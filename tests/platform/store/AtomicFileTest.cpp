@@ -17,10 +17,10 @@ class AtomicFileContentTest : public testing::Test
   protected:
     AtomicFileContentTest() { WriteFile(Path(), "old"); }
 
-    bool Write(const std::string& path, std::string_view content, const std::string& source = {})
+    bool Write(const std::string& path, std::string_view content, const std::vector<std::string>& sources = {})
     {
         AtomicFile file;
-        return file.Open(path, source, error) && file.Write(content, error) && file.Commit(error);
+        return file.Open(path, sources, error) && file.Write(content, error) && file.Commit(error);
     }
 
     std::vector<std::string> Names() const
@@ -69,7 +69,7 @@ TEST_F(AtomicFileContentTest, TheTargetIsOldOrNewAndNothingIsLeft)
 
     // While somebody reads it, some systems refuse. Then the old content stands.
     std::ifstream reader(Path());
-    const bool isNew = Write(Path(), "new", Path());
+    const bool isNew = Write(Path(), "new");
     EXPECT_EQ(ReadFile(Path()), isNew ? "new" : "first") << error.message;
     EXPECT_EQ(Names(), onlyTheFile);
 }
@@ -83,7 +83,7 @@ TEST_F(AtomicFileContentTest, SaysWhichFileCannotBeWritten)
         EXPECT_NE(error.message.find(path), std::string::npos) << error.message;
     }
     EXPECT_FALSE(Write("", "new"));
-    EXPECT_FALSE(Write(Path(), "new", temporary.File("missing")));
+    EXPECT_FALSE(Write(Path(), "new", {temporary.File("missing")}));
     EXPECT_EQ(ReadFile(Path()), "old");
     EXPECT_EQ(Names(), (std::vector<std::string>{"file", "folder"}));
 }

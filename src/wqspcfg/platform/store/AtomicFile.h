@@ -14,6 +14,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace wqspcfg {
 
@@ -26,17 +27,25 @@ class WQSPCFG_API AtomicFile
     AtomicFile(const AtomicFile&) = delete;
     AtomicFile& operator=(const AtomicFile&) = delete;
 
-    // Begins to write the file `path` (UTF-8). `source`, where it is not empty, is the file that the content comes from
-    // or that holds the secrets in it.
+    enum class Replaces : unsigned char
+    {
+        Files,
+        Backups, // of an embedded store, too
+    };
+
+    // Begins to write the file `path` (UTF-8). `sources` are the files that the content comes from;
+    // empty ones are none.
     //
-    // Nobody may read the new file who could not read the source, or the file that it replaces: it gets the rights that
-    // both grant, less the process's umask where there is no old file. It keeps the old file's owner and group where
-    // this process may give it to them and they could read the source.
+    // Nobody may read the new file who could not read every source, with the rights of its directory, and the file that
+    // is replaced: it gets the rights that all of them grant, less the process's umask where there is no old file. It
+    // keeps the old file's owner and group where this process may give it to them and they could read the sources. On
+    // Windows it gets the access list of the old file, else that of the first source.
     //
-    // A symbolic link is followed, and stays one, unless somebody else may have planted it: it belongs to neither this
-    // user nor the superuser, in a directory that others can write. Only a regular file is replaced.
+    // A symbolic link is followed, and stays one, unless somebody else may have planted it (PosixTarget.h). Only a
+    // regular file is replaced, and no source, whatever its name is here, and no file of an embedded store.
     // False with `error` filled; the object is as new then.
-    bool Open(const std::string& path, const std::string& source, Error& error);
+    bool Open(const std::string& path, const std::vector<std::string>& sources, Error& error,
+              Replaces replaces = Replaces::Files);
 
     // Puts more behind what was written. False with `error` filled; the file cannot be committed then.
     bool Write(std::string_view bytes, Error& error);
@@ -51,6 +60,7 @@ class WQSPCFG_API AtomicFile
 #endif
 
   private:
+    struct Source;
     struct State;
     std::unique_ptr<State> m_state;
 };

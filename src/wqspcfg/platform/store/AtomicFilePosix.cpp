@@ -1,8 +1,15 @@
 #include "wqspcfg/platform/store/AtomicFile.h"
 
 #include "wqspcfg/platform/store/PosixFile.h"
+#include "wqspcfg/platform/store/PosixTarget.h"
+#include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
+#include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <random>
 #include <sys/stat.h>
@@ -13,14 +20,7 @@ namespace wqspcfg {
 namespace {
 
 constexpr mode_t kRights = 0777;
-
-// The directory of a path and the name in it.
-void Split(const std::string& path, std::string& directory, std::string& name)
-{
-    const auto slash = path.rfind('/');
-    directory = slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
-    name = slash == std::string::npos ? path : path.substr(slash + 1);
-}
+constexpr mode_t kSearch = 1;
 
 // What the members of `group`, and everybody else, may do with the file.
 mode_t GroupRights(const struct stat& file, gid_t group)
@@ -49,6 +49,13 @@ std::string RandomName(const std::string& name)
 
 } // namespace
 
+struct AtomicFile::Source
+{
+    std::string path;
+    struct stat file = {};
+    struct stat folder = {};
+};
+
 struct AtomicFile::State
 {
     std::string path; // as messages give it
@@ -69,57 +76,68 @@ struct AtomicFile::State
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
-    bool FindTarget(Error& error, std::optional<struct stat>& old);
+    bool Find(const std::vector<Source>& sources, Replaces replaces, Error& error, std::optional<struct stat>& old);
+    std::string StoreFileAt(Replaces replaces) const;
     int Create();
-    int Restrict(const std::optional<struct stat>& source, const std::optional<struct stat>& old);
+    int Restrict(const std::vector<Source>& sources, const std::optional<struct stat>& old);
     int Flush();
     int TakePlace();
 };
 
 // Follows links to the file that is to be replaced.
-bool AtomicFile::State::FindTarget(Error& error, std::optional<struct stat>& old)
+bool AtomicFile::State::Find(const std::vector<Source>& sources, Replaces replaces, Error& error,
+                             std::optional<struct stat>& old)
 {
-    constexpr int kMostLinks = 40;
-    auto target = path;
-    for (int links = 0;; ++links) {
-        std::string parent;
-        Split(target, parent, name);
-        directory = OpenFile(parent, O_RDONLY | O_DIRECTORY);
-        struct stat status = {};
-        if (!directory || name.empty()) {
-            error = SystemError("write", path, directory ? EISDIR : errno);
-            return false;
-        }
-        if (fstatat(directory.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
-            if (errno != ENOENT) {
-                error = SystemError("write", path, errno);
-            }
-            return errno == ENOENT;
-        }
-        if (S_ISREG(status.st_mode)) {
-            old = status;
-            return true;
-        }
-        if (!S_ISLNK(status.st_mode)) {
-            error = {ErrorKind::BadArgument, path + " is not a regular file"};
-            return false;
-        }
-        struct stat folder = {};
-        if (fstat(directory.Get(), &folder) != 0 ||
-            (status.st_uid != geteuid() && status.st_uid != 0 && (folder.st_mode & (S_IWGRP | S_IWOTH)) != 0)) {
-            error = {ErrorKind::AccessDenied, path + " is a link of another user in a directory that others can write, "
-                                                     "and is not followed; give the file itself"};
-            return false;
-        }
-        std::string content(4096, '\0');
-        const auto size = readlinkat(directory.Get(), name.c_str(), content.data(), content.size());
-        if (size <= 0 || static_cast<std::size_t>(size) == content.size() || links == kMostLinks) {
-            error = SystemError("write", path, size < 0 ? errno : ELOOP);
-            return false;
-        }
-        content.resize(static_cast<std::size_t>(size));
-        target = content.front() == '/' ? content : parent + '/' + content;
+    PosixTarget target;
+    if (!FindTarget(path, target, error)) {
+        return false;
     }
+    name = target.name;
+    directory = OpenAt(target.directory.Get(), ".", O_RDONLY | O_DIRECTORY);
+    if (!directory) {
+        error = SystemError("write", path, errno);
+        return false;
+    }
+    if (!target.status) {
+        return true;
+    }
+    old = target.status;
+    if (!S_ISREG(old->st_mode)) {
+        error = {ErrorKind::BadArgument, path + " is not a regular file"};
+        return false;
+    }
+    for (const auto& source : sources) {
+        if (source.file.st_dev == old->st_dev && source.file.st_ino == old->st_ino) {
+            error = {ErrorKind::BadArgument,
+                     path + " is the file that is read, " + source.path + ", and is not replaced; give another file"};
+            return false;
+        }
+    }
+    const auto what = StoreFileAt(replaces);
+    if (!what.empty()) {
+        error = {ErrorKind::BadArgument, path + " is " + what + ", and is not replaced; give another file"};
+    }
+    return what.empty();
+}
+
+// What file of an embedded store stands in the target's place; empty for none.
+std::string AtomicFile::State::StoreFileAt(Replaces replaces) const
+{
+    const auto old = OpenAt(directory.Get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+    std::array<std::uint32_t, 5> head{};
+    if (!old || pread(old.Get(), head.data(), sizeof head, 0) != static_cast<ssize_t>(sizeof head)) {
+        return {};
+    }
+    if (head[0] == lmdb::kMagic) {
+        return "the lock file of an embedded store";
+    }
+    if (head[sizeof(lmdb::PageHeader) / sizeof head[0]] != lmdb::kMagic) {
+        return {};
+    }
+    const bool isInUse = name == kDataName && faccessat(directory.Get(), kLockName, F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+    return isInUse                         ? "the data file of an embedded store"
+           : replaces == Replaces::Backups ? ""
+                                           : "an embedded store or its backup";
 }
 
 // An errno value, or 0.
@@ -148,20 +166,23 @@ int AtomicFile::State::Create()
 }
 
 // Gives the file its owner, group and rights. An errno value, or 0.
-int AtomicFile::State::Restrict(const std::optional<struct stat>& source, const std::optional<struct stat>& old)
+int AtomicFile::State::Restrict(const std::vector<Source>& sources, const std::optional<struct stat>& old)
 {
     struct stat fresh = {};
     if (fstat(file.Get(), &fresh) != 0) {
         return errno;
     }
-    if (!source && !old) {
+    if (sources.empty() && !old) {
         const auto mask = umask(077);
         umask(mask);
         return fchmod(file.Get(), 0666 & ~mask) != 0 ? errno : 0;
     }
     // Whom it cannot be given to, it is not; the rights below reckon with what it became.
-    const auto& model = old ? *old : *source;
-    if (old && old->st_uid != fresh.st_uid && (!source || source->st_uid == old->st_uid)) {
+    const auto& model = old ? *old : sources.front().file;
+    const bool isOldOwners = old && std::all_of(sources.begin(), sources.end(), [&old](const Source& source) {
+                                 return source.file.st_uid == old->st_uid;
+                             });
+    if (isOldOwners && old->st_uid != fresh.st_uid) {
         (void)!fchown(file.Get(), old->st_uid, static_cast<gid_t>(-1));
     }
     if (model.st_gid != fresh.st_gid) {
@@ -172,11 +193,18 @@ int AtomicFile::State::Restrict(const std::optional<struct stat>& source, const 
     }
     mode_t group = 7;
     mode_t other = 7;
-    for (const auto* limit : {&source, &old}) {
-        if (limit->has_value()) {
-            group &= GroupRights(**limit, fresh.st_gid);
-            other &= OtherRights(**limit, fresh.st_gid);
-        }
+    const auto limit = [&](const struct stat& by) {
+        group &= GroupRights(by, fresh.st_gid);
+        other &= OtherRights(by, fresh.st_gid);
+    };
+    if (old) {
+        limit(*old);
+    }
+    for (const auto& source : sources) {
+        limit(source.file);
+        // Who cannot search the source's directory cannot read the source.
+        group &= (GroupRights(source.folder, fresh.st_gid) & kSearch) != 0 ? 7U : 0U;
+        other &= (OtherRights(source.folder, fresh.st_gid) & kSearch) != 0 ? 7U : 0U;
     }
     auto rights = (old ? old->st_mode & 0700 : mode_t{0600}) | mode_t{0600} | group << 3 | other;
     if (!old) {
@@ -229,24 +257,31 @@ int AtomicFile::State::TakePlace()
 AtomicFile::AtomicFile() = default;
 AtomicFile::~AtomicFile() = default;
 
-bool AtomicFile::Open(const std::string& path, const std::string& source, Error& error)
+bool AtomicFile::Open(const std::string& path, const std::vector<std::string>& sources, Error& error, Replaces replaces)
 {
     auto state = std::make_unique<State>();
     state->path = path;
-    std::optional<struct stat> old;
-    if (!state->FindTarget(error, old)) {
-        return false;
-    }
-    std::optional<struct stat> model;
-    if (!source.empty()) {
-        if (stat(source.c_str(), &model.emplace()) != 0) {
+    std::vector<Source> read;
+    for (const auto& source : sources) {
+        if (source.empty()) {
+            continue;
+        }
+        auto& each = read.emplace_back();
+        each.path = source;
+        std::error_code code;
+        const auto folder = std::filesystem::canonical(source, code).parent_path();
+        if (stat(source.c_str(), &each.file) != 0 || stat(folder.c_str(), &each.folder) != 0) {
             error = SystemError("read the rights of", source, errno);
             return false;
         }
     }
+    std::optional<struct stat> old;
+    if (!state->Find(read, replaces, error, old)) {
+        return false;
+    }
     auto status = state->Create();
     if (status == 0) {
-        status = state->Restrict(model, old);
+        status = state->Restrict(read, old);
     }
     if (status != 0) {
         error = SystemError("write", path, status);

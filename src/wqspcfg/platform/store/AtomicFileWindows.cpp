@@ -51,6 +51,20 @@ std::vector<BYTE> AccessList(const std::wstring& path)
     return list;
 }
 
+// Which file that is, under whatever name. False with GetLastError.
+bool Identify(const std::wstring& path, BY_HANDLE_FILE_INFORMATION& info)
+{
+    const auto file =
+        CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    const bool isKnown = GetFileInformationByHandle(file, &info) != FALSE;
+    CloseHandle(file);
+    return isKnown;
+}
+
 // Whether the file goes when its last handle is closed, also by the end of the process.
 bool SetDeleted(HANDLE file, bool isDeleted)
 {
@@ -147,12 +161,11 @@ DWORD AtomicFile::State::TakePlace()
 AtomicFile::AtomicFile() = default;
 AtomicFile::~AtomicFile() = default;
 
-bool AtomicFile::Open(const std::string& path, const std::string& source, Error& error)
+bool AtomicFile::Open(const std::string& path, const std::vector<std::string>& sources, Error& error, Replaces)
 {
     auto state = std::make_unique<State>();
     state->path = path;
-    std::wstring wideSource;
-    if (path.empty() || !AppendWideFromUtf8(path, state->target) || !AppendWideFromUtf8(source, wideSource)) {
+    if (path.empty() || !AppendWideFromUtf8(path, state->target)) {
         error = {ErrorKind::BadText, "cannot write \"" + path + "\": that is no file name"};
         return false;
     }
@@ -162,7 +175,29 @@ bool AtomicFile::Open(const std::string& path, const std::string& source, Error&
         error = {ErrorKind::BadArgument, path + " is not a regular file"};
         return false;
     }
-    if (const auto status = state->Create(wideSource); status != ERROR_SUCCESS) {
+    std::wstring first;
+    for (const auto& source : sources) {
+        if (source.empty()) {
+            continue;
+        }
+        std::wstring wide;
+        BY_HANDLE_FILE_INFORMATION read{};
+        BY_HANDLE_FILE_INFORMATION old{};
+        if (!AppendWideFromUtf8(source, wide) || !Identify(wide, read)) {
+            error = Failure("read the rights of", source, GetLastError());
+            return false;
+        }
+        if (Identify(state->target, old) && old.dwVolumeSerialNumber == read.dwVolumeSerialNumber &&
+            old.nFileIndexHigh == read.nFileIndexHigh && old.nFileIndexLow == read.nFileIndexLow) {
+            error = {ErrorKind::BadArgument,
+                     path + " is the file that is read, " + source + ", and is not replaced; give another file"};
+            return false;
+        }
+        if (first.empty()) {
+            first = std::move(wide);
+        }
+    }
+    if (const auto status = state->Create(first); status != ERROR_SUCCESS) {
         error = Failure("write", path, status);
         return false;
     }

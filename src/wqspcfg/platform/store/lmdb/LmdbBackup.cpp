@@ -241,21 +241,10 @@ bool BackUpLmdb(const std::string& address, const std::string& directory, const 
     if (!environment) {
         return false;
     }
-    struct stat old = {};
-    if (stat(file.c_str(), &old) == 0) {
-        for (const auto* name : {kDataName, kLockName}) {
-            struct stat own = {};
-            if (fstatat(environment->Folder().Get(), name, &own, AT_SYMLINK_NOFOLLOW) == 0 &&
-                own.st_dev == old.st_dev && own.st_ino == old.st_ino) {
-                error = {ErrorKind::BadArgument, file + " is a file of the store itself"};
-                return false;
-            }
-        }
-    }
     struct stat data = {};
     AtomicFile fresh;
     // It may hold passwords: whoever cannot read the store cannot read its backup.
-    if (!fresh.Open(file, environment->DataPath(), error)) {
+    if (!fresh.Open(file, {environment->DataPath()}, error, AtomicFile::Replaces::Backups)) {
         return false;
     }
     if (stat(environment->DataPath().c_str(), &data) != 0) {
