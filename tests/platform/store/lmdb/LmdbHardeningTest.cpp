@@ -714,4 +714,45 @@ TEST_F(LmdbHardeningTest, OnlyAFileThatIsAsItsLastWriterLeftItIsNotVerified)
     EXPECT_EQ(error.kind, ErrorKind::Damaged);
 }
 
+TEST_F(LmdbHardeningTest, TheMarkOfALastWriterIsBelievedWhereNobodyElseCanMakeOne)
+{
+    {
+        const auto store = Open(Address(), {.create = true});
+        const auto transaction = Begin(*store, Access::Write);
+        KeyId key = 0;
+        ASSERT_EQ(transaction->CreateKey(Hive::LocalMachine, kKey, key), Outcome::Found);
+        for (int i = 0; i < 1000; ++i) {
+            ASSERT_EQ(transaction->SetValue(key, L"Value" + std::to_wstring(i), {ValueType::Dword, DwordBytes(1)}),
+                      Outcome::Found);
+        }
+        ASSERT_EQ(transaction->Commit(true), Outcome::Found);
+    }
+    // A leaf is spoilt, and the mark says that nothing happened.
+    auto content = ReadFile(DataFile());
+    const auto at = content.rfind("VALUE500");
+    ASSERT_NE(at, std::string::npos);
+    std::fill_n(content.begin() + static_cast<std::ptrdiff_t>(at / 4096 * 4096 + 16), 512, '\xf0');
+    WriteFile(DataFile(), content);
+    const auto write = [this] {
+        const FileDescriptor lock(open(LockFile().c_str(), O_RDWR | O_CLOEXEC));
+        const FileDescriptor data(open(DataFile().c_str(), O_RDONLY | O_CLOEXEC));
+        struct stat status = {};
+        EXPECT_EQ(fstat(data.Get(), &status), 0);
+        WriteMark(lock, MarkOf(status, LastTransaction(data)));
+        Error error;
+        return Open(Address())->Begin(Access::Write, error) ? ErrorKind::None : error.kind;
+    };
+    EXPECT_EQ(write(), ErrorKind::None);
+    for (const auto& path : {DataFile(), LockFile()}) {
+        ASSERT_EQ(chmod(path.c_str(), 0660), 0);
+        EXPECT_EQ(write(), ErrorKind::Damaged) << path;
+        ASSERT_EQ(chmod(path.c_str(), 0600), 0);
+    }
+    EXPECT_EQ(write(), ErrorKind::None);
+    if (geteuid() == 0) {
+        GiveAway();
+        EXPECT_EQ(write(), ErrorKind::Damaged) << "the superuser believes nobody else";
+    }
+}
+
 } // namespace wqspcfg::test

@@ -910,18 +910,11 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
     error = {};
     LmdbTree tree;
     const auto last = StateBefore(txn);
-    LmdbMark mark;
-    struct stat data = {};
-    bool sound = tree.Open(m_map, m_map.Size(), last);
-    if (sound &&
-        !(ReadMark(m_lockFile, mark) && fstat(m_dataFile.Get(), &data) == 0 && mark.IsOf(MarkOf(data, last)))) {
-        sound = tree.VerifyStructure();
-    }
+    const bool sound = tree.Open(m_map, m_map.Size(), last) && (IsAsWritten(last) || tree.VerifyStructure());
     if (!sound) {
         error = DescribeDamage(address, tree.Cause());
     }
-    sound = sound && CheckState(address, m_dataPath, tree, last, error);
-    if (!sound) {
+    if (!sound || !CheckState(address, m_dataPath, tree, last, error)) {
         mdb_txn_abort(txn);
         EndTurn();
         Release(0);
@@ -931,12 +924,34 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
     return txn;
 }
 
+// Whether the data file is as this process left it, or as a mark says that nobody else can have made.
+bool LmdbEnvironment::IsAsWritten(std::uint64_t last) const
+{
+    struct stat data = {};
+    if (fstat(m_dataFile.Get(), &data) != 0) {
+        return false;
+    }
+    const auto now = MarkOf(data, last);
+    if (m_ownMark.IsOf(now)) {
+        return true;
+    }
+    LmdbMark mark;
+    const auto isOurs = [](int file) {
+        struct stat status = {};
+        return fstat(file, &status) == 0 && (status.st_uid == 0 || status.st_uid == geteuid()) &&
+               (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+    };
+    return isOurs(m_folder.Get()) && isOurs(m_dataFile.Get()) && isOurs(m_lockFile.Get()) &&
+           ReadMark(m_lockFile, mark) && mark.IsOf(now);
+}
+
 void LmdbEnvironment::EndWrite(int status) noexcept
 {
     m_writer = std::thread::id();
     struct stat data = {};
     if (status == 0 && fstat(m_dataFile.Get(), &data) == 0 && data.st_nlink > 0) {
-        WriteMark(m_lockFile, MarkOf(data, LastTransaction(m_dataFile)));
+        m_ownMark = MarkOf(data, LastTransaction(m_dataFile));
+        WriteMark(m_lockFile, m_ownMark);
     }
     EndTurn();
     Release(status);
@@ -961,7 +976,8 @@ bool LmdbEnvironment::Exchange(const std::string& address, MDB_txn* txn, const F
     }
     struct stat data = {};
     if (result == 0 && fstat(fresh.Get(), &data) == 0) {
-        WriteMark(m_lockFile, MarkOf(data, StateBefore(txn)));
+        m_ownMark = MarkOf(data, StateBefore(txn));
+        WriteMark(m_lockFile, m_ownMark);
     }
     if (result != 0) {
         error = LmdbError(address, "replace", m_dataPath, result);

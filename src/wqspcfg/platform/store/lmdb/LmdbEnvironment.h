@@ -2,6 +2,7 @@
 #pragma once
 
 #include "wqspcfg/platform/base/Error.h"
+#include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
 #include "wqspcfg/platform/store/lmdb/LmdbTree.h"
 
@@ -118,6 +119,7 @@ class LmdbEnvironment
     bool PrepareWrite(const std::string& address, int before, Error& error);
     bool TakeTurn(const std::string& address, std::chrono::steady_clock::time_point deadline, Error& error);
     void EndTurn() noexcept;
+    bool IsAsWritten(std::uint64_t last) const;
     void Release(int status) noexcept;
     // The process that writes; 0 when it is not known.
     long FindWriter() const;
@@ -154,6 +156,7 @@ class LmdbEnvironment
     bool m_full = false;   // a write found the map full
     bool m_broken = false; // LMDB gave the environment up
     std::atomic<std::thread::id> m_writer{};
+    LmdbMark m_ownMark; // after this process's last write
 
     std::mutex m_turnMutex;
     std::condition_variable m_turnEnded;
