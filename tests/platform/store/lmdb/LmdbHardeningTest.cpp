@@ -12,6 +12,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
 #include <sys/inotify.h>
 #include <sys/resource.h>
@@ -671,6 +672,62 @@ TEST_F(LmdbHardeningTest, OpensWithLittleAddressSpace)
                   }),
                   0);
     }
+}
+
+TEST_F(LmdbHardeningTest, TooLittleAddressSpaceIsAnError)
+{
+    if (kSanitized) {
+        GTEST_SKIP() << "sanitizers take the address space themselves";
+    }
+    const auto used = [] {
+        std::size_t pages = 0;
+        std::ifstream("/proc/self/statm") >> pages;
+        return pages * static_cast<std::size_t>(getpagesize());
+    };
+    Put(*Open(Address(), {.create = true}), kKey, L"n", Bytes(std::size_t{30} << 20), ValueType::Binary);
+    int written = 0;
+    int refused = 0;
+    for (std::size_t spare = 8; spare <= 1024; spare += spare / 4) {
+        const auto result = InChild([&] {
+            const rlimit limit{used() + (spare << 20), RLIM_INFINITY};
+            Error error;
+            auto store = setrlimit(RLIMIT_AS, &limit) == 0 ? OpenStore(Address(), {}, error) : nullptr;
+            // The first one finds the map full, or nearly so.
+            const Bytes data(std::size_t{9} << 20);
+            for (int tries = 0; store && tries < 2; ++tries) {
+                const auto transaction = store->Begin(Access::Write, error);
+                KeyId key = 0;
+                if (transaction && transaction->CreateKey(Hive::LocalMachine, kKey, key) == Outcome::Found &&
+                    transaction->SetValue(key, L"m", {ValueType::Binary, data}) == Outcome::Found &&
+                    transaction->Commit(true) != Outcome::Failed) {
+                    return 0;
+                }
+                error = transaction ? transaction->LastError() : error;
+            }
+            return !error.message.empty() ? 1 : 2;
+        });
+        written += result == 0;
+        refused += result == 1;
+        EXPECT_TRUE(result == 0 || result == 1) << spare << " MB: " << result;
+    }
+    EXPECT_GT(written, 0);
+    EXPECT_GT(refused, 0);
+    EXPECT_EQ(InChild([&] {
+                  const rlimit limit{used() + (std::size_t{48} << 20), RLIM_INFINITY};
+                  CompactCounts counts;
+                  BackupCounts saved;
+                  std::string kept;
+                  Error error;
+                  const auto small = "lmdb:" + temporary.File("small");
+                  const auto backup = temporary.File("backup");
+                  Put(*Open(small, {.create = true}), kKey, L"n", DwordBytes(1));
+                  return setrlimit(RLIMIT_AS, &limit) == 0 && CompactStore(small, counts, error) &&
+                                 BackUpStore(small, backup, saved, error) &&
+                                 RestoreStore(small, backup, saved, kept, error)
+                             ? 0
+                             : 1;
+              }),
+              0);
 }
 
 TEST_F(LmdbHardeningTest, ReadersAtRestGiveTheirPlacesToOthers)

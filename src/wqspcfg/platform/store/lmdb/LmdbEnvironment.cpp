@@ -14,8 +14,10 @@
 #include <ctime>
 #include <fcntl.h>
 #include <map>
+#include <sys/resource.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace wqspcfg {
 
@@ -313,6 +315,11 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
 bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status,
                                bool& isMoved, Error& error)
 {
+    rlimit limit{};
+    if (getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY) {
+        // Two maps of it leave most of the address space to all else, and to larger ones.
+        m_mapSize = std::min(m_mapSize, limit.rlim_cur / 8 / kLeastMapSize * kLeastMapSize);
+    }
     m_mapSize = std::max(m_mapSize, needed);
     for (;;) {
         status = mdb_env_create(&m_env);
@@ -600,6 +607,7 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
 int LmdbEnvironment::Grow(std::size_t size)
 {
     auto result = mdb_env_set_mapsize(m_env, size);
+    m_broken = result != 0; // it has let go of its map then
     if (result == 0) {
         MDB_envinfo info{};
         (void)mdb_env_info(m_env, &info);
@@ -842,24 +850,40 @@ bool LmdbEnvironment::PrepareWrite(const std::string& address, int before, Error
     if (!Prepare(address, Access::Write, lock, error)) {
         return false;
     }
-    if (!m_whyReadOnly.empty()) {
-        error = {ErrorKind::AccessDenied, address + ": cannot write " + m_dataPath + ": " + m_whyReadOnly};
-        return false;
-    }
     int dead = 0;
     (void)mdb_reader_check(m_env, &dead);
-    if (m_active == 0) {
+    if (m_active == 0 && m_whyReadOnly.empty()) {
         MDB_envinfo info{};
         MDB_stat layout{};
         (void)mdb_env_info(m_env, &info);
         (void)mdb_env_stat(m_env, &layout);
         const auto used = (info.me_last_pgno + 1) * layout.ms_psize;
+        const auto size = m_mapSize;
         if (before == MDB_MAP_RESIZED) {
-            (void)Grow(0);
-        } else if (m_full || used > m_mapSize / 4 * 3) {
-            m_full = false;
-            (void)Grow(2 * std::max(m_mapSize, used));
+            if (const auto result = Grow(0); result != 0) {
+                error = LmdbError(address, "map", m_dataPath, result);
+                return false;
+            }
+        } else if (const bool isFull = std::exchange(m_full, false); isFull || used > size / 4 * 3) {
+            const auto wanted = 2 * std::max(size, used);
+            if (Grow(wanted) != 0) {
+                // As much as there is address space for.
+                CloseFiles();
+                m_mapSize = wanted;
+                if (!OpenFiles(address, error)) {
+                    return false;
+                }
+                m_full = isFull && m_mapSize <= size;
+            }
+            if (m_full) {
+                error = {ErrorKind::NoSpace, address + ": cannot write " + m_dataPath + ": " + LmdbWords(ENOMEM)};
+                return false;
+            }
         }
+    }
+    if (!m_whyReadOnly.empty()) {
+        error = {ErrorKind::AccessDenied, address + ": cannot write " + m_dataPath + ": " + m_whyReadOnly};
+        return false;
     }
     ++m_active;
     return true;

@@ -75,6 +75,8 @@ std::string LmdbWords(int status)
         return "too many changes for one transaction";
     case MDB_MAP_RESIZED:
         return "another process has enlarged the store; end this process's transactions on it and try again";
+    case ENOMEM:
+        return "this process is allowed too little memory or address space for it (ulimit -v)";
     case MDB_READERS_FULL:
         return "too many processes and threads are reading it";
     default:
