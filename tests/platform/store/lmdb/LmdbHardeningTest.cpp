@@ -740,6 +740,21 @@ TEST_F(LmdbHardeningTest, ReadersAtRestGiveTheirPlacesToOthers)
         readers.push_back(std::move(reader));
     }
     EXPECT_GT(readers.size(), 500U);
+    // Who they are is told just then, in this process and in another one, which can write, too.
+    const auto tell = [&] {
+        StoreStatus status;
+        return GetStoreStatus(Address(), true, status, error) && status.isSound && status.counts.values == 1 &&
+                       status.readers.size() == readers.size()
+                   ? 0
+                   : 1;
+    };
+    EXPECT_EQ(tell(), 0) << error.message;
+    EXPECT_EQ(InChild(tell), 0);
+    EXPECT_EQ(InChild([this] {
+                  Put(*Open(Address()), kKey, L"n", DwordBytes(1));
+                  return 0;
+              }),
+              0);
     readers.clear();
     EXPECT_EQ(InChild([this] { return Get(*Open(Address()), kKey, L"n") == "4:01000000" ? 0 : 1; }), 0);
 }

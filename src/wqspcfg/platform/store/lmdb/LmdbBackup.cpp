@@ -418,13 +418,13 @@ bool GetLmdbStatus(const std::string& address, const std::string& directory, boo
     if (!verify) {
         return true;
     }
-    ReadState state(environment);
-    if (!state.Begin(address, error)) {
-        return false;
-    }
-    status.isSound = state.tree.VerifyStructure() && CountRecords(state.tree, status.counts);
-    status.damage = status.isSound ? "" : state.tree.Cause();
-    return true;
+    return environment->LookAt(
+        address,
+        [&status](LmdbTree& tree, std::uint64_t) {
+            status.isSound = tree.VerifyStructure() && CountRecords(tree, status.counts);
+            status.damage = status.isSound ? "" : tree.Cause();
+        },
+        error);
 }
 
 } // namespace wqspcfg

@@ -438,18 +438,7 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
 
     int dead = 0;
     (void)mdb_reader_check(m_env, &dead);
-
-    MDB_txn* txn = nullptr;
-    result = mdb_txn_begin(m_env, nullptr, MDB_RDONLY, &txn);
-    if (result == 0) {
-        result = mdb_dbi_open(txn, nullptr, 0, &m_dbi);
-        mdb_txn_abort(txn);
-    }
-    if (result != 0) {
-        error = LmdbError(address, "read", m_dataPath, result);
-        CloseFiles();
-    }
-    return result == 0;
+    return true;
 }
 
 void LmdbEnvironment::CloseFiles() noexcept
@@ -697,7 +686,7 @@ void LmdbEnvironment::Rest(MDB_txn* txn) noexcept
     }
 }
 
-MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, Error& error)
+MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, Error& error, bool* isFull)
 {
     std::unique_lock lock(m_mutex);
     if (!Prepare(address, Access::Read, lock, error)) {
@@ -717,6 +706,9 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
         }
         if (result != 0) {
             error = LmdbError(address, "read", m_dataPath, result);
+            if (isFull != nullptr) {
+                *isFull = result == MDB_READERS_FULL;
+            }
             return nullptr;
         }
         if (m_isCopied) {
@@ -762,6 +754,38 @@ void LmdbEnvironment::EndRead(MDB_txn* txn) noexcept
     if (--m_active == 0) {
         m_ended.notify_all();
     }
+}
+
+bool LmdbEnvironment::LookAt(const std::string& address, const LookAtState& look, Error& error)
+{
+    LmdbTree tree;
+    bool isFull = false;
+    if (auto* txn = BeginRead(address, tree, error, &isFull)) {
+        look(tree, m_isCopied ? m_copyNumber : static_cast<std::uint64_t>(mdb_txn_id(txn)));
+        EndRead(txn);
+        return true;
+    }
+    if (!isFull) {
+        return false;
+    }
+    std::uint64_t number = 0;
+    {
+        const std::lock_guard lock(m_mutex);
+        std::string cause;
+        const bool isOpen = OpenCopy(tree, cause);
+        m_copy.reset(); // the tree has it
+        if (!isOpen) {
+            error = {ErrorKind::Io, address + ": cannot read " + m_dataPath + ": " + cause};
+            return false;
+        }
+        number = m_copyNumber;
+    }
+    if (!CheckState(address, m_dataPath, tree, number, error)) {
+        return false;
+    }
+    error = {};
+    look(tree, number);
+    return true;
 }
 
 long LmdbEnvironment::FindWriter() const
@@ -915,6 +939,9 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
             isThere = IsWhereItWas(address, isLockGone, error);
         }
         result = isThere ? mdb_txn_begin(m_env, nullptr, 0, &txn) : 0;
+        if (txn != nullptr && (result = mdb_dbi_open(txn, nullptr, 0, &m_dbi)) != 0) {
+            mdb_txn_abort(std::exchange(txn, nullptr));
+        }
         if (txn != nullptr) {
             break;
         }
@@ -1011,31 +1038,32 @@ bool LmdbEnvironment::Exchange(const std::string& address, MDB_txn* txn, const F
 
 bool LmdbEnvironment::Describe(const std::string& address, Condition& condition, Error& error)
 {
-    LmdbTree tree;
-    auto* txn = BeginRead(address, tree, error);
-    if (txn == nullptr) {
+    condition = {};
+    std::string cause;
+    struct stat data = {};
+    const auto look = [&](LmdbTree& tree, std::uint64_t number) {
+        (void)fstat(m_dataFile.Get(), &data);
+        condition.hasLock = !m_isCopied;
+        condition.fileSize = static_cast<std::uint64_t>(data.st_size);
+        condition.pageSize = tree.PageSize();
+        condition.transaction = number;
+        condition.modified = data.st_mtim.tv_sec;
+        if (!tree.CountPages(condition.usedPages, condition.freePages)) {
+            cause = tree.Cause();
+        }
+    };
+    if (!LookAt(address, look, error)) {
         return false;
     }
-    condition = {};
-    condition.hasLock = !m_isCopied;
-    const auto number = m_isCopied ? m_copyNumber : static_cast<std::uint64_t>(mdb_txn_id(txn));
-    const bool isCounted = tree.CountPages(condition.usedPages, condition.freePages);
-    struct stat data = {};
-    (void)fstat(m_dataFile.Get(), &data);
-    condition.fileSize = static_cast<std::uint64_t>(data.st_size);
-    condition.pageSize = tree.PageSize();
-    condition.transaction = number;
-    condition.modified = data.st_mtim.tv_sec;
-    EndRead(txn);
-    if (!isCounted) {
-        error = DescribeDamage(address, tree.Cause());
+    if (!cause.empty()) {
+        error = DescribeDamage(address, cause);
         return false;
     }
     if (m_isCopied) {
         return true;
     }
     LmdbMark mark;
-    if (ReadMark(m_lockFile, mark) && mark.inode == data.st_ino && mark.transaction == number) {
+    if (ReadMark(m_lockFile, mark) && mark.inode == data.st_ino && mark.transaction == condition.transaction) {
         condition.lastWriter = static_cast<long>(mark.process);
     }
     condition.writer = FindWriter();

@@ -13,6 +13,7 @@
 #include <condition_variable>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -41,8 +42,12 @@ class LmdbEnvironment
     bool IsOurs() const noexcept;
 
     // The transaction keeps the state from being overwritten; it is read through `tree`.
-    MDB_txn* BeginRead(const std::string& address, LmdbTree& tree, Error& error);
+    // `isFull`: it failed because others have all the readers' places.
+    MDB_txn* BeginRead(const std::string& address, LmdbTree& tree, Error& error, bool* isFull = nullptr);
     void EndRead(MDB_txn* txn) noexcept;
+    // Shows the last state, and where all the readers' places are taken a copy of it in memory.
+    using LookAtState = std::function<void(LmdbTree& tree, std::uint64_t transaction)>;
+    bool LookAt(const std::string& address, const LookAtState& look, Error& error);
     MDB_txn* BeginWrite(const std::string& address, Error& error);
     // After the transaction was committed or aborted with `status`.
     void EndWrite(int status) noexcept;
