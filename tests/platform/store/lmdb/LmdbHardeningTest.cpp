@@ -520,14 +520,43 @@ TEST_F(LmdbHardeningTest, AnotherCopyOfTheLibraryInTheProcessIsNoticed)
 {
     Create();
     // What another copy does first: it tells by a lock of its own that this process uses the store.
+    for (const auto& path : {LockFile(), DataFile()}) {
+        const FileDescriptor other(open(path.c_str(), O_RDWR | O_CLOEXEC));
+        struct flock lock = {};
+        lock.l_type = F_WRLCK;
+        lock.l_start = (off_t{1} << 50) + 1 + (off_t{1} << 22) + getpid();
+        lock.l_len = 1;
+        ASSERT_EQ(fcntl(other.Get(), F_OFD_SETLK, &lock), 0);
+        EXPECT_TRUE(Has(Refusal(), "another copy of this library")) << path;
+        EXPECT_EQ(InChild([&] { return Has(Refusal(), "its lock file") == (path == DataFile()) ? 0 : 1; }), 0);
+    }
+}
+
+TEST_F(LmdbHardeningTest, WhoMayOnlyReadTheStoreKeepsNobodyFromIt)
+{
+    const auto mask = umask(022);
+    Create();
+    ASSERT_EQ(chmod(DataFile().c_str(), 0664), 0);
+    fs::remove(LockFile());
+    Put(*Open(Address()), kKey, L"n", DwordBytes(2));
+    EXPECT_TRUE(Rights(LockFile()).ends_with(" 660")) << Rights(LockFile());
+    ASSERT_EQ(chmod(LockFile().c_str(), 0644), 0);
+    Put(*Open(Address()), kKey, L"n", DwordBytes(3));
+    EXPECT_TRUE(Rights(LockFile()).ends_with(" 600")) << Rights(LockFile());
+    umask(mask);
+
     const FileDescriptor other(open(DataFile().c_str(), O_RDONLY | O_CLOEXEC));
     struct flock lock = {};
-    lock.l_type = F_RDLCK;
-    lock.l_start = (off_t{1} << 50) + 1 + (off_t{1} << 22) + getpid();
-    lock.l_len = 1;
+    lock.l_type = F_RDLCK; // of the whole file and all behind it
     ASSERT_EQ(fcntl(other.Get(), F_OFD_SETLK, &lock), 0);
-    EXPECT_TRUE(Has(Refusal(), "another copy of this library"));
-    EXPECT_EQ(InChild([this] { return Has(Refusal(), "its lock file") ? 0 : 1; }), 0);
+    SetLockTimeout(std::chrono::milliseconds(0));
+    const auto store = Open(Address());
+    Put(*store, kKey, L"n", DwordBytes(4));
+    EXPECT_EQ(InChild([this] { return Get(*Open(Address()), kKey, L"n") == "4:04000000" ? 0 : 1; }), 0);
+    StoreStatus status;
+    Error error;
+    EXPECT_TRUE(GetStoreStatus(Address(), false, status, error)) << error.message;
+    EXPECT_EQ(status.writer, 0);
 }
 
 TEST_F(LmdbHardeningTest, AWriterTellsWhomItWaitsForAndGivesUp)
@@ -630,16 +659,21 @@ TEST_F(LmdbHardeningTest, AClosedStoreIsUnlockedWhoeverHasACopyOfItsFile)
         }
     }
     Put(*store, kKey, L"n", DwordBytes(2));
-    const FileDescriptor file(open(DataFile().c_str(), O_RDWR | O_CLOEXEC));
-    const auto isLocked = [&file] {
-        struct flock lock = {};
-        lock.l_type = F_WRLCK;
-        lock.l_whence = SEEK_SET;
-        return fcntl(file.Get(), F_OFD_GETLK, &lock) != 0 || lock.l_type != F_UNLCK;
+    const auto isLocked = [](const std::string& path) {
+        // As LMDB's locks belong to the process, this one must not open the lock file.
+        return InChild([&path] {
+            const FileDescriptor file(open(path.c_str(), O_RDWR | O_CLOEXEC));
+            struct flock lock = {};
+            lock.l_type = F_WRLCK;
+            lock.l_whence = SEEK_SET;
+            return fcntl(file.Get(), F_OFD_GETLK, &lock) != 0 || lock.l_type != F_UNLCK ? 1 : 0;
+        });
     };
-    EXPECT_TRUE(isLocked()); // marked as in use
+    EXPECT_EQ(isLocked(DataFile()), 1); // marked as in use
+    EXPECT_EQ(isLocked(LockFile()), 1);
     store.reset();
-    EXPECT_FALSE(isLocked());
+    EXPECT_EQ(isLocked(DataFile()), 0);
+    EXPECT_EQ(isLocked(LockFile()), 0);
     kill(child, SIGKILL);
     EXPECT_EQ(Ended(child), -SIGKILL);
 }

@@ -37,10 +37,11 @@ std::int64_t CoarseMilliseconds()
     return std::int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1000000;
 }
 
-// Locks of this library on the data file, far behind its end. Unlike those that LMDB has on the lock file they belong
-// to the open file: they stand between two copies of the library in one process, too, and nobody removes them with a
-// file. One byte for the writer; one for each process that writes, and one for each that has the store open, by its
-// number.
+// Locks of this library far behind the end of a file. Unlike those of LMDB they belong to the open file, and so stand
+// between two copies of the library in one process, too. One byte for the writer; one for each process that writes, and
+// one for each that has the store open, by its number. They are on the lock file, and those of the last kind on the
+// data file too, where processes with another lock file see them. All are write locks: whoever may only read the files
+// can take none.
 constexpr off_t kWriterByte = off_t{1} << 50;
 constexpr off_t kMostProcesses = off_t{1} << 22;
 constexpr off_t kWriterProcess = kWriterByte + 1;
@@ -65,10 +66,10 @@ int SetLock(const FileDescriptor& file, short type, off_t start, off_t length = 
     return fcntl(file.Get(), F_OFD_SETLK, &lock) != 0 ? errno : 0;
 }
 
-// Where the first lock of somebody else in the range is, from its start; -1 for none.
+// Where the first write lock of somebody else in the range is, from its start; -1 for none.
 off_t FindLock(const FileDescriptor& file, off_t start, off_t length)
 {
-    auto lock = LockOf(F_WRLCK, start, length);
+    auto lock = LockOf(F_RDLCK, start, length);
     return fcntl(file.Get(), F_OFD_GETLK, &lock) == 0 && lock.l_type != F_UNLCK ? lock.l_start - start : -1;
 }
 
@@ -138,7 +139,8 @@ void LmdbEnvironment::AfterForkInChild()
     ++g_forks;
     auto& registry = EnvironmentRegistry::Get();
     for (const auto& environment : registry.forking) {
-        environment->m_dataFile.Close(); // the parent's locks go with its last copy of this file
+        environment->m_dataFile.Close(); // the parent's locks go with its last copy of these files
+        environment->m_lockFile.Close();
         environment->m_mutex.unlock();
     }
     registry.forking.clear();
@@ -285,12 +287,15 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
     constexpr int kLooks = 200; // a process that is just opening or closing the store gets some time
     const auto self = static_cast<off_t>(getpid());
     for (int looks = 1;; ++looks) {
-        if (const auto status = SetLock(m_dataFile, F_RDLCK, kUserProcess + self); status != 0) {
-            error = LmdbError(address, "lock", m_dataPath, status);
+        const auto status = SetLock(m_lockFile, F_WRLCK, kUserProcess + self);
+        if (status != 0 && status != EAGAIN && status != EACCES) {
+            error = LmdbError(address, "lock", m_directory + '/' + kLockName, status);
             return false;
         }
+        // Without the right to write the data file, or when a reader of it locks it, this process has to do without.
+        (void)SetLock(m_dataFile, F_WRLCK, kUserProcess + self);
         pid_t holder = 0;
-        const bool isCopy = FindLock(m_dataFile, kUserProcess + self, 1) >= 0;
+        const bool isCopy = status != 0 || FindLock(m_dataFile, kUserProcess + self, 1) >= 0;
         const auto user = FindLock(m_dataFile, kUserProcess, kMostProcesses);
         if (!isCopy && (user < 0 || IsLockFileUsed(m_lockFile, holder))) {
             return true;
@@ -307,8 +312,17 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
             return false;
         }
         // Two that open the store at once must not wait for each other: each takes its mark back for a time of its own.
-        (void)SetLock(m_dataFile, F_UNLCK, kUserProcess + self);
+        Unmark();
         usleep(static_cast<useconds_t>(2000 + 1000 * ((self * 7 + looks * 13) % 17)));
+    }
+}
+
+void LmdbEnvironment::Unmark() noexcept
+{
+    for (const auto* file : {&m_dataFile, &m_lockFile}) {
+        if (*file) {
+            (void)SetLock(*file, F_UNLCK, kUserProcess + getpid());
+        }
     }
 }
 
@@ -453,11 +467,11 @@ void LmdbEnvironment::CloseFiles() noexcept
         mdb_env_close(m_env);
         m_env = nullptr;
     }
-    m_lockFile.Close();
-    if (m_dataFile && IsOurs()) {
-        // A child that was forked meanwhile may have a copy of the descriptor, which would keep this process's mark.
-        (void)SetLock(m_dataFile, F_UNLCK, kUserProcess + getpid());
+    if (IsOurs()) {
+        // A child that was forked meanwhile may have a copy of the descriptors, which would keep this process's mark.
+        Unmark();
     }
+    m_lockFile.Close();
     m_dataFile.Close();
 }
 
@@ -790,7 +804,7 @@ bool LmdbEnvironment::LookAt(const std::string& address, const LookAtState& look
 
 long LmdbEnvironment::FindWriter() const
 {
-    const auto found = FindLock(m_dataFile, kWriterProcess, kMostProcesses);
+    const auto found = FindLock(m_lockFile, kWriterProcess, kMostProcesses);
     return found < 0 ? 0 : static_cast<long>(found);
 }
 
@@ -832,7 +846,7 @@ bool LmdbEnvironment::TakeTurn(const std::string& address, std::chrono::steady_c
     auto pause = std::chrono::microseconds(100);
     int status = 0;
     for (;;) {
-        status = SetLock(m_dataFile, F_WRLCK, kWriterByte);
+        status = SetLock(m_lockFile, F_WRLCK, kWriterByte);
         if (status != EAGAIN && status != EACCES) {
             break;
         }
@@ -848,18 +862,18 @@ bool LmdbEnvironment::TakeTurn(const std::string& address, std::chrono::steady_c
         pause = std::min(pause * 3 / 2, std::chrono::microseconds(2000));
     }
     if (status == 0) {
-        status = SetLock(m_dataFile, F_WRLCK, kWriterProcess + self);
+        status = SetLock(m_lockFile, F_WRLCK, kWriterProcess + self);
     }
     if (status != 0) {
         EndTurn();
-        error = LmdbError(address, "lock", m_dataPath, status);
+        error = LmdbError(address, "lock", m_directory + '/' + kLockName, status);
     }
     return status == 0;
 }
 
 void LmdbEnvironment::EndTurn() noexcept
 {
-    (void)SetLock(m_dataFile, F_UNLCK, kWriterByte, 1 + kMostProcesses);
+    (void)SetLock(m_lockFile, F_UNLCK, kWriterByte, 1 + kMostProcesses);
     {
         const std::lock_guard lock(m_turnMutex);
         m_isTurnTaken = false;

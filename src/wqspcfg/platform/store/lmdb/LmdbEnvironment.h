@@ -109,6 +109,7 @@ class LmdbEnvironment
     bool OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status, bool& isMoved,
                   Error& error);
     bool Announce(const std::string& address, Error& error);
+    void Unmark() noexcept;
     // Whether what kept this process from writing is mended; opening the files again finds out all else.
     bool MayWriteNow() const;
     bool IsWhereItWas(const std::string& address, bool& isLockGone, Error& error);
@@ -139,8 +140,9 @@ class LmdbEnvironment
     const unsigned m_forks;
     std::size_t m_mapSize;
     LmdbFolder m_folder;
-    FileDescriptor m_dataFile; // carries this library's own locks
-    FileDescriptor m_lockFile; // closed after the environment: closing it drops the environment's locks
+    FileDescriptor m_dataFile;
+    FileDescriptor m_lockFile; // carries this library's own locks; closed after the environment: closing it drops the
+                               // environment's locks
     MDB_env* m_env = nullptr;
     MDB_dbi m_dbi = 0;
     LmdbMap m_map;

@@ -182,6 +182,17 @@ constexpr off_t kLmdbLocks = 33 << 10; // what LMDB uses of the lock file
 // LMDB takes whatever is there for its table of readers: what follows is less than one more of its entries.
 constexpr off_t kLockSize = kLmdbLocks + static_cast<off_t>(sizeof(LmdbMark));
 
+// The rights of those who can write. Who could only read the lock file could keep others from it by locks, and do
+// nothing else with it.
+mode_t WritersOf(mode_t mode)
+{
+    mode_t rights = 0;
+    for (const mode_t both : {mode_t{0600}, mode_t{0060}, mode_t{0006}}) {
+        rights |= (mode & both) == both ? both : 0U;
+    }
+    return rights;
+}
+
 std::uint64_t SumOf(const LmdbMark& mark)
 {
     constexpr auto kBehind = sizeof mark.sum;
@@ -214,8 +225,8 @@ FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder
         constexpr mode_t kOwnOnly = 0600;
         file = OpenAt(folder.Get(), kLockName, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, kOwnOnly);
         if (file) {
-            // Who may use the data file may use this one. Where it cannot get the same group, it is its maker's.
-            (void)!fchmod(file.Get(), owner.Give(file, data) == 0 ? data.st_mode & 0666 : kOwnOnly);
+            // Who may write the data file may use this one. Where it cannot get the same group, it is its maker's.
+            (void)!fchmod(file.Get(), owner.Give(file, data) == 0 ? WritersOf(data.st_mode) : kOwnOnly);
         } else if (errno == EEXIST) {
             file = folder.OpenFile(kLockName, O_RDWR); // another process was faster
         }
@@ -240,6 +251,9 @@ FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder
         fallocate(file.Get(), 0, 0, kLockSize) != 0 && (errno == ENOSPC || errno == EDQUOT || errno == EFBIG)) {
         error = LmdbError(address, "open", path, errno);
         return FileDescriptor();
+    }
+    if ((own.st_mode & 0777) != WritersOf(own.st_mode)) {
+        (void)!fchmod(file.Get(), WritersOf(own.st_mode)); // as its owner
     }
     return file;
 }
