@@ -487,4 +487,42 @@ TEST(OpenStoreTest, NamesWhatItDoesNotKnow)
     }
 }
 
+TEST(RegFileTest, ALineWithoutAnEndIsNotReadOn)
+{
+    class Nothing final : public RegFileVisitor
+    {
+        bool Key(Hive, std::wstring_view, Error&) override { return true; }
+        bool DeleteKey(Hive, std::wstring_view, Error&) override { return true; }
+        bool Value(std::wstring_view, const ValueView&, Error&) override { return true; }
+        bool DeleteValue(std::wstring_view, Error&) override { return true; }
+    };
+    const std::string piece(std::size_t{1} << 20, 'x');
+    struct Case
+    {
+        std::string begin;
+        std::size_t most; // pieces
+        const char* line;
+    };
+    std::string wide;
+    for (const char unit : std::string_view("Windows Registry Editor Version 5.00\n\n[HKEY_USERS\\a]\n\"x\"=\"")) {
+        wide += unit;
+        wide += '\0';
+    }
+    const auto most = kLongestRegFileLine / piece.size();
+    for (const auto& [begin, pieces, line] :
+         {Case{"REGEDIT4\n[HKEY_USERS\\a]\n\"x\"=\"", most, "file:3:"},
+          Case{"REGEDIT4\n;\n[HKEY_USERS\\a]\n; \xe4\n\n;", most, "file:6:"}, Case{wide, 2 * most, "file:4:"}}) {
+        Nothing visitor;
+        RegFileParser parser("file", visitor);
+        Error error;
+        EXPECT_TRUE(parser.Feed(begin, error)) << error.message;
+        std::size_t fed = 1;
+        while (fed <= pieces && parser.Feed(piece, error)) {
+            ++fed;
+        }
+        EXPECT_EQ(fed, pieces) << line;
+        EXPECT_EQ(error.message, line + std::string(" the line is longer than 33554432 characters"));
+    }
+}
+
 } // namespace wqspcfg::test

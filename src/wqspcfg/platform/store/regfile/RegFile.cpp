@@ -113,9 +113,9 @@ class RegFileParser::Impl
                 return true;
             }
             const auto head = std::exchange(m_head, {});
-            return Detect(head) && Decode(head) && ParseLines(false);
+            return Detect(head) && DecodeAndParse(head);
         }
-        return Decode(bytes) && ParseLines(false);
+        return DecodeAndParse(bytes);
     }
 
     bool Finish()
@@ -161,6 +161,12 @@ class RegFileParser::Impl
         Escape,
         Comment
     };
+
+    bool DecodeAndParse(std::string_view bytes)
+    {
+        return Decode(bytes) && ParseLines(false) &&
+               (m_openUnits <= kLongestRegFileLine || FailAt(m_text.size() - m_openUnits, LineIsLong()));
+    }
 
     // `at` is the place in the current line; it may span several lines of the file.
     bool FailAt(std::size_t at, std::string_view cause)
@@ -225,11 +231,26 @@ class RegFileParser::Impl
         if (count > 0) {
             std::memcpy(m_text.data() + size, bytes.data(), count * 2);
         }
+        m_openUnits = OpenAfter(m_openUnits, std::u16string_view(m_text).substr(size));
         if (bytes.size() % 2 != 0) {
             m_oddByte = static_cast<unsigned char>(bytes.back());
             m_hasOddByte = true;
         }
         return true;
+    }
+
+    // How long the line is whose end has not been read, after more of the text.
+    template <class Text>
+    static std::size_t OpenAfter(std::size_t before, const Text& more)
+    {
+        const auto end = more.rfind('\n');
+        return end != Text::npos ? more.size() - end - 1 : before + more.size();
+    }
+
+    bool FailLongLine()
+    {
+        ++m_decodedLines;
+        return FailUndecoded(ErrorKind::Damaged, LineIsLong());
     }
 
     // Line by line, since only the first one tells which encoding it is.
@@ -238,6 +259,13 @@ class RegFileParser::Impl
         while (!bytes.empty()) {
             if (!m_undecided.empty()) {
                 m_undecided.append(bytes);
+                m_openBytes = OpenAfter(m_openBytes, bytes);
+                if (m_openBytes > kLongestRegFileLine) {
+                    m_decodedLines +=
+                        static_cast<std::size_t>(std::count(m_undecided.begin(), m_undecided.end(), '\n'));
+                    --m_decodedLines;
+                    return FailLongLine();
+                }
                 break;
             }
             const auto end = bytes.find('\n');
@@ -246,6 +274,9 @@ class RegFileParser::Impl
                 if (!m_hasFirstLine && m_bytes.size() > kLongestFirstLine) {
                     ++m_decodedLines;
                     return FailUndecoded(ErrorKind::Damaged, kFirstLineIsLong);
+                }
+                if (m_bytes.size() > kLongestRegFileLine) {
+                    return FailLongLine();
                 }
                 break;
             }
@@ -701,6 +732,11 @@ class RegFileParser::Impl
         m_data.assign(first, first + count);
     }
 
+    static std::string LineIsLong()
+    {
+        return "the line is longer than " + std::to_string(kLongestRegFileLine) + " characters";
+    }
+
     static constexpr std::string_view kNoFirstLine = "this is not a registry export: its first line is missing";
     static constexpr std::string_view kFirstLineIsLong =
         "this is not a registry export: its first line is longer than that of any export";
@@ -717,6 +753,8 @@ class RegFileParser::Impl
     std::string m_bytes;     // an unfinished line
     std::string m_undecided; // all from the first line whose encoding only the rest of the file tells
     std::size_t m_decodedLines = 0;
+    std::size_t m_openBytes = 0; // of a line whose end has not been read, in m_undecided
+    std::size_t m_openUnits = 0; // the same of UTF-16
     std::size_t m_skip = 0;
     unsigned m_oddByte = 0;
     bool m_hasOddByte = false;

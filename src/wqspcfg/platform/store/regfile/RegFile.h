@@ -23,6 +23,10 @@
 
 namespace wqspcfg {
 
+// A file with a longer line is refused once so much of it has been read; in bytes where the text is not UTF-16. A value
+// of any size can be written in hexadecimal, which goes on over the ends of lines.
+constexpr std::size_t kLongestRegFileLine = std::size_t{1} << 25;
+
 // Takes what stands in a registry export, in its order. False ends the reading; `error` tells why.
 class RegFileVisitor
 {

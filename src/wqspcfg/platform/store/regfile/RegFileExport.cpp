@@ -127,11 +127,12 @@ class Exporter
         m_text.append(u"\r\n");
     }
 
-    // Whether the bytes are a text as a quoted one reads back: one terminator, well-formed, no line break. The text is
-    // left in m_units.
+    // Whether the bytes are a text as a quoted one reads back: one terminator, well-formed, no line break, not too
+    // long. The text is left in m_units.
     bool IsPlainText(std::span<const std::byte> data)
     {
-        if (data.size() % 2 != 0 || data.empty()) {
+        constexpr std::size_t kLongest = kLongestRegFileLine / 4; // a character may take two units, or three bytes
+        if (data.size() % 2 != 0 || data.empty() || data.size() / 2 > kLongest) {
             return false;
         }
         m_units.resize(data.size() / 2);
