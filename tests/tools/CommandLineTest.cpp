@@ -4,6 +4,7 @@
 #include "support/ConfigTest.h"
 #include "support/StoreTesting.h"
 #include "support/TestPaths.h"
+#include "wqspcfg/platform/store/Maintenance.h"
 #include "wqspcfg/platform/store/Session.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +35,12 @@ TEST_F(CommandLineTest, WrongUsageIsStatus2)
                                                       {"delete", "HKLM"},
                                                       {"reference", "--format", "pdf"},
                                                       {"load", "x", "--nonsense"},
-                                                      {"get", "HKLM\\a", "\xff"}}) {
+                                                      {"get", "HKLM\\a", "\xff"},
+                                                      {"export", "-o", ""},
+                                                      {"report", "-o", ""},
+                                                      {"backup", ""},
+                                                      {"restore", ""},
+                                                      {"import", ""}}) {
         std::istringstream in;
         std::ostringstream out;
         std::ostringstream err;
@@ -299,7 +305,8 @@ TEST_F(CommandLineTest, ClosedStandardFilesAreNoStoreFiles)
 {
     MakeTerminal();
     const auto run = [this](const std::string& arguments) {
-        const auto line = std::string(test::kProgram) + " --store " + StoreAddress() + ' ' + arguments;
+        std::string line = test::kProgram;
+        line += " --store " + StoreAddress() + ' ' + arguments;
         return WEXITSTATUS(std::system(line.c_str()));
     };
     EXPECT_EQ(run("ls 'HKLM\\NONE' >&- 2>&-"), 1);
@@ -565,6 +572,24 @@ TEST_F(CommandLineTest, AnEmptyVariableIsNoStore)
     kept ? setenv("WQSPCFG_STORE", kept->c_str(), 1) : unsetenv("WQSPCFG_STORE");
 }
 
+TEST_F(CommandLineTest, AVariableThatIsNotUnderstoodIsTold)
+{
+    const auto errors = [this](const char* name, const char* value) {
+        setenv(name, value, 1);
+        EXPECT_EQ(RunOn("memory:", {"ls"}), 0);
+        unsetenv(name);
+        return m_err;
+    };
+    for (const auto* value : {"abc", "-1", "1e9", "5s", "nan"}) {
+        EXPECT_NE(errors("WQSPCFG_LOCK_TIMEOUT", value).find("\"" + std::string(value) + '"'), std::string::npos);
+    }
+    EXPECT_NE(errors("WQSPCFG_SAVE_POLICY", "own_changes").find("own-changes or all"), std::string::npos) << m_err;
+    for (const auto* value : {"", "0", "2.5"}) {
+        EXPECT_EQ(errors("WQSPCFG_LOCK_TIMEOUT", value), "") << value;
+    }
+    EXPECT_EQ(errors("WQSPCFG_SAVE_POLICY", "own-changes"), "");
+}
+
 TEST_F(CommandLineTest, AStoreThatIsMadeIsNamed)
 {
     ASSERT_EQ(Run({"import", "-"}, "REGEDIT4\n[HKLM\\a]\n\"x\"=dword:1\n"), 0) << m_err;
@@ -579,6 +604,25 @@ TEST_F(CommandLineTest, AStoreThatIsMadeIsNamed)
     // Of an import that fails, nothing is left.
     EXPECT_EQ(RunOn("lmdb:" + File("fourth"), {"import", "-", File("none.reg")}, "REGEDIT4\n[HKLM\\a]\n"), 3);
     EXPECT_FALSE(std::filesystem::exists(File("fourth")));
+    const auto tooLong = "REGEDIT4\n[HKLM\\" + std::string(250, 'a') + '\\' + std::string(250, 'b') + '\\' +
+                         std::string(250, 'c') + "]\n";
+    std::filesystem::create_directory(File("given"));
+    for (const auto* name : {"given", "new", "new/deep/er"}) {
+        EXPECT_EQ(RunOn("lmdb:" + File(name), {"import", "-"}, tooLong), 3);
+        EXPECT_NE(m_err.find("created the store"), std::string::npos) << m_err;
+        EXPECT_NE(m_err.find("removed the store"), std::string::npos) << m_err;
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(File("given")));
+    EXPECT_FALSE(std::filesystem::exists(File("new")));
+    // What is in it stays: a file before, a store that was there, another process's.
+    std::ofstream(File("first.reg")) << "REGEDIT4\n[HKLM\\a]\n\"x\"=dword:1\n";
+    EXPECT_EQ(RunOn("lmdb:" + File("fifth"), {"import", File("first.reg"), "-"}, tooLong), 3);
+    EXPECT_EQ(RunOn("lmdb:" + File("fifth"), {"get", "HKLM\\a", "x"}), 0) << m_err;
+    EXPECT_EQ(Run({"import", "-"}, tooLong), 3);
+    EXPECT_TRUE(std::filesystem::exists(File("store") + "/data.mdb"));
+    const auto used = test::Open("lmdb:" + File("sixth"), {.create = true});
+    EXPECT_FALSE(RemoveNewStore("lmdb:" + File("sixth")));
+    EXPECT_EQ(RunOn("lmdb:" + File("sixth"), {"ls"}), 0) << m_err;
 }
 
 TEST_F(CommandLineTest, TheKeysOf32BitProgramsAreReadOnRequest)

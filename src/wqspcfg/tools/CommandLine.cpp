@@ -1,6 +1,7 @@
 #include "wqspcfg/tools/CommandLine.h"
 
 #include "wqspcfg/diagnosis/Nearest.h"
+#include "wqspcfg/platform/store/LockWait.h"
 #include "wqspcfg/tools/ChangeCommand.h"
 #include "wqspcfg/tools/CheckCommand.h"
 #include "wqspcfg/tools/DiffCommand.h"
@@ -15,6 +16,8 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -28,6 +31,28 @@ constexpr char kKeyHelp[] = "A path that begins with its hive, such as HKLM\\SOF
 constexpr char kNameHelp[] = "The value name; an empty one is the key's default value";
 constexpr char kJsonHelp[] = "Print JSON, for other programs";
 constexpr char kDryRunHelp[] = "Print what would be added (+), changed (~) and deleted (-), and change nothing";
+
+// Of an option or argument that names a file.
+const CLI::Validator kNamed([](const std::string& text) { return text.empty() ? "the name is empty" : ""; }, "");
+
+// The library passes over what it does not understand; whoever runs the program is told.
+void NoteVariables(const Console& console)
+{
+    const auto note = [&console](const char* name, const char* value, const std::string& allowed) {
+        console.Note("warning: the environment variable " + std::string(name) + " is \"" + value + "\", which is not " +
+                     allowed + "; it has no effect");
+    };
+    constexpr char kTimeout[] = "WQSPCFG_LOCK_TIMEOUT";
+    constexpr char kPolicy[] = "WQSPCFG_SAVE_POLICY";
+    std::chrono::milliseconds timeout{};
+    if (const auto* text = std::getenv(kTimeout); text != nullptr && !ParseLockTimeout(text, timeout)) {
+        note(kTimeout, text, "a number of seconds from 0 to 1000000");
+    }
+    const std::string_view policy = std::getenv(kPolicy) != nullptr ? std::getenv(kPolicy) : "";
+    if (!policy.empty() && policy != "own-changes" && policy != "all") {
+        note(kPolicy, policy.data(), "own-changes or all");
+    }
+}
 
 int WritePages(const std::string& directory, const Console& console)
 {
@@ -164,6 +189,9 @@ CLI::App& Program::Add(const char* name, const char* description, std::function<
         if (uses == Uses::Nothing && (m_store.view32 || m_store.codePage != 0)) {
             throw UsageError(std::string(m_store.view32 ? "--view32" : "--codepage") + " does not apply to " + name);
         }
+        if (uses == Uses::Store) {
+            NoteVariables(m_console);
+        }
         m_command = run;
     });
     return *command;
@@ -179,7 +207,7 @@ void Program::AddImport()
     const auto options = std::make_shared<Options>();
     auto& command = Add("import", "Merge registry exports into the store, each file whole or not at all",
                         [=, this] { return Import(m_store, options->files, options->dryRun, m_console); });
-    command.add_option("FILE", options->files, "Registry exports; - is standard input")->required();
+    command.add_option("FILE", options->files, "Registry exports; - is standard input")->required()->check(kNamed);
     command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
 }
 
@@ -197,7 +225,9 @@ void Program::AddExport()
                       options->utf8 ? ExportEncoding::Utf8 : ExportEncoding::Utf16, m_console);
     });
     command.add_option("KEY", options->key, kKeyHelp);
-    command.add_option("-o", options->file, "The file to write. Default: standard output")->option_text("FILE");
+    command.add_option("-o", options->file, "The file to write. Default: standard output")
+        ->check(kNamed)
+        ->option_text("FILE");
     command.add_flag("--utf8", options->utf8,
                      "Write UTF-8, for other programs than regedit. Default: UTF-16, as regedit writes it");
 }
@@ -207,7 +237,9 @@ void Program::AddBackup()
     const auto file = std::make_shared<std::string>();
     auto& command = Add("backup", "Write a consistent copy of the embedded store to a file, also while it is in use",
                         [=, this] { return BackUp(m_store, *file, m_console); });
-    command.add_option("FILE", *file, "The file to write; it is replaced once the copy is complete")->required();
+    command.add_option("FILE", *file, "The file to write; it is replaced once the copy is complete")
+        ->required()
+        ->check(kNamed);
 }
 
 void Program::AddRestore()
@@ -220,7 +252,7 @@ void Program::AddRestore()
     const auto options = std::make_shared<Options>();
     auto& command = Add("restore", "Check a backup, and replace the whole content of the embedded store by it",
                         [=, this] { return Restore(m_store, options->file, options->dryRun, m_console); });
-    command.add_option("FILE", options->file, "A file that backup has written")->required();
+    command.add_option("FILE", options->file, "A file that backup has written")->required()->check(kNamed);
     command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
 }
 
@@ -433,7 +465,9 @@ void Program::AddReport()
     const auto options = std::make_shared<ReportCommandOptions>();
     auto& command = Add("report", "Write the terminal's settings and findings as a page for a browser",
                         [=, this] { return Report(m_store, *options, m_console); });
-    command.add_option("-o", options->file, "The file to write. Default: standard output")->option_text("FILE");
+    command.add_option("-o", options->file, "The file to write. Default: standard output")
+        ->check(kNamed)
+        ->option_text("FILE");
     command
         .add_option_function<std::string>(
             "--against", [=](const std::string& address) { options->against = address; },
@@ -481,6 +515,7 @@ void Program::AddReference()
         ->check(CLI::IsMember({"text", "markdown", "json", "html"}))
         ->option_text("FORMAT");
     command.add_option("--pages", options->pages, "Write a Markdown page for each device class into this directory")
+        ->check(kNamed)
         ->option_text("DIRECTORY");
 }
 

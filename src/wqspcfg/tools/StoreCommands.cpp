@@ -3,6 +3,7 @@
 #include "wqspcfg/diagnosis/Change.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/store/Backup.h"
+#include "wqspcfg/platform/store/Maintenance.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
 #include "wqspcfg/tools/OutputFile.h"
@@ -151,6 +152,39 @@ int PreviewRestore(const StoreChoice& choice, const std::string& file, const Con
 
 #endif
 
+// What a command makes where there is no embedded store yet.
+class NewStore
+{
+  public:
+    explicit NewStore(const StoreChoice& choice) : m_address(choice.Address()), m_isMade(!choice.Exists())
+    {
+        std::error_code code;
+        auto directory = std::filesystem::path(m_address.substr(m_isMade ? m_address.find(':') + 1 : 0));
+        while (m_isMade && !directory.empty() && !std::filesystem::exists(directory, code)) {
+            m_made.push_back(directory);
+            directory = directory.parent_path();
+        }
+    }
+
+    // After a failure, when nothing was written to it. The store is closed.
+    void Remove(const Console& console) const
+    {
+        if (!m_isMade || !RemoveNewStore(m_address)) {
+            return;
+        }
+        std::error_code code;
+        for (const auto& directory : m_made) {
+            std::filesystem::remove(directory, code); // what is not empty stays
+        }
+        console.Note("removed the store " + m_address + " again");
+    }
+
+  private:
+    std::string m_address;
+    bool m_isMade;
+    std::vector<std::filesystem::path> m_made; // the innermost first
+};
+
 class Lister
 {
   public:
@@ -256,13 +290,16 @@ int Import(const StoreChoice& choice, const std::vector<std::string>& files, boo
                            choice.secrets, console)
                      : console.Fail(error);
     }
-    const auto store = choice.OpenOrCreate(console, error, true);
+    const NewStore fresh(choice);
+    auto store = choice.OpenOrCreate(console, error, true);
     if (!store) {
         return console.Fail(error);
     }
     for (std::size_t i = 0; i < files.size(); ++i) {
         ImportCounts counts;
         if (!ImportRegFile(*store, *contents[i], counts, error)) {
+            store.reset();
+            fresh.Remove(console);
             return console.Fail(error);
         }
         console.err << (files[i] == "-" ? "standard input" : DisplayText(files[i])) << ": "

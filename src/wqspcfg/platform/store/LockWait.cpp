@@ -16,14 +16,9 @@ constexpr double kMostSeconds = 1e6;
 std::chrono::milliseconds TimeoutOfEnvironment()
 {
     const auto* text = std::getenv("WQSPCFG_LOCK_TIMEOUT");
-    if (text == nullptr || *text == '\0') {
-        return kDefaultTimeout;
-    }
-    char* end = nullptr;
-    const auto seconds = std::strtod(text, &end);
-    return *end == '\0' && seconds >= 0 && seconds <= kMostSeconds
-               ? std::chrono::milliseconds(static_cast<long long>(seconds * 1000))
-               : kDefaultTimeout;
+    std::chrono::milliseconds timeout = kDefaultTimeout;
+    (void)(text != nullptr && ParseLockTimeout(text, timeout));
+    return timeout;
 }
 
 std::atomic<std::chrono::milliseconds::rep>& Timeout()
@@ -45,6 +40,21 @@ struct Handler
 };
 
 } // namespace
+
+bool ParseLockTimeout(const char* text, std::chrono::milliseconds& timeout)
+{
+    if (*text == '\0') {
+        timeout = kDefaultTimeout;
+        return true;
+    }
+    char* end = nullptr;
+    const auto seconds = std::strtod(text, &end);
+    if (*end != '\0' || !(seconds >= 0 && seconds <= kMostSeconds)) {
+        return false;
+    }
+    timeout = std::chrono::milliseconds(static_cast<long long>(seconds * 1000));
+    return true;
+}
 
 void SetLockTimeout(std::chrono::milliseconds timeout)
 {

@@ -14,6 +14,9 @@ namespace wqspcfg {
 // 60 seconds. For the whole process.
 WQSPCFG_API void SetLockTimeout(std::chrono::milliseconds timeout);
 WQSPCFG_API std::chrono::milliseconds LockTimeout();
+// The time that a text stands for as the value of that variable; an empty one is the default. False, and nothing is
+// changed, for what is no number of seconds from 0 to 1,000,000: the variable has no effect then.
+WQSPCFG_API bool ParseLockTimeout(const char* text, std::chrono::milliseconds& timeout);
 
 struct LockWait
 {

@@ -2,6 +2,7 @@
 
 #if !defined(_WIN32)
 #include "wqspcfg/platform/store/lmdb/LmdbBackup.h"
+#include "wqspcfg/platform/store/lmdb/LmdbEnvironment.h"
 #endif
 
 namespace wqspcfg {
@@ -30,6 +31,16 @@ bool CompactStore(std::string_view address, CompactCounts& counts, Error& error)
     }
 #endif
     return Refuse(address, error);
+}
+
+bool RemoveNewStore([[maybe_unused]] std::string_view address)
+{
+#if !defined(_WIN32)
+    if (address.starts_with(kPrefix) && address.size() > kPrefix.size()) {
+        return LmdbEnvironment::RemoveNew(std::string(address), std::string(address.substr(kPrefix.size())));
+    }
+#endif
+    return false;
 }
 
 bool GetStoreStatus(std::string_view address, [[maybe_unused]] bool verify, StoreStatus& status, Error& error)

@@ -24,6 +24,10 @@ struct CompactCounts : BackupCounts
 // `error` naming path and cause, the store is as it was.
 WQSPCFG_API bool CompactStore(std::string_view address, CompactCounts& counts, Error& error);
 
+// Takes an embedded store back that was made a moment ago and was never written. False when it stays, since somebody
+// uses it or has written to it.
+WQSPCFG_API bool RemoveNewStore(std::string_view address);
+
 struct StoreReader
 {
     long process = 0;

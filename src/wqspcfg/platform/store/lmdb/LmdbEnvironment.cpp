@@ -280,6 +280,33 @@ bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& fold
     return result == 0;
 }
 
+bool LmdbEnvironment::RemoveNew(const std::string& address, const std::string& directory)
+{
+    Error error;
+    LmdbFolder folder;
+    if (!folder.Open(address, directory, false, error)) {
+        return false;
+    }
+    const ActAsOwner owner(folder);
+    auto& registry = EnvironmentRegistry::Get();
+    const std::lock_guard opening(registry.mutex);
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(directory.c_str(), nullptr), &std::free);
+    if (!owner.Check(address, folder, error) || !real || registry.open.contains(real.get())) {
+        return false;
+    }
+    const auto data = folder.OpenFile(kDataName, O_RDWR);
+    const auto lock = folder.OpenFile(kLockName, O_RDWR);
+    // As long as this mark is on the data file, and the lock file is in nobody's use, nobody opens the store.
+    if (!data || !lock || SetLock(data, F_WRLCK, kUserProcess + getpid()) != 0) {
+        return false;
+    }
+    pid_t holder = 0;
+    const bool isUsed = FindLock(data, kUserProcess, kMostProcesses) >= 0 ||
+                        FindLock(lock, kUserProcess, kMostProcesses) >= 0 || IsLockFileUsed(lock, holder);
+    return !isUsed && LastTransaction(data) == 1 && unlinkat(folder.Get(), kDataName, 0) == 0 &&
+           unlinkat(folder.Get(), kLockName, 0) == 0;
+}
+
 // Tells other processes that this one uses the store, and finds out whether others use it in a way that LMDB does not
 // know of. Its table of readers and its locks are in the lock file, which it takes for unused when nobody holds it.
 bool LmdbEnvironment::Announce(const std::string& address, Error& error)
@@ -326,6 +353,12 @@ void LmdbEnvironment::Unmark() noexcept
     }
 }
 
+Error LmdbEnvironment::BeingExchanged(const std::string& address) const
+{
+    return {ErrorKind::Io,
+            address + ": the files in " + m_directory + " are being exchanged while they are opened; try again"};
+}
+
 bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status,
                                bool& isMoved, Error& error)
 {
@@ -367,8 +400,7 @@ bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::
             if (!isMoved) {
                 return true;
             }
-            error = {ErrorKind::Io, address + ": the files in " + m_directory +
-                                        " are being exchanged while they are opened; try again"};
+            error = BeingExchanged(address);
         }
         m_map.Close();
         mdb_env_close(m_env);
@@ -437,11 +469,20 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     }
     m_isCopied = !m_lockFile;
     if (m_isCopied && m_whyReadOnly.empty()) {
-        m_whyReadOnly = "of " + std::string(kLockName) + ": " + m_folder.WhyRefused(kLockName, result);
+        m_whyReadOnly =
+            std::string(kLockName) + " beside it cannot be opened to write: " + m_folder.WhyRefused(kLockName, result);
     }
     const auto needed = static_cast<std::size_t>(m_data.st_size) + kLeastMapSize;
     const unsigned flags = m_isCopied ? MDB_RDONLY | MDB_NOLOCK : m_whyReadOnly.empty() ? 0 : MDB_RDONLY;
-    if ((!m_isCopied && !Announce(address, failure)) || !OpenMaps(address, flags, needed, result, isMoved, failure)) {
+    if (!m_isCopied && Announce(address, failure)) {
+        // Nobody takes the files away from now on; LMDB would make an empty one in the place of one that is gone.
+        bool isLockGone = false;
+        isMoved = !IsWhereItWas(address, isLockGone, failure) && !failure;
+        if (isMoved) {
+            failure = BeingExchanged(address);
+        }
+    }
+    if (failure || !OpenMaps(address, flags, needed, result, isMoved, failure)) {
         error = failure ? std::move(failure) : LmdbError(address, "open", m_dataPath, result);
         CloseFiles();
         return false;

@@ -64,6 +64,9 @@ class LmdbEnvironment
     static bool Replace(const std::string& address, const LmdbFolder& folder, const ActAsOwner& owner,
                         const FileDescriptor& fresh, std::string& name, std::string& kept, Error& error);
 
+    // Removes the files of a store that holds what CreateStore put there and that no process has open.
+    static bool RemoveNew(const std::string& address, const std::string& directory);
+
     // Puts a data file with the state that `txn`, from BeginWrite and with nothing written, has found in the place of
     // this one. Whoever reads goes on with the old file; the next one to look takes the new one.
     bool Exchange(const std::string& address, MDB_txn* txn, const FileDescriptor& fresh, std::string& name,
@@ -108,6 +111,7 @@ class LmdbEnvironment
     bool OpenFilesOnce(const std::string& address, bool& isMoved, Error& error);
     bool OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status, bool& isMoved,
                   Error& error);
+    Error BeingExchanged(const std::string& address) const;
     bool Announce(const std::string& address, Error& error);
     void Unmark() noexcept;
     // Whether what kept this process from writing is mended; opening the files again finds out all else.
