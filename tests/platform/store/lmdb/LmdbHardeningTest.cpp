@@ -121,7 +121,7 @@ class LmdbHardeningTest : public testing::Test
     }
 
     std::string Directory() const { return temporary.File("store"); }
-    std::string Address() const { return "lmdb:" + Directory(); }
+    std::string Address(std::string_view name = "store") const { return "lmdb:" + temporary.File(name); }
     std::string DataFile() const { return Directory() + "/data.mdb"; }
     std::string LockFile() const { return Directory() + "/lock.mdb"; }
     void Create() { Put(*Open(Address(), {.create = true}), kKey, L"n", DwordBytes(1)); }
@@ -723,11 +723,11 @@ TEST_F(LmdbHardeningTest, TooLittleAddressSpaceIsAnError)
     int refused = 0;
     for (std::size_t spare = 8; spare <= 1024; spare += spare / 4) {
         const auto result = InChild([&] {
+            const Bytes data(std::size_t{9} << 20);
             const rlimit limit{used() + (spare << 20), RLIM_INFINITY};
             Error error;
             auto store = setrlimit(RLIMIT_AS, &limit) == 0 ? OpenStore(Address(), {}, error) : nullptr;
             // The first one finds the map full, or nearly so.
-            const Bytes data(std::size_t{9} << 20);
             for (int tries = 0; store && tries < 2; ++tries) {
                 const auto transaction = store->Begin(Access::Write, error);
                 KeyId key = 0;
@@ -746,13 +746,40 @@ TEST_F(LmdbHardeningTest, TooLittleAddressSpaceIsAnError)
     }
     EXPECT_GT(written, 0);
     EXPECT_GT(refused, 0);
+    // Another process, which is allowed all, makes the file larger than the map.
+    Put(*Open(Address("grown"), {.create = true}), kKey, L"n", DwordBytes(1));
+    Steps limited([&](const std::function<void()>& pause) {
+        const rlimit limit{used() + (std::size_t{160} << 20), RLIM_INFINITY};
+        if (setrlimit(RLIMIT_AS, &limit) != 0) {
+            return 9;
+        }
+        const auto store = Open(Address("grown"));
+        const auto reads = [&] { return Get(*store, kKey, L"n") == "4:01000000"; };
+        if (!reads()) {
+            return 1;
+        }
+        pause();
+        if (!reads()) {
+            return 2;
+        }
+        pause();
+        Put(*store, kKey, L"n", DwordBytes(2));
+        return Get(*store, kKey, L"n") == "4:02000000" ? 0 : 3;
+    });
+    for (const auto* name : {L"m", L"o"}) {
+        Put(*Open(Address("grown")), kKey, name, Bytes(std::size_t{25} << 20), ValueType::Binary);
+        if (name[0] == L'm') {
+            limited.Next();
+        }
+    }
+    EXPECT_EQ(limited.Finish(), 0);
     EXPECT_EQ(InChild([&] {
                   const rlimit limit{used() + (std::size_t{48} << 20), RLIM_INFINITY};
                   CompactCounts counts;
                   BackupCounts saved;
                   std::string kept;
                   Error error;
-                  const auto small = "lmdb:" + temporary.File("small");
+                  const auto small = Address("small");
                   const auto backup = temporary.File("backup");
                   Put(*Open(small, {.create = true}), kKey, L"n", DwordBytes(1));
                   return setrlimit(RLIMIT_AS, &limit) == 0 && CompactStore(small, counts, error) &&

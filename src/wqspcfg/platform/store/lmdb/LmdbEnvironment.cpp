@@ -751,8 +751,9 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
     std::uint64_t number = 0;
     for (int tries = 0;; ++tries) {
         auto result = BeginRenewed(txn);
-        if (result == MDB_PANIC) {
-            // A write failed so badly that LMDB wants its environment opened anew.
+        if (result == MDB_PANIC || m_broken) {
+            // A write failed so badly that LMDB wants its environment opened anew, or there is no room for the map that
+            // another process uses.
             m_broken = true;
             if (!Prepare(address, Access::Read, lock, error)) {
                 return nullptr;
@@ -938,22 +939,16 @@ bool LmdbEnvironment::PrepareWrite(const std::string& address, int before, Error
         (void)mdb_env_stat(m_env, &layout);
         const auto used = (info.me_last_pgno + 1) * layout.ms_psize;
         const auto size = m_mapSize;
-        if (before == MDB_MAP_RESIZED) {
-            if (const auto result = Grow(0); result != 0) {
-                error = LmdbError(address, "map", m_dataPath, result);
+        const bool isFull = std::exchange(m_full, false);
+        const auto wanted = before == MDB_MAP_RESIZED ? 0 : 2 * std::max(size, used);
+        if ((wanted == 0 || isFull || used > size / 4 * 3) && Grow(wanted) != 0) {
+            // As much as there is address space for.
+            CloseFiles();
+            m_mapSize = std::max(size, wanted);
+            if (!OpenFiles(address, error)) {
                 return false;
             }
-        } else if (const bool isFull = std::exchange(m_full, false); isFull || used > size / 4 * 3) {
-            const auto wanted = 2 * std::max(size, used);
-            if (Grow(wanted) != 0) {
-                // As much as there is address space for.
-                CloseFiles();
-                m_mapSize = wanted;
-                if (!OpenFiles(address, error)) {
-                    return false;
-                }
-                m_full = isFull && m_mapSize <= size;
-            }
+            m_full = isFull && m_mapSize <= size;
             if (m_full) {
                 error = {ErrorKind::NoSpace, address + ": cannot write " + m_dataPath + ": " + LmdbWords(ENOMEM)};
                 return false;
