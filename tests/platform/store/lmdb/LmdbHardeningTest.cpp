@@ -9,6 +9,7 @@
 #include "wqspcfg/platform/store/Maintenance.h"
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
+#include "wqspcfg/platform/store/regfile/RegFile.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -212,6 +213,23 @@ TEST_F(LmdbHardeningTest, NoProgramThatIsStartedInheritsAFileOfTheStore)
     };
     EXPECT_EQ(inherited(), "");
     const FileDescriptor copy(open(temporary.File("copy").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    class Watcher final : public RegFileVisitor
+    {
+      public:
+        explicit Watcher(std::function<std::string()> look) : m_look(std::move(look)) {}
+        bool Key(Hive, std::wstring_view, Error&) override { return ++keys > 0 && m_look().empty(); }
+        bool DeleteKey(Hive, std::wstring_view, Error&) override { return true; }
+        bool Value(std::wstring_view, const ValueView&, Error&) override { return true; }
+        bool DeleteValue(std::wstring_view, Error&) override { return true; }
+        int keys = 0;
+
+      private:
+        std::function<std::string()> m_look;
+    };
+    WriteFile(temporary.File("a.reg"), "REGEDIT4\n[HKEY_USERS\\a]\n");
+    Watcher watcher(inherited);
+    Error error;
+    EXPECT_TRUE(ReadRegFile(temporary.File("a.reg"), 0, watcher, error) && watcher.keys == 1);
     EXPECT_EQ(WriteStore(copy, kLeastMapSize,
                          [&](MDB_txn*, MDB_dbi) {
                              EXPECT_EQ(inherited(), "");

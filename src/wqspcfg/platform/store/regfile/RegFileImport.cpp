@@ -5,10 +5,19 @@
 #include "wqspcfg/platform/text/DisplayText.h"
 #include "wqspcfg/platform/text/Utf.h"
 
+#if defined(_WIN32)
+#include <fstream>
+#else
+#include "wqspcfg/platform/store/PosixFile.h"
+
+#include <ios>
+#include <streambuf>
+#include <unistd.h>
+#endif
+
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <istream>
 #include <system_error>
 #include <utility>
@@ -121,24 +130,80 @@ class View32Visitor final : public RegFileVisitor
     bool m_isLeftOut = false;
 };
 
-bool OpenFile(const std::string& path, std::ifstream& input, Error& error)
+#if defined(_WIN32)
+
+// A file that is read.
+class InputFile
+{
+  public:
+    bool Open(const std::string& path, Error& error)
+    {
+        errno = 0;
+        m_stream.open(std::filesystem::path(std::u8string(path.begin(), path.end())), std::ios::binary);
+        if (!m_stream) {
+            const auto cause = errno;
+            const auto kind =
+                cause == ENOENT ? ErrorKind::NotFound : (cause == EACCES ? ErrorKind::AccessDenied : ErrorKind::Io);
+            error = {kind, "cannot open " + path + ": " + std::generic_category().message(cause)};
+        }
+        return static_cast<bool>(m_stream);
+    }
+    std::istream& Stream() { return m_stream; }
+
+  private:
+    std::ifstream m_stream;
+};
+
+#else
+
+// A file that is read, and that no program that is started meanwhile inherits, as it would a stream's.
+class InputFile
+{
+  public:
+    bool Open(const std::string& path, Error& error)
+    {
+        m_buffer.file = wqspcfg::OpenFile(path, O_RDONLY | O_NOCTTY);
+        if (!m_buffer.file) {
+            error = SystemError("open", path, errno);
+        }
+        return static_cast<bool>(m_buffer.file);
+    }
+    std::istream& Stream() { return m_stream; }
+
+  private:
+    struct Buffer final : std::streambuf
+    {
+        int_type underflow() override
+        {
+            ssize_t size = 0;
+            do {
+                size = read(file.Get(), bytes.data(), bytes.size());
+            } while (size < 0 && errno == EINTR);
+            if (size < 0) {
+                throw std::ios_base::failure("read"); // caught by the stream, which is bad then
+            }
+            setg(bytes.data(), bytes.data(), bytes.data() + size);
+            return size == 0 ? traits_type::eof() : traits_type::to_int_type(bytes[0]);
+        }
+
+        FileDescriptor file;
+        std::string bytes = std::string(kPiece, '\0');
+    };
+
+    Buffer m_buffer;
+    std::istream m_stream{&m_buffer};
+};
+
+#endif
+
+bool OpenFile(const std::string& path, InputFile& input, Error& error)
 {
     std::error_code failure;
-    const std::filesystem::path file(std::u8string(path.begin(), path.end()));
-    if (std::filesystem::is_directory(file, failure)) {
+    if (std::filesystem::is_directory(std::filesystem::path(std::u8string(path.begin(), path.end())), failure)) {
         error = {ErrorKind::BadArgument, path + " is a directory"};
         return false;
     }
-    errno = 0;
-    input.open(file, std::ios::binary);
-    if (!input) {
-        const auto cause = errno;
-        const auto kind =
-            cause == ENOENT ? ErrorKind::NotFound : (cause == EACCES ? ErrorKind::AccessDenied : ErrorKind::Io);
-        error = {kind, "cannot open " + path + ": " + std::generic_category().message(cause)};
-        return false;
-    }
-    return true;
+    return input.Open(path, error);
 }
 
 // Makes the parser and feeds all of `input` to it. `makeVisitor` is given the parser, to ask it for the line.
@@ -345,8 +410,8 @@ bool RegFileContent::Read(std::istream& input, const std::string& source, const 
 
 bool RegFileContent::Read(const std::string& path, const RegFileOptions& options, Error& error)
 {
-    std::ifstream input;
-    return OpenFile(path, input, error) && m_impl->Read(input, path, options, error);
+    InputFile input;
+    return OpenFile(path, input, error) && m_impl->Read(input.Stream(), path, options, error);
 }
 
 bool RegFileContent::Visit(RegFileVisitor& visitor, Error& error) const
@@ -404,9 +469,10 @@ void RegFileWriter::Close()
 
 bool ReadRegFile(const std::string& path, unsigned codePage, RegFileVisitor& visitor, Error& error)
 {
-    std::ifstream input;
-    return OpenFile(path, input, error) && Parse(
-                                               input, path, codePage, visitor, [](const RegFileParser&) {}, error);
+    InputFile input;
+    return OpenFile(path, input, error) &&
+           Parse(
+               input.Stream(), path, codePage, visitor, [](const RegFileParser&) {}, error);
 }
 
 bool ImportRegFile(Store& store, const RegFileContent& content, ImportCounts& counts, Error& error)
