@@ -48,9 +48,11 @@ void NoteVariables(const Console& console)
     if (const auto* text = std::getenv(kTimeout); text != nullptr && !ParseLockTimeout(text, timeout)) {
         note(kTimeout, text, "a number of seconds from 0 to 1000000");
     }
-    const std::string_view policy = std::getenv(kPolicy) != nullptr ? std::getenv(kPolicy) : "";
-    if (!policy.empty() && policy != "own-changes" && policy != "all") {
-        note(kPolicy, policy.data(), "own-changes or all");
+    if (const auto* text = std::getenv(kPolicy); text != nullptr) {
+        const std::string_view policy = text;
+        if (!policy.empty() && policy != "own-changes" && policy != "all") {
+            note(kPolicy, text, "own-changes or all");
+        }
     }
 }
 
