@@ -13,6 +13,7 @@
 #include <cstring>
 #include <ctime>
 #include <fcntl.h>
+#include <limits>
 #include <map>
 #include <sys/resource.h>
 #include <system_error>
@@ -85,6 +86,20 @@ bool IsLockFileUsed(const FileDescriptor& lockFile, pid_t& process)
 bool IsSameFile(const struct stat& left, const struct stat& right)
 {
     return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
+}
+
+// What this process is still allowed.
+std::size_t FreeAddressSpace()
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_AS, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY) {
+        return std::numeric_limits<std::size_t>::max();
+    }
+    char text[32] = {}; // the first number is that of all its pages
+    const auto file = OpenFile("/proc/self/statm", O_RDONLY);
+    const auto isRead = file && read(file.Get(), text, sizeof text - 1) > 0;
+    const auto used = isRead ? std::strtoul(text, nullptr, 10) * static_cast<std::size_t>(getpagesize()) : 0;
+    return limit.rlim_cur - std::min<std::size_t>(used, limit.rlim_cur);
 }
 
 std::atomic<unsigned> g_forks{0};
@@ -362,12 +377,8 @@ Error LmdbEnvironment::BeingExchanged(const std::string& address) const
 bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::size_t needed, int& status,
                                bool& isMoved, Error& error)
 {
-    rlimit limit{};
-    if (getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY) {
-        // Two maps of it leave most of the address space to all else, and to larger ones.
-        m_mapSize = std::min(m_mapSize, limit.rlim_cur / 8 / kLeastMapSize * kLeastMapSize);
-    }
-    m_mapSize = std::max(m_mapSize, needed);
+    // Two maps of it leave most of the address space to all else, and to larger ones.
+    m_mapSize = std::max(std::min(m_mapSize, FreeAddressSpace() / 8 / kLeastMapSize * kLeastMapSize), needed);
     for (;;) {
         status = mdb_env_create(&m_env);
         if (status != 0) {
