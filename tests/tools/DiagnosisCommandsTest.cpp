@@ -67,6 +67,37 @@ TEST_F(DiagnosisCommandsTest, CheckNamesFaultsWithTheirLines)
     EXPECT_EQ(RunOn("reg:" + File("none.reg"), {"check"}), 3);
 }
 
+// The command that a load names is one that works.
+TEST_F(DiagnosisCommandsTest, AServiceIsMeantByItsProviderToo)
+{
+    const auto store = Export("\"Port\"=\"4\"\n\n"
+                              "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Lone's one]\n"
+                              "\"ExeDllMother\"=\"WQSpBCRNewLand.exe\"\n\"Class\"=\"BCR\"\n"
+                              "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpBCRNewLand\\Comm]\n"
+                              "\"Port\"=\"5\"\n");
+    EXPECT_EQ(RunOn(store, {"load", "WQSpCRDWQTYM1200", "--physical"}), 0) << m_err;
+    EXPECT_NE(m_err.find("1 finding; see `wqspcfg check --physical WQSpCRDWQTYM1200`"), std::string::npos) << m_err;
+    for (const std::vector<std::string>& command : {std::vector<std::string>{"check", "--physical", "WQSpCRDWQTYM1200"},
+                                                    {"check", "wqspcrdwqtym1200"},
+                                                    {"check", "CardDispenser"}}) {
+        EXPECT_EQ(RunOn(store, command), 1);
+        EXPECT_NE(m_out.find("Port is REG_SZ \"4\""), std::string::npos) << m_out << m_err;
+        EXPECT_EQ(m_out.find("\"5\""), std::string::npos) << m_out;
+    }
+    EXPECT_EQ(RunOn(store, {"load", "Lone's one", "--physical"}), 0) << m_err;
+#if !defined(_WIN32)
+    EXPECT_NE(m_err.find("see `wqspcfg check --physical 'Lone'\\''s one'`"), std::string::npos) << m_err;
+#endif
+    EXPECT_EQ(RunOn(store, {"check", "--physical", "Lone's one"}), 1);
+    EXPECT_NE(m_out.find("Port is REG_SZ \"5\""), std::string::npos) << m_out << m_err;
+    EXPECT_EQ(RunOn(store, {"explain", "Lone's one", "Port", "--physical"}), 0) << m_err;
+    EXPECT_EQ(RunOn(store, {"check", "--physical", "CardDispenser"}), 1);
+    EXPECT_EQ(m_err, "wqspcfg: there is no service provider \"CardDispenser\"; `wqspcfg services` lists them\n");
+
+    EXPECT_EQ(RunOn("memory:", {"check"}), 1);
+    EXPECT_EQ(m_err, "wqspcfg: memory:: there are no XFS keys here\n");
+}
+
 TEST_F(DiagnosisCommandsTest, ExplainTellsValueOriginAndKeys)
 {
     const auto store = Export("\"Port\"=\"4\"\n\"BaudRate\"=dword:9600\n\"BluetoothPassWord\"=\"hunter2\"\n");
