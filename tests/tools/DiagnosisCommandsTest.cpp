@@ -4,6 +4,12 @@
 
 #include <fstream>
 
+#if !defined(_WIN32)
+#include "support/Sanitizers.h"
+
+#include <sys/resource.h>
+#endif
+
 namespace wqspcfg::tools {
 
 namespace {
@@ -152,6 +158,38 @@ TEST_F(DiagnosisCommandsTest, HostileTextStaysText)
         EXPECT_TRUE(json::accept(m_out)) << command.front();
     }
 }
+
+#if !defined(_WIN32) // that tells how much memory was used
+
+// The name of a key is made of it, and it has far more levels than a key can have.
+TEST_F(DiagnosisCommandsTest, ATextOfManyBackslashesCostsNoMoreThanItsLength)
+{
+    const auto peak = [] {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss; // in KB
+    };
+    std::string levels;
+    for (int i = 0; i < 20000; ++i) {
+        levels += "\\\\a";
+    }
+    const auto store = Export("[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\WQSpCRDWQTYM1200]\n"
+                              "\"ExeDllMother\"=\"C:" +
+                              levels + "\"\n");
+    const auto before = peak();
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{"load", "CardDispenser"}, {"check"}, {"report"}}) {
+        EXPECT_EQ(RunOn(store, command), command.front() == "load" ? 0 : 1) << m_err.substr(0, 300);
+    }
+    if (!test::kSanitized) {
+        EXPECT_LT(peak() - before, 200 * 1024);
+    }
+    EXPECT_EQ(RunOn(store, {"save", "CardDispenser", "--dry-run"}), 3);
+    EXPECT_NE(m_err.find(" levels; the registry has 512 at most"), std::string::npos) << m_err.substr(0, 300);
+    EXPECT_LT(m_err.size(), 3000U);
+}
+
+#endif
 
 // The README's example, as it stands there.
 TEST_F(DiagnosisCommandsTest, TheExampleOfTheReadmeRuns)
