@@ -176,4 +176,14 @@ TEST_F(ReportTest, DifferencesStandBesideTheSettings)
 
 } // namespace
 
+// A class value is whatever somebody stored: in the contents it stays beside its name.
+TEST_F(ReportTest, ALongClassValueIsCutInTheContents)
+{
+    Set(kLogical, L"Class", std::wstring(300, L'W').c_str());
+    const auto page = Written();
+    const auto begin = page.find("<nav");
+    const auto contents = page.substr(begin, page.find("</nav>", begin) - begin);
+    EXPECT_EQ(Count(contents, "<small>" + std::string(16, 'W') + "…</small>"), 1U) << contents;
+}
+
 } // namespace wqspcfg::diagnosis

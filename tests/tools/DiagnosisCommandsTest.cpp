@@ -4,6 +4,12 @@
 
 #include <fstream>
 
+#if !defined(_WIN32)
+#include "support/Sanitizers.h"
+
+#include <sys/resource.h>
+#endif
+
 namespace wqspcfg::tools {
 
 namespace {
@@ -67,6 +73,37 @@ TEST_F(DiagnosisCommandsTest, CheckNamesFaultsWithTheirLines)
     EXPECT_EQ(RunOn("reg:" + File("none.reg"), {"check"}), 3);
 }
 
+// The command that a load names is one that works.
+TEST_F(DiagnosisCommandsTest, AServiceIsMeantByItsProviderToo)
+{
+    const auto store = Export("\"Port\"=\"4\"\n\n"
+                              "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Lone's one]\n"
+                              "\"ExeDllMother\"=\"WQSpBCRNewLand.exe\"\n\"Class\"=\"BCR\"\n"
+                              "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpBCRNewLand\\Comm]\n"
+                              "\"Port\"=\"5\"\n");
+    EXPECT_EQ(RunOn(store, {"load", "WQSpCRDWQTYM1200", "--physical"}), 0) << m_err;
+    EXPECT_NE(m_err.find("1 finding; see `wqspcfg check --physical WQSpCRDWQTYM1200`"), std::string::npos) << m_err;
+    for (const std::vector<std::string>& command : {std::vector<std::string>{"check", "--physical", "WQSpCRDWQTYM1200"},
+                                                    {"check", "wqspcrdwqtym1200"},
+                                                    {"check", "CardDispenser"}}) {
+        EXPECT_EQ(RunOn(store, command), 1);
+        EXPECT_NE(m_out.find("Port is REG_SZ \"4\""), std::string::npos) << m_out << m_err;
+        EXPECT_EQ(m_out.find("\"5\""), std::string::npos) << m_out;
+    }
+    EXPECT_EQ(RunOn(store, {"load", "Lone's one", "--physical"}), 0) << m_err;
+#if !defined(_WIN32)
+    EXPECT_NE(m_err.find("see `wqspcfg check --physical 'Lone'\\''s one'`"), std::string::npos) << m_err;
+#endif
+    EXPECT_EQ(RunOn(store, {"check", "--physical", "Lone's one"}), 1);
+    EXPECT_NE(m_out.find("Port is REG_SZ \"5\""), std::string::npos) << m_out << m_err;
+    EXPECT_EQ(RunOn(store, {"explain", "Lone's one", "Port", "--physical"}), 0) << m_err;
+    EXPECT_EQ(RunOn(store, {"check", "--physical", "CardDispenser"}), 1);
+    EXPECT_EQ(m_err, "wqspcfg: there is no service provider \"CardDispenser\"; `wqspcfg services` lists them\n");
+
+    EXPECT_EQ(RunOn("memory:", {"check"}), 1);
+    EXPECT_EQ(m_err, "wqspcfg: memory:: there are no XFS keys here\n");
+}
+
 TEST_F(DiagnosisCommandsTest, ExplainTellsValueOriginAndKeys)
 {
     const auto store = Export("\"Port\"=\"4\"\n\"BaudRate\"=dword:9600\n\"BluetoothPassWord\"=\"hunter2\"\n");
@@ -121,6 +158,38 @@ TEST_F(DiagnosisCommandsTest, HostileTextStaysText)
         EXPECT_TRUE(json::accept(m_out)) << command.front();
     }
 }
+
+#if !defined(_WIN32) // that tells how much memory was used
+
+// The name of a key is made of it, and it has far more levels than a key can have.
+TEST_F(DiagnosisCommandsTest, ATextOfManyBackslashesCostsNoMoreThanItsLength)
+{
+    const auto peak = [] {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss; // in KB
+    };
+    std::string levels;
+    for (int i = 0; i < 20000; ++i) {
+        levels += "\\\\a";
+    }
+    const auto store = Export("[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\WQSpCRDWQTYM1200]\n"
+                              "\"ExeDllMother\"=\"C:" +
+                              levels + "\"\n");
+    const auto before = peak();
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{"load", "CardDispenser"}, {"check"}, {"report"}}) {
+        EXPECT_EQ(RunOn(store, command), command.front() == "load" ? 0 : 1) << m_err.substr(0, 300);
+    }
+    if (!test::kSanitized) {
+        EXPECT_LT(peak() - before, 200 * 1024);
+    }
+    EXPECT_EQ(RunOn(store, {"save", "CardDispenser", "--dry-run"}), 3);
+    EXPECT_NE(m_err.find(" levels; the registry has 512 at most"), std::string::npos) << m_err.substr(0, 300);
+    EXPECT_LT(m_err.size(), 3000U);
+}
+
+#endif
 
 // The README's example, as it stands there.
 TEST_F(DiagnosisCommandsTest, TheExampleOfTheReadmeRuns)

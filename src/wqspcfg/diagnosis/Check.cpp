@@ -4,6 +4,7 @@
 #include "wqspcfg/diagnosis/NameIndex.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/platform/store/FlatKey.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/store/regfile/View32.h"
@@ -109,6 +110,10 @@ class CodePlaces
   private:
     void AddKey(const std::wstring& path)
     {
+        // A path that is made of a stored text may have as many levels as that has characters.
+        if (!CanExist(path)) {
+            return;
+        }
         for (auto end = path.size(); end != std::wstring::npos && end > 0; end = path.rfind(L'\\', end - 1)) {
             if (!m_above.insert(path.substr(0, end)).second) {
                 break;

@@ -1,6 +1,7 @@
 #include "wqspcfg/diagnosis/Difference.h"
 
 #include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/diagnosis/NameIndex.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/text/CaseFold.h"
@@ -525,7 +526,7 @@ bool IsSecretName(std::wstring_view name)
         names.erase(std::wstring());
         return names;
     }();
-    return secrets.contains(UpCase(name));
+    return secrets.contains(UpCase(name)) || (MayMeanOneOf(name, secrets) && NameIndex::All().KeysOf(name).empty());
 }
 
 } // namespace wqspcfg::diagnosis

@@ -96,7 +96,8 @@ struct StoredDifference
 // Valid as long as both.
 std::vector<StoredDifference> Compare(const StoredKeys& left, const StoredKeys& right);
 
-// Whether any class has a setting of this name that is a key or a password.
+// Whether any class has a setting of this name that is a key or a password, or the name is nothing else that a class
+// reads and may be a slip for such a one.
 bool IsSecretName(std::wstring_view name);
 
 } // namespace wqspcfg::diagnosis

@@ -68,6 +68,15 @@ class Candidates
 
 } // namespace
 
+bool MayMeanOneOf(std::wstring_view name, const std::set<std::wstring>& others)
+{
+    Candidates candidates(name);
+    for (const auto& other : others) {
+        candidates.Try(other, "this", false);
+    }
+    return !std::move(candidates).Nearest().empty();
+}
+
 const NameIndex& NameIndex::Of(const ClassEntry& entry)
 {
     static std::mutex mutex;

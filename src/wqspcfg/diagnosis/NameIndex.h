@@ -16,6 +16,9 @@ namespace wqspcfg::diagnosis {
 // What the XFS manager reads of a service key.
 inline constexpr const wchar_t* kManagerNames[] = {L"vendor_name", L"version", L"dllname"};
 
+// Whether a name may be a slip for one of these.
+bool MayMeanOneOf(std::wstring_view name, const std::set<std::wstring>& others);
+
 class NameIndex
 {
   public:

@@ -40,6 +40,7 @@ class Places::Lines final : public RegFileVisitor
 
     bool Key(Hive hive, std::wstring_view path, Error&) override
     {
+        m_view.Add(hive, path);
         m_key = KeyOf(hive, path);
         m_lines.try_emplace(m_key, m_parser.Line());
         return true;
@@ -52,6 +53,7 @@ class Places::Lines final : public RegFileVisitor
     }
     bool DeleteValue(std::wstring_view, Error&) override { return true; }
 
+    View32& View() noexcept { return m_view; }
     // 0 where the file does not have it.
     std::size_t Find(Hive hive, std::wstring_view path, const std::wstring* name) const
     {
@@ -72,6 +74,7 @@ class Places::Lines final : public RegFileVisitor
     static std::wstring ValueOf(const std::wstring& key, std::wstring_view name) { return key + L'\0' + UpCase(name); }
 
     RegFileParser m_parser;
+    View32 m_view;
     std::wstring m_key;
     std::unordered_map<std::wstring, std::size_t> m_lines;
 };
@@ -89,15 +92,7 @@ std::string Places::Of(std::wstring_view path, const std::wstring* name)
         m_lines = std::make_unique<Lines>(m_source);
     }
     const auto hive = HiveOf(path);
-    std::size_t line = 0;
-    if (m_source.view32) {
-        if (const auto rest = RestBelow(kXfsKey, hive, path)) {
-            line = m_lines->Find(hive, std::wstring(kXfsKey32) + std::wstring(*rest), name);
-        }
-    }
-    if (line == 0) {
-        line = m_lines->Find(hive, path, name);
-    }
+    const auto line = m_lines->Find(hive, m_source.view32 ? m_lines->View().ToStored(hive, path) : path, name);
     return line != 0 ? m_source.file + ':' + std::to_string(line) : std::string();
 }
 

@@ -19,6 +19,7 @@ namespace {
 
 // What names and values of any length are cut to.
 constexpr std::size_t kLongestShown = 120; // characters of a value or a name in its cell
+constexpr std::size_t kLongestNote = 16;   // beside a name in the contents
 constexpr std::size_t kLongestPath = 400;
 constexpr std::size_t kLongestMessage = 2000;
 constexpr std::size_t npos = static_cast<std::size_t>(-1);
@@ -275,7 +276,7 @@ class Reporter
             }
             services.links.push_back({section.id,
                                       Cut(Utf8ForMessage(NameOf(section.examination->service)), kLongestShown),
-                                      deviceClass, section.errors, section.warnings});
+                                      Cut(deviceClass, kLongestNote), section.errors, section.warnings});
         }
         frame.filters = {{"changed", "Changed", changed}, {"finding", "Findings", withFindings}};
         if (m_comparison != nullptr) {

@@ -2,10 +2,8 @@
 
 #include "wqspcfg/diagnosis/Change.h"
 #include "wqspcfg/diagnosis/SettingText.h"
-#include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/tools/JsonText.h"
 #include "wqspcfg/tools/ScratchStore.h"
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <iterator>
@@ -17,7 +15,6 @@ namespace {
 using diagnosis::ChangePlan;
 using diagnosis::PlannedChange;
 using diagnosis::StoredValue;
-using nlohmann::ordered_json;
 
 std::vector<diagnosis::WantedChange> WantedBy(const ChangeOptions& options)
 {
@@ -93,14 +90,8 @@ ordered_json ToJson(const PlannedChange& change, const StoreChoice& choice, diag
 {
     const auto& setting = *change.setting;
     const auto put = [&](const std::optional<StoredValue>& value) -> ordered_json {
-        if (!value) {
-            return nullptr;
-        }
-        ordered_json out;
-        out["type"] = diagnosis::TypeName(value->type);
-        out["data"] = setting.secret && !choice.secrets ? diagnosis::kMasked
-                                                        : Utf8(diagnosis::DataText({value->type, value->data}, L"\n"));
-        return out;
+        return value ? StoredJson({value->type, value->data}, setting.secret && !choice.secrets)
+                     : ordered_json(nullptr);
     };
     ordered_json out;
     out["root"] = NameOf(setting.root);
@@ -179,7 +170,7 @@ int Change(const StoreChoice& choice, const ServiceChoice& service, const Change
         for (const auto& change : plan.changes) {
             out["changes"].push_back(ToJson(change, choice, places));
         }
-        console.out << out.dump(1) << '\n';
+        PrintJson(out, console.out);
     } else {
         for (const auto& change : plan.changes) {
             Print(change, choice, places, console.out);
@@ -187,6 +178,8 @@ int Change(const StoreChoice& choice, const ServiceChoice& service, const Change
     }
     if (options.dryRun) {
         console.Note("nothing is changed: --dry-run");
+    } else if (!console.out.flush()) {
+        return console.Fail(kFailed, "the change was made; only its lines cannot be written to standard output");
     }
     return Checked(kDone, console);
 }

@@ -2,9 +2,9 @@
 
 #include "wqspcfg/diagnosis/Check.h"
 #include "wqspcfg/diagnosis/SettingText.h"
-#include "wqspcfg/platform/text/CaseFold.h"
-
-#include <nlohmann/json.hpp>
+#include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/store/regfile/View32.h"
+#include "wqspcfg/tools/JsonText.h"
 
 #include <algorithm>
 
@@ -15,7 +15,6 @@ namespace {
 using diagnosis::Checkup;
 using diagnosis::Finding;
 using diagnosis::Severity;
-using nlohmann::ordered_json;
 
 const char* NameOf(Severity severity)
 {
@@ -47,7 +46,14 @@ void PrintJson(const Checkup& checkup, std::ostream& out)
         each["message"] = finding.message;
         all["findings"].push_back(std::move(each));
     }
-    out << all.dump(1) << '\n';
+    tools::PrintJson(all, out);
+}
+
+// Where service providers and services stand.
+bool HasXfsKeys()
+{
+    const ReadScope scope;
+    return scope->Exists(scope->Open(kXfsKey)) || scope->Exists(scope->Open(kUsersXfsKey));
 }
 
 } // namespace
@@ -64,19 +70,24 @@ int CheckTerminal(const StoreChoice& choice, const CheckCommandOptions& options,
     wanted.view32 = choice.view32;
     wanted.showSecrets = choice.secrets;
     for (const auto& name : options.services) {
-        wanted.services.push_back(Wide(name));
+        const auto names = NamesOfServices(Wide(name), options.physical);
+        if (LastStoreError()) {
+            return console.Fail(LastStoreError());
+        }
+        if (names.empty()) {
+            return console.Fail(kNegative, "there is no " +
+                                               std::string(options.physical ? "service provider" : "service") + " \"" +
+                                               name + "\"; `wqspcfg services` lists them");
+        }
+        wanted.services.insert(wanted.services.end(), names.begin(), names.end());
     }
     diagnosis::Places places(SourceOf(choice));
     const auto checkup = diagnosis::Check(wanted, places);
     if (checkup.failure) {
         return console.Fail(checkup.failure);
     }
-    for (const auto& name : wanted.services) {
-        if (std::none_of(checkup.services.begin(), checkup.services.end(), [&](const diagnosis::Examination& each) {
-                return EqualNoCase(name, diagnosis::NameOf(each.service));
-            })) {
-            return console.Fail(kNegative, "there is no service \"" + Utf8(name) + "\"; `wqspcfg services` lists them");
-        }
+    if (checkup.services.empty() && !HasXfsKeys()) {
+        return console.Fail(kNegative, choice.Address() + ": there are no XFS keys here");
     }
     if (options.json) {
         PrintJson(checkup, console.out);

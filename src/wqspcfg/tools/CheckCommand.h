@@ -10,7 +10,8 @@ namespace wqspcfg::tools {
 
 struct CheckCommandOptions
 {
-    std::vector<std::string> services; // their names; empty: the whole terminal
+    std::vector<std::string> services; // their names or those of their providers; empty: the whole terminal
+    bool physical = false;             // they are names of providers
     bool strict = false;               // warnings count for the exit status
     bool json = false;
 };

@@ -22,6 +22,7 @@
 #include <fstream>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace wqspcfg::tools {
 
@@ -79,6 +80,13 @@ enum class Uses
     Nothing,
 };
 
+// --dry-run and --json of a command that prints nothing without them.
+struct DryRun
+{
+    bool isOn = false;
+    bool json = false;
+};
+
 // The command line: a function for each command declares it. What its options are stored in belongs to the command.
 class Program
 {
@@ -112,6 +120,8 @@ class Program
     void AddReference();
     void AddHelp();
     static void AddServiceOptions(CLI::App& command, ServiceChoice& service);
+    static void AddDryRun(CLI::App& command, DryRun& options);
+    std::optional<PreviewOptions> Preview(const DryRun& options) const;
 
     [[noreturn]] void FailUnknownCommand(const std::string& name) const;
     [[noreturn]] void FailWithoutCommand() const;
@@ -134,8 +144,8 @@ Program::Program(const Console& console) : m_console(console)
     m_app.allow_windows_style_options(false); // "/x" may be a path or data
     m_app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     m_app.footer("Data goes to standard output, messages go to standard error.\n"
-                 "Exit status: 0 done; 1 a negative answer (Load returned false, there is no such value); 2 wrong "
-                 "usage; 3 the store or a file failed.");
+                 "Exit status: 0 done; 1 a negative answer (there are findings or differences, there is no such key, "
+                 "value, service or setting, or Load returned false); 2 wrong usage; 3 the store or a file failed.");
     m_app
         .add_option_function<std::string>(
             "--store", [this](const std::string& address) { m_store.address = address; },
@@ -143,15 +153,17 @@ Program::Program(const Console& console) : m_console(console)
             "Default: the environment variable WQSPCFG_STORE, else the store of the platform")
         ->option_text("ADDRESS");
     m_app.add_flag("--view32", m_store.view32,
-                   "Take the keys of 32-bit programs: SOFTWARE\\WOW6432Node\\XFS of a reg: or hive: store or an "
-                   "imported file as SOFTWARE\\XFS, and the 32-bit view of windows:");
+                   "Take the keys of 32-bit programs: SOFTWARE\\WOW6432Node of a reg: or hive: store or an imported "
+                   "file as SOFTWARE, and the 32-bit view of windows:");
     m_app
         .add_option("--codepage", m_store.codePage,
                     "Code page of REGEDIT4 text in a reg: store or an imported file, such as 936 or 1252. Default: the "
                     "text must be ASCII or UTF-8")
         ->check(CLI::Range(1U, 65535U))
         ->option_text("N");
-    m_app.add_flag("--secrets", m_store.secrets, "Show keys and passwords, which are masked without it");
+    m_app.add_flag("--secrets", m_store.secrets,
+                   "Show keys and passwords, which are masked without it in all that is printed; only load "
+                   "and export hold them always");
     AddServices();
     AddExplain();
     AddReport();
@@ -199,18 +211,30 @@ CLI::App& Program::Add(const char* name, const char* description, std::function<
     return *command;
 }
 
+void Program::AddDryRun(CLI::App& command, DryRun& options)
+{
+    auto* dryRun = command.add_flag("--dry-run", options.isOn, kDryRunHelp);
+    command.add_flag("--json", options.json, "Print what --dry-run tells as JSON, for other programs")->needs(dryRun);
+}
+
+std::optional<PreviewOptions> Program::Preview(const DryRun& options) const
+{
+    return options.isOn ? std::optional(PreviewOptions{m_store.secrets, options.json, SourceOf(m_store)})
+                        : std::nullopt;
+}
+
 void Program::AddImport()
 {
     struct Options
     {
         std::vector<std::string> files;
-        bool dryRun = false;
+        DryRun dryRun;
     };
     const auto options = std::make_shared<Options>();
     auto& command = Add("import", "Merge registry exports into the store, each file whole or not at all",
-                        [=, this] { return Import(m_store, options->files, options->dryRun, m_console); });
+                        [=, this] { return Import(m_store, options->files, Preview(options->dryRun), m_console); });
     command.add_option("FILE", options->files, "Registry exports; - is standard input")->required()->check(kNamed);
-    command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
+    AddDryRun(command, options->dryRun);
 }
 
 void Program::AddExport()
@@ -249,13 +273,13 @@ void Program::AddRestore()
     struct Options
     {
         std::string file;
-        bool dryRun = false;
+        DryRun dryRun;
     };
     const auto options = std::make_shared<Options>();
     auto& command = Add("restore", "Check a backup, and replace the whole content of the embedded store by it",
-                        [=, this] { return Restore(m_store, options->file, options->dryRun, m_console); });
+                        [=, this] { return Restore(m_store, options->file, Preview(options->dryRun), m_console); });
     command.add_option("FILE", options->file, "A file that backup has written")->required()->check(kNamed);
-    command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
+    AddDryRun(command, options->dryRun);
 }
 
 void Program::AddCompact()
@@ -266,10 +290,11 @@ void Program::AddCompact()
 
 void Program::AddStatus()
 {
-    const auto verify = std::make_shared<bool>(false);
+    const auto options = std::make_shared<StatusOptions>();
     auto& command = Add("status", "Show the embedded store's size, free space, readers and last writer",
-                        [=, this] { return ShowStatus(m_store, *verify, m_console); });
-    command.add_flag("--verify", *verify, "Check every page and value too; exit status 1 when one is damaged");
+                        [=, this] { return ShowStatus(m_store, *options, m_console); });
+    command.add_flag("--verify", options->verify, "Check every page and value too; exit status 1 when one is damaged");
+    command.add_flag("--json", options->json, kJsonHelp);
 }
 
 void Program::AddGet()
@@ -278,12 +303,16 @@ void Program::AddGet()
     {
         std::string key;
         std::string name;
+        bool json = false;
     };
     const auto options = std::make_shared<Options>();
-    auto& command = Add("get", "Print one value: a text as it stands, escaped on a terminal only",
-                        [=, this] { return Get(m_store, options->key, options->name, m_console); });
+    auto& command = Add("get",
+                        "Print one value: a text as it stands, escaped on a terminal only; a key or password only with "
+                        "--secrets",
+                        [=, this] { return Get(m_store, options->key, options->name, options->json, m_console); });
     command.add_option("KEY", options->key, kKeyHelp)->required();
     command.add_option("NAME", options->name, kNameHelp)->required();
+    command.add_flag("--json", options->json, kJsonHelp);
 }
 
 void Program::AddSet()
@@ -326,6 +355,7 @@ void Program::AddDelete()
         std::string name;
         CLI::Option* nameOption = nullptr;
         DeleteOptions what;
+        DryRun dryRun;
     };
     const auto options = std::make_shared<Options>();
     auto& command = Add("delete", "Delete one value, or a key with its values", [=, this] {
@@ -333,12 +363,13 @@ void Program::AddDelete()
         if (options->nameOption->count() != 0) {
             what.name = options->name;
         }
+        what.preview = Preview(options->dryRun);
         return Delete(m_store, options->key, what, m_console);
     });
     command.add_option("KEY", options->key, kKeyHelp)->required();
     options->nameOption = command.add_option("NAME", options->name, kNameHelp);
     command.add_flag("--recursive", options->what.recursive, "Delete the subkeys of the key too");
-    command.add_flag("--dry-run", options->what.dryRun, kDryRunHelp);
+    AddDryRun(command, options->dryRun);
 }
 
 void Program::AddList()
@@ -346,21 +377,25 @@ void Program::AddList()
     struct Options
     {
         std::string key;
-        bool recursive = false;
+        ListOptions how;
     };
     const auto options = std::make_shared<Options>();
     auto& command = Add("ls", "List the subkeys and values of a key, or the hives; values as name, type and data",
-                        [=, this] { return List(m_store, options->key, options->recursive, m_console); });
+                        [=, this] { return List(m_store, options->key, options->how, m_console); });
     command.add_option("KEY", options->key, kKeyHelp);
-    command.add_flag("-R,--recursive", options->recursive, "List all below the key, each line with its path");
+    command.add_flag("-R,--recursive", options->how.recursive, "List all below the key, each line with its path");
+    command.add_flag("--json", options->how.json, kJsonHelp);
 }
 
 void Program::AddServices()
 {
-    Add("services",
-        "List the services, separated by tabs: name, logical or physical, class, device key, model class, reason for "
-        "the model class",
-        [this] { return ListServices(m_store, m_console); });
+    const auto json = std::make_shared<bool>(false);
+    auto& command =
+        Add("services",
+            "List the services, separated by tabs: name, logical or physical, class, device key, model class, reason "
+            "for the model class",
+            [=, this] { return ListServices(m_store, *json, m_console); });
+    command.add_flag("--json", *json, kJsonHelp);
 }
 
 void Program::AddServiceOptions(CLI::App& command, ServiceChoice& service)
@@ -378,13 +413,14 @@ void Program::AddLoad()
     struct Options
     {
         ServiceChoice service;
-        bool writeBack = false;
+        LoadOptions how;
     };
     const auto options = std::make_shared<Options>();
     auto& command = Add("load", "Load the configuration of a service and print each log line; the store is not changed",
-                        [=, this] { return LoadService(m_store, options->service, options->writeBack, m_console); });
+                        [=, this] { return LoadService(m_store, options->service, options->how, m_console); });
     AddServiceOptions(command, options->service);
-    command.add_flag("--write-back", options->writeBack, "Write to the store what the class writes while it loads");
+    command.add_flag("--write-back", options->how.writeBack, "Write to the store what the class writes while it loads");
+    command.add_flag("--json", options->how.json, kJsonHelp);
 }
 
 void Program::AddSave()
@@ -392,13 +428,14 @@ void Program::AddSave()
     struct Options
     {
         ServiceChoice service;
-        bool dryRun = false;
+        DryRun dryRun;
     };
     const auto options = std::make_shared<Options>();
-    auto& command = Add("save", "Load the configuration of a service and save it, in one write transaction",
-                        [=, this] { return SaveService(m_store, options->service, options->dryRun, m_console); });
+    auto& command = Add("save", "Load the configuration of a service and save it, in one write transaction", [=, this] {
+        return SaveService(m_store, options->service, Preview(options->dryRun), m_console);
+    });
     AddServiceOptions(command, options->service);
-    command.add_flag("--dry-run", options->dryRun, kDryRunHelp);
+    AddDryRun(command, options->dryRun);
 }
 
 void Program::AddExplain()
@@ -423,7 +460,11 @@ void Program::AddCheck()
     const auto options = std::make_shared<CheckCommandOptions>();
     auto& command = Add("check", "Tell what is wrong with the configuration of the terminal, or of some services",
                         [=, this] { return CheckTerminal(m_store, *options, m_console); });
-    command.add_option("SERVICE", options->services, "Services by name. Default: the whole terminal");
+    command.add_option(
+        "SERVICE", options->services,
+        "Services by name, or by their service providers' names where no service has that name. Default: "
+        "the whole terminal");
+    command.add_flag("--physical", options->physical, "SERVICE is the name of a service provider");
     command.add_flag("--strict", options->strict, "Let warnings count for the exit status too");
     command.add_flag("--json", options->json, kJsonHelp);
 }
@@ -479,9 +520,11 @@ void Program::AddReport()
 
 void Program::AddModels()
 {
-    Add(
+    const auto json = std::make_shared<bool>(false);
+    auto& command = Add(
         "models", "List every class, separated by tabs: name, base, device class",
-        [this] { return ListModels(m_console); }, Uses::Nothing);
+        [=, this] { return ListModels(*json, m_console); }, Uses::Nothing);
+    command.add_flag("--json", *json, kJsonHelp);
 }
 
 void Program::AddReference()
@@ -612,7 +655,8 @@ int Run(const std::vector<std::string>& arguments, std::istream& in, std::ostrea
         return console.Fail(kFailed, error.what());
     }
     out.flush();
-    return out ? status : console.Fail(kFailed, "cannot write to standard output");
+    // A command that failed has said why.
+    return out || status == kFailed ? status : console.Fail(kFailed, "cannot write to standard output");
 }
 
 } // namespace wqspcfg::tools

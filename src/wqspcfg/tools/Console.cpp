@@ -1,5 +1,6 @@
 #include "wqspcfg/tools/Console.h"
 
+#include "wqspcfg/platform/store/regfile/RegFileStore.h"
 #include "wqspcfg/platform/text/CodePage.h"
 #if defined(WQSPCFG_WITH_HIVEX)
 #include "wqspcfg/tools/hive/HiveStore.h"
@@ -89,7 +90,12 @@ std::shared_ptr<Store> StoreChoice::OpenAddress(const OpenOptions& options, Erro
 {
     const auto store = Address();
     if (!store.starts_with(kDisk)) {
-        return OpenStore(store, options, error);
+        auto opened = OpenStore(store, options, error);
+        const auto* file = dynamic_cast<const RegFileStore*>(opened.get());
+        if (file != nullptr && file->IsTakenAsUtf8()) {
+            NoteTakenAsUtf8(file->FilePath());
+        }
+        return opened;
     }
     const auto path = store.substr(kDisk.size());
     if (path.empty()) {
@@ -132,6 +138,14 @@ void StoreChoice::NoteCreated(const Console& console) const
 {
     if (Exists()) {
         console.Note("created the store " + Address());
+    }
+}
+
+void StoreChoice::NoteTakenAsUtf8(const std::string& file) const
+{
+    if (note) {
+        note(file + ": REGEDIT4 does not tell the code page, and the text is read as UTF-8; give --codepage if "
+                    "it is in another one");
     }
 }
 

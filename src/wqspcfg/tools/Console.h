@@ -56,7 +56,7 @@ struct StoreChoice
     bool view32 = false;
     unsigned codePage = 0;
     bool secrets = false; // show keys and passwords
-    // Takes what is to be said of a store that was opened.
+    // Takes what is to be said of a store or a registry export that was opened.
     std::function<void(const std::string&)> note;
 
     // Throws UsageError for an empty address.
@@ -73,6 +73,7 @@ struct StoreChoice
     // Whether an embedded store is there to be opened. True for other stores.
     bool Exists() const;
     void NoteCreated(const Console& console) const;
+    void NoteTakenAsUtf8(const std::string& file) const;
 
   private:
     std::shared_ptr<Store> OpenAddress(const OpenOptions& options, Error& error) const;

@@ -5,8 +5,7 @@
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
 #include "wqspcfg/platform/text/CaseFold.h"
-
-#include <nlohmann/json.hpp>
+#include "wqspcfg/tools/JsonText.h"
 
 #include <algorithm>
 
@@ -19,7 +18,6 @@ using diagnosis::DifferenceKind;
 using diagnosis::DifferingSide;
 using diagnosis::StoredDifference;
 using diagnosis::StoredValue;
-using nlohmann::ordered_json;
 
 // One of the two terminals, as it was read.
 struct Side
@@ -125,8 +123,10 @@ class Printer
             const auto right = Stored(difference, difference.right);
             line += left + " -> " + right;
             if (left == right) {
-                line += "   (they differ in what is not shown: " + Counted(difference.left->data.size(), "byte") +
-                        " -> " + Counted(difference.right->data.size(), "byte") + ')';
+                line += "   (they differ in what is not shown";
+                line += IsMasked(*difference.name) ? ")"
+                                                   : ": " + Counted(difference.left->data.size(), "byte") + " -> " +
+                                                         Counted(difference.right->data.size(), "byte") + ')';
             }
         }
         m_out << DisplayText(line + PlacesText(PlaceOf(m_left, difference, difference.isInLeft),
@@ -162,9 +162,7 @@ class Printer
             }
             ordered_json each;
             if (value != nullptr) {
-                each["type"] = diagnosis::TypeName(value->type);
-                each["data"] = IsMasked(value->name) ? diagnosis::kMasked
-                                                     : Utf8(diagnosis::DataText({value->type, value->data}, L"\n"));
+                each = StoredJson({value->type, value->data}, IsMasked(value->name));
             } else {
                 each["keys"] = difference.keys;
                 each["values"] = difference.values;
@@ -228,10 +226,7 @@ class Printer
             out["source"] = diagnosis::NameOf(differing.setting->source);
             out["stored"] = nullptr;
             if (const auto* key = differing.key) {
-                out["stored"] = ordered_json::object();
-                out["stored"]["type"] = diagnosis::TypeName(key->type);
-                out["stored"]["data"] =
-                    isMasked ? diagnosis::kMasked : Utf8(diagnosis::DataText({key->type, key->data}, L"\n"));
+                out["stored"] = StoredJson({key->type, key->data}, isMasked);
             }
         }
         if (!differing.note.empty()) {
@@ -281,7 +276,7 @@ int Report(const Differences& differences, Printer& printer, const DiffOptions& 
         for (const auto& difference : differences) {
             out["differences"].push_back(printer.ToJson(difference));
         }
-        console.out << out.dump(1) << '\n';
+        PrintJson(out, console.out);
     } else {
         for (const auto& difference : differences) {
             printer.Print(difference);

@@ -4,9 +4,8 @@
 #include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/tools/JsonText.h"
 #include "wqspcfg/tools/TextTable.h"
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 
@@ -16,7 +15,6 @@ namespace {
 
 using diagnosis::AskedKey;
 using diagnosis::ExaminedSetting;
-using nlohmann::ordered_json;
 
 class Explanation
 {
@@ -245,7 +243,7 @@ int Explain(const StoreChoice& choice, const ServiceChoice& service, const Expla
         for (const auto* setting : settings) {
             out["settings"].push_back(explanation.ToJson(*setting));
         }
-        console.out << out.dump(1) << '\n';
+        PrintJson(out, console.out);
     } else if (options.changed) {
         explanation.PrintChanged(settings, console.out);
     } else {

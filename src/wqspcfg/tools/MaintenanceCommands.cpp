@@ -1,6 +1,7 @@
 #include "wqspcfg/tools/MaintenanceCommands.h"
 
 #include "wqspcfg/platform/store/Maintenance.h"
+#include "wqspcfg/tools/JsonText.h"
 
 #include <ctime>
 
@@ -8,12 +9,49 @@ namespace wqspcfg::tools {
 
 namespace {
 
-std::string Time(std::int64_t seconds)
+// Empty where it cannot be told.
+std::string Time(std::int64_t seconds, const char* format)
 {
     const auto time = static_cast<std::time_t>(seconds);
     char text[32];
     const auto* parts = std::gmtime(&time);
-    return parts != nullptr && std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S UTC", parts) != 0 ? text : "unknown";
+    return parts != nullptr && std::strftime(text, sizeof text, format, parts) != 0 ? text : "";
+}
+
+ordered_json ToJson(const StoreStatus& status, bool verify)
+{
+    const auto process = [](long number) { return number != 0 ? ordered_json(number) : ordered_json(nullptr); };
+    ordered_json out;
+    out["file"] = status.path;
+    out["size"] = status.fileSize;
+    out["used"] = status.usedSize;
+    out["free"] = status.freeSize;
+    out["commits"] = status.commits;
+    out["lastCommit"] = Time(status.lastCommit, "%Y-%m-%dT%H:%M:%SZ");
+    out["lastWriter"] = process(status.lastWriter);
+    out["writer"] = process(status.writer);
+    out["readers"] = nullptr;
+    if (status.knowsUsers) {
+        out["readers"] = ordered_json::array();
+        for (const auto& each : status.readers) {
+            ordered_json reader;
+            reader["process"] = each.process;
+            reader["program"] = each.program;
+            reader["seconds"] = each.seconds < 0 ? ordered_json(nullptr) : ordered_json(each.seconds);
+            reader["behind"] = each.behind;
+            out["readers"].push_back(std::move(reader));
+        }
+    }
+    if (verify) {
+        out["sound"] = status.isSound;
+        if (status.isSound) {
+            out["keys"] = status.counts.keys;
+            out["values"] = status.counts.values;
+        } else {
+            out["damage"] = status.damage;
+        }
+    }
+    return out;
 }
 
 // A program's name is whatever its user likes.
@@ -41,14 +79,19 @@ int Compact(const StoreChoice& choice, const Console& console)
     return kDone;
 }
 
-int ShowStatus(const StoreChoice& choice, bool verify, const Console& console)
+int ShowStatus(const StoreChoice& choice, const StatusOptions& options, const Console& console)
 {
     Error error;
     StoreStatus status;
-    if (!GetStoreStatus(choice.Address(), verify, status, error)) {
+    if (!GetStoreStatus(choice.Address(), options.verify, status, error)) {
         return console.Fail(error);
     }
+    if (options.json) {
+        PrintJson(ToJson(status, options.verify), console.out);
+        return options.verify && !status.isSound ? kNegative : kDone;
+    }
     auto& out = console.out;
+    const auto time = Time(status.lastCommit, "%Y-%m-%d %H:%M:%S UTC");
     const auto process = [&](const char* what, long number, const char* none) {
         out << what << '\t' << (number != 0 ? "process " + std::to_string(number) : none) << '\n';
     };
@@ -57,7 +100,7 @@ int ShowStatus(const StoreChoice& choice, bool verify, const Console& console)
         << "used\t" << status.usedSize << " bytes\n"
         << "free\t" << status.freeSize << " bytes\n"
         << "commits\t" << status.commits << '\n'
-        << "last commit\t" << Time(status.lastCommit) << '\n';
+        << "last commit\t" << (time.empty() ? "unknown" : time) << '\n';
     if (status.knowsUsers) {
         process("last writer", status.lastWriter, "unknown");
         process("writing now", status.writer, "nobody");
@@ -71,7 +114,7 @@ int ShowStatus(const StoreChoice& choice, bool verify, const Console& console)
     } else {
         out << "readers\tunknown without the right to the lock file\n";
     }
-    if (!verify) {
+    if (!options.verify) {
         return kDone;
     }
     if (status.isSound) {

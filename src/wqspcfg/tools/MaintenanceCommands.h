@@ -6,7 +6,12 @@
 namespace wqspcfg::tools {
 
 int Compact(const StoreChoice& choice, const Console& console);
-// With `verify`, status kNegative for a store that is damaged.
-int ShowStatus(const StoreChoice& choice, bool verify, const Console& console);
+
+struct StatusOptions
+{
+    bool verify = false; // exit status kNegative for a store that is damaged
+    bool json = false;
+};
+int ShowStatus(const StoreChoice& choice, const StatusOptions& options, const Console& console);
 
 } // namespace wqspcfg::tools

@@ -4,6 +4,7 @@
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
 #include "wqspcfg/platform/text/CaseFold.h"
+#include "wqspcfg/tools/JsonText.h"
 #include "wqspcfg/tools/ValueText.h"
 
 #include <algorithm>
@@ -103,8 +104,8 @@ class Comparison
 {
   public:
     // `before` may be null.
-    Comparison(Transaction* before, Transaction& after, bool showSecrets, const Console& console)
-        : m_before(before), m_after(after), m_showSecrets(showSecrets), m_console(console)
+    Comparison(Transaction* before, Transaction& after, const PreviewOptions& options, const Console& console)
+        : m_before(before), m_after(after), m_options(options), m_places(options.source), m_console(console)
     {}
 
     int Print()
@@ -113,6 +114,14 @@ class Comparison
             if (!Compare({hive, {}})) {
                 return m_console.Fail(m_error);
             }
+        }
+        if (m_options.json) {
+            ordered_json out;
+            out["added"] = m_added;
+            out["changed"] = m_changed;
+            out["deleted"] = m_deleted;
+            out["changes"] = std::move(m_json);
+            PrintJson(out, m_console.out);
         }
         m_console.err << m_added << " to add, " << m_changed << " to change, " << m_deleted << " to delete\n";
         return kDone;
@@ -134,7 +143,7 @@ class Comparison
             return false;
         }
         if (was != is && !key.path.empty()) {
-            Line(is ? '+' : '-', key, "\\");
+            Tell(is ? '+' : '-', key, nullptr, nullptr);
         }
         CompareValues(key, before.values, after.values);
         auto subkeys = std::move(before.subkeys);
@@ -157,39 +166,77 @@ class Comparison
         while (old != before.end() || now != after.end()) {
             const auto order = old == before.end() ? 1 : now == after.end() ? -1 : CompareNoCase(old->name, now->name);
             if (order < 0) {
-                Line('-', key, '\t' + Shown(*old, true));
+                Tell('-', key, &*old, nullptr);
             } else if (order > 0) {
-                Line('+', key, '\t' + Shown(*now, true));
+                Tell('+', key, nullptr, &*now);
             } else if (old->type != now->type || old->data != now->data) {
-                Line('~', key, '\t' + Shown(*old, true) + " -> " + Shown(*now, false));
+                Tell('~', key, &*old, &*now);
             }
             old += order <= 0 ? 1 : 0;
             now += order >= 0 ? 1 : 0;
         }
     }
 
-    std::string Shown(const Value& value, bool withName) const
+    bool IsMasked(const Value& value) const { return !m_options.showSecrets && diagnosis::IsSecretName(value.name); }
+
+    std::string Shown(const Value& value) const
     {
-        const auto name = value.name.empty() ? std::string("(default)") : DisplayText(value.name);
-        const ValueView view{value.type, value.data};
-        const bool isMasked = !m_showSecrets && diagnosis::IsSecretName(value.name);
-        auto data = isMasked ? diagnosis::kMasked : DisplayText(DataText(view, L"; "));
+        const bool isMasked = IsMasked(value);
+        auto data = isMasked ? diagnosis::kMasked : DisplayText(DataText({value.type, value.data}, L"; "));
         if (!isMasked && (value.type == ValueType::Sz || value.type == ValueType::ExpandSz)) {
             data = '"' + data + '"';
         }
-        return (withName ? name + '\t' : std::string()) + TypeName(value.type) + ' ' + data;
+        return TypeName(value.type) + ' ' + data;
     }
 
-    void Line(char sign, const FullKey& key, const std::string& rest)
+    // Of the key itself where there is no value.
+    void Tell(char sign, const FullKey& key, const Value* before, const Value* after)
     {
         (sign == '+' ? m_added : sign == '~' ? m_changed : m_deleted) += 1;
-        m_console.out << sign << ' ' << DisplayText(KeyText(key)) << rest << '\n';
+        const auto* value = before != nullptr ? before : after;
+        const bool isPlaced = sign != '+' && key.hive == diagnosis::HiveOf(key.path);
+        const auto place = isPlaced ? m_places.Of(key.path, value != nullptr ? &value->name : nullptr) : std::string();
+        if (m_options.json) {
+            TellJson(sign, key, before, after, place);
+            return;
+        }
+        auto& out = m_console.out;
+        out << sign << ' ' << DisplayText(KeyText(key));
+        if (value == nullptr) {
+            out << '\\';
+        } else {
+            out << '\t' << (value->name.empty() ? std::string("(default)") : DisplayText(value->name)) << '\t'
+                << Shown(*value) << (sign == '~' ? " -> " + Shown(*after) : std::string());
+        }
+        out << (place.empty() ? std::string() : "   " + DisplayText(place)) << '\n';
+    }
+
+    void TellJson(char sign, const FullKey& key, const Value* before, const Value* after, const std::string& place)
+    {
+        const auto* value = before != nullptr ? before : after;
+        ordered_json out;
+        out["change"] = sign == '+' ? "add" : sign == '~' ? "change" : "delete";
+        out["path"] = Utf8(KeyText(key));
+        out["name"] = value != nullptr ? ordered_json(Utf8(value->name)) : ordered_json(nullptr);
+        if (value != nullptr) {
+            const auto put = [&](const Value* each) {
+                return each != nullptr ? StoredJson({each->type, each->data}, IsMasked(*each)) : ordered_json(nullptr);
+            };
+            out["before"] = put(before);
+            out["after"] = put(after);
+        }
+        if (!place.empty()) {
+            out["place"] = place;
+        }
+        m_json.push_back(std::move(out));
     }
 
     Transaction* m_before;
     Transaction& m_after;
-    bool m_showSecrets;
+    const PreviewOptions& m_options;
+    diagnosis::Places m_places;
     const Console& m_console;
+    ordered_json m_json = ordered_json::array();
     std::size_t m_added = 0;
     std::size_t m_changed = 0;
     std::size_t m_deleted = 0;
@@ -198,7 +245,7 @@ class Comparison
 
 } // namespace
 
-int PreviewChanges(Store& store, const Changes& changes, bool showSecrets, const Console& console)
+int PreviewChanges(Store& store, const Changes& changes, const PreviewOptions& options, const Console& console)
 {
     Error error;
     MemoryStore copy(store.Address(), store.NameRoom());
@@ -223,10 +270,10 @@ int PreviewChanges(Store& store, const Changes& changes, bool showSecrets, const
     if (!changes(writer, error)) {
         return console.Fail(error);
     }
-    return Comparison(before.get(), *writing, showSecrets, console).Print();
+    return Comparison(before.get(), *writing, options, console).Print();
 }
 
-int PreviewReplacement(Store* before, Store& after, bool showSecrets, const Console& console)
+int PreviewReplacement(Store* before, Store& after, const PreviewOptions& options, const Console& console)
 {
     Error error;
     const auto old = before != nullptr ? before->Begin(Access::Read, error) : nullptr;
@@ -234,7 +281,7 @@ int PreviewReplacement(Store* before, Store& after, bool showSecrets, const Cons
     if (!now || (before != nullptr && !old)) {
         return console.Fail(error);
     }
-    return Comparison(old.get(), *now, showSecrets, console).Print();
+    return Comparison(old.get(), *now, options, console).Print();
 }
 
 } // namespace wqspcfg::tools

@@ -1,5 +1,6 @@
 #include "wqspcfg/tools/ScratchStore.h"
 
+#include "wqspcfg/platform/store/FlatKey.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 
 #include <map>
@@ -20,6 +21,9 @@ class ScratchTransaction final : public Transaction
 
     Outcome OpenKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
+        if (!CanExist(path)) {
+            return Outcome::Missing;
+        }
         OpenedKey opened{hive, std::wstring(path), {}, {}};
         if (!Open(*m_base, opened, opened.base) || !Open(*m_written, opened, opened.written)) {
             return Outcome::Failed;
@@ -33,7 +37,7 @@ class ScratchTransaction final : public Transaction
     Outcome CreateKey(Hive hive, std::wstring_view path, KeyId& key) override
     {
         OpenedKey opened{hive, std::wstring(path), {}, {}};
-        if (!Open(*m_base, opened, opened.base) || !Create(opened)) {
+        if ((CanExist(path) && !Open(*m_base, opened, opened.base)) || !Create(opened)) {
             return Outcome::Failed;
         }
         return Keep(std::move(opened), key);

@@ -1,8 +1,10 @@
 #include "wqspcfg/tools/ServiceAccess.h"
 
 #include "wqspcfg/core/RegistryRoots.h"
+#include "wqspcfg/diagnosis/Terminal.h"
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/store/regfile/View32.h"
+#include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/tools/ScratchStore.h"
 
 namespace wqspcfg::tools {
@@ -54,6 +56,22 @@ diagnosis::StoreSource SourceOf(const StoreChoice& choice)
     constexpr std::string_view kFile = "reg:";
     const auto address = choice.Address();
     return {address.starts_with(kFile) ? address.substr(kFile.size()) : std::string(), choice.codePage, choice.view32};
+}
+
+std::vector<std::wstring> NamesOfServices(const std::wstring& name, bool physical)
+{
+    CRegInfo::ForgetProcess();
+    std::vector<std::wstring> ofProvider;
+    for (const auto& service : diagnosis::IdentifyServices()) {
+        const auto& own = diagnosis::NameOf(service);
+        if (!physical && EqualNoCase(own, name)) {
+            return {own};
+        }
+        if (EqualNoCase(service.physicalName, name)) {
+            ofProvider.push_back(own);
+        }
+    }
+    return ofProvider;
 }
 
 std::string NoClass(const std::string& name)

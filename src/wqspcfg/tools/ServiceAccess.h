@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace wqspcfg::tools {
 
@@ -38,6 +39,10 @@ std::shared_ptr<Store> OpenForExamination(const StoreChoice& choice, Error& erro
 
 // Where the values of the store stand in a file, if it is one.
 diagnosis::StoreSource SourceOf(const StoreChoice& choice);
+
+// The services of the current store that `name` means, by their own names: that service or, where there is none of that
+// name or `physical` is set, those of that service provider. None where there are none.
+std::vector<std::wstring> NamesOfServices(const std::wstring& name, bool physical);
 
 // The message about a class that does not exist.
 std::string NoClass(const std::string& name);

@@ -5,8 +5,10 @@
 #include "wqspcfg/core/settings/Reference.h"
 #include "wqspcfg/diagnosis/Check.h"
 #include "wqspcfg/platform/text/CaseFold.h"
-#include "wqspcfg/tools/Preview.h"
+#include "wqspcfg/tools/JsonText.h"
 #include "wqspcfg/tools/ScratchStore.h"
+
+#include <algorithm>
 
 namespace wqspcfg::tools {
 
@@ -34,24 +36,95 @@ class LineLog final : public CLog
     std::ostream& m_out;
 };
 
+// The log lines as JSON.
+class JsonLog final : public CLog
+{
+  public:
+    int Write(wqspcfg::Severity, DWORD, std::wstring_view text) override
+    {
+        ordered_json line;
+        line["text"] = Utf8(text);
+        TakeApart(text, line);
+        m_lines.push_back(std::move(line));
+        return 1;
+    }
+
+    ordered_json Lines() && { return std::move(m_lines); }
+
+  private:
+    // Only a line "[CFG]   LABEL : VALUE[MEANING]" that can be read in one way: neither text has a bracket.
+    static void TakeApart(std::wstring_view text, ordered_json& line)
+    {
+        constexpr std::wstring_view kTag = L"[CFG] ";
+        constexpr std::wstring_view kIs = L" : ";
+        constexpr auto kNone = std::wstring_view::npos;
+        if (!text.starts_with(kTag)) {
+            return;
+        }
+        text.remove_prefix(std::min(text.find_first_not_of(L' ', kTag.size()), text.size()));
+        const auto is = text.find(kIs);
+        if (is == kNone || text.find(L'[') < is) {
+            return;
+        }
+        auto value = text.substr(is + kIs.size());
+        const auto meaning = value.find(L'[');
+        if (meaning != kNone && (!value.ends_with(L']') || value.find(L'[', meaning + 1) != kNone)) {
+            return;
+        }
+        line["label"] = Utf8(text.substr(0, is));
+        line["value"] = Utf8(value.substr(0, meaning));
+    }
+
+    ordered_json m_lines = ordered_json::array();
+};
+
 std::string KindOf(bool physical)
 {
     return physical ? "physical" : "logical";
 }
 
-// How many findings a check of the service has.
-void NoteFindings(const StoreChoice& choice, const std::string& name, const Console& console)
+// A word of a command line, as a shell takes it.
+std::string ShellWord(const std::string& text)
 {
+    const auto isPlain = [](char ch) {
+        return (ch >= '0' && ch <= '9') || (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z') || ch == '_' ||
+               ch == '-' || ch == '.';
+    };
+    if (!text.empty() && std::all_of(text.begin(), text.end(), isPlain)) {
+        return text;
+    }
+#if defined(_WIN32)
+    return '"' + text + '"';
+#else
+    std::string quoted = "'";
+    for (const char ch : text) {
+        quoted += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
+    }
+    return quoted + '\'';
+#endif
+}
+
+// How many findings a check of the service has.
+void NoteFindings(const StoreChoice& choice, const ServiceChoice& service, const Console& console)
+{
+    diagnosis::CheckOptions options;
+    options.services = NamesOfServices(Wide(service.name), service.physical);
+    options.alone = true;
+    options.view32 = choice.view32;
+    if (options.services.empty()) {
+        return; // a device key alone
+    }
     diagnosis::Places places({});
-    const auto checkup = diagnosis::Check({.services = {Wide(name)}, .alone = true, .view32 = choice.view32}, places);
+    const auto checkup = diagnosis::Check(options, places);
     if (!checkup.findings.empty()) {
-        console.Note(Counted(checkup.findings.size(), "finding") + "; see `wqspcfg check " + name + "`");
+        console.Note(Counted(checkup.findings.size(), "finding") + "; see `wqspcfg check " +
+                     (service.physical ? "--physical " : "") + ShellWord(service.name) + '`');
     }
 }
 
 } // namespace
 
-int ListServices(const StoreChoice& choice, const Console& console)
+int ListServices(const StoreChoice& choice, bool json, const Console& console)
 {
     Error error;
     auto store = OpenForServices(choice, Access::Read, error);
@@ -60,6 +133,7 @@ int ListServices(const StoreChoice& choice, const Console& console)
     }
     const CurrentStoreScope current(std::move(store));
     const ReadScope scope;
+    auto all = ordered_json::array();
     const auto list = [&](const wchar_t* root, bool physical) {
         CStringArray names;
         CRegKeyEx::EnumSubKeyName(names, L"%s", root);
@@ -69,6 +143,18 @@ int ListServices(const StoreChoice& choice, const Console& console)
             }
             const auto service = IdentifyService(name, physical);
             const auto selection = SelectModel(service);
+            if (json) {
+                ordered_json out;
+                out["service"] = Utf8(name.View());
+                out["physical"] = physical;
+                out["provider"] = Utf8(service.physicalName);
+                out["classValue"] = Utf8(service.xfsClass);
+                out["deviceKey"] = Utf8(service.deviceKey);
+                out["class"] = Utf8(selection.entry->table().className);
+                out["reason"] = Utf8(selection.reason);
+                all.push_back(std::move(out));
+                continue;
+            }
             console.out << DisplayText(name.View()) << '\t' << KindOf(physical) << '\t' << DisplayText(service.xfsClass)
                         << '\t' << DisplayText(service.deviceKey) << '\t' << Utf8(selection.entry->table().className)
                         << '\t' << DisplayText(selection.reason) << '\n';
@@ -76,17 +162,22 @@ int ListServices(const StoreChoice& choice, const Console& console)
     };
     list(kLogicalRoot, false);
     list(kServiceRoot, true);
-    return Checked(kDone, console);
+    const int status = Checked(kDone, console);
+    if (status == kDone && json) {
+        PrintJson({{"services", std::move(all)}}, console.out);
+    }
+    return status;
 }
 
-int LoadService(const StoreChoice& choice, const ServiceChoice& service, bool writeBack, const Console& console)
+int LoadService(const StoreChoice& choice, const ServiceChoice& service, const LoadOptions& options,
+                const Console& console)
 {
     Error error;
-    auto store = OpenForServices(choice, writeBack ? Access::Write : Access::Read, error);
+    auto store = OpenForServices(choice, options.writeBack ? Access::Write : Access::Read, error);
     if (!store) {
         return console.Fail(error);
     }
-    if (!writeBack) {
+    if (!options.writeBack) {
         store = std::make_shared<ScratchStore>(std::move(store));
     }
     const CurrentStoreScope current(std::move(store));
@@ -96,14 +187,25 @@ int LoadService(const StoreChoice& choice, const ServiceChoice& service, bool wr
     if (entry == nullptr) {
         return status;
     }
-    LineLog log(console.out);
-    if (!Create(*entry, name, service.physical)->Load(&log)) {
+    LineLog lines(console.out);
+    JsonLog json;
+    const bool isLoaded =
+        Create(*entry, name, service.physical)->Load(options.json ? static_cast<CLog*>(&json) : &lines);
+    if (options.json) {
+        ordered_json out;
+        out["service"] = service.name;
+        out["class"] = Utf8(entry->table().className);
+        out["loaded"] = isLoaded;
+        out["lines"] = std::move(json).Lines();
+        PrintJson(out, console.out);
+    }
+    if (!isLoaded) {
         status = kNegative;
         console.Note(Utf8(entry->table().className) + "::Load returned false");
     }
     status = Checked(status, console);
     if (service.model.empty() && status != kFailed) {
-        NoteFindings(choice, service.name, console);
+        NoteFindings(choice, service, console);
     }
     return status;
 }
@@ -144,14 +246,15 @@ int LoadAndSave(const ServiceChoice& service, const Console& console)
 
 } // namespace
 
-int SaveService(const StoreChoice& choice, const ServiceChoice& service, bool dryRun, const Console& console)
+int SaveService(const StoreChoice& choice, const ServiceChoice& service, const std::optional<PreviewOptions>& preview,
+                const Console& console)
 {
     Error error;
-    auto store = OpenForServices(choice, dryRun ? Access::Read : Access::Write, error);
+    auto store = OpenForServices(choice, preview ? Access::Read : Access::Write, error);
     if (!store) {
         return console.Fail(error);
     }
-    const auto scratch = dryRun ? std::make_shared<ScratchStore>(store) : nullptr;
+    const auto scratch = preview ? std::make_shared<ScratchStore>(store) : nullptr;
     int status = kDone;
     {
         const CurrentStoreScope current(scratch != nullptr ? scratch : store);
@@ -161,16 +264,31 @@ int SaveService(const StoreChoice& choice, const ServiceChoice& service, bool dr
                ? status
                : PreviewChanges(
                      *store, [&](RegFileVisitor& visitor, Error& failure) { return scratch->Visit(visitor, failure); },
-                     choice.secrets, console);
+                     *preview, console);
 }
 
-int ListModels(const Console& console)
+int ListModels(bool json, const Console& console)
 {
+    auto all = ordered_json::array();
     for (const auto* entry : AllClasses()) {
         const auto& table = entry->table();
         const auto* deviceClass = DeviceClassOf(table);
+        if (json) {
+            const auto orNull = [](const wchar_t* text) {
+                return text != nullptr ? ordered_json(Utf8(text)) : ordered_json(nullptr);
+            };
+            ordered_json out;
+            out["class"] = Utf8(table.className);
+            out["base"] = orNull(table.base != nullptr ? table.base().className : nullptr);
+            out["deviceClass"] = orNull(deviceClass);
+            all.push_back(std::move(out));
+            continue;
+        }
         console.out << Utf8(table.className) << '\t' << (table.base != nullptr ? Utf8(table.base().className) : "-")
                     << '\t' << (deviceClass != nullptr ? Utf8(deviceClass) : "-") << '\n';
+    }
+    if (json) {
+        PrintJson({{"models", std::move(all)}}, console.out);
     }
     return kDone;
 }

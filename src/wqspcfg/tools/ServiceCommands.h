@@ -2,18 +2,26 @@
 // store.
 #pragma once
 
+#include "wqspcfg/tools/Preview.h"
 #include "wqspcfg/tools/ServiceAccess.h"
 
 namespace wqspcfg::tools {
 
 // One line for each service, tab-separated: name, "logical" or "physical", class value, device key name, model class,
 // and the reason for the model class.
-int ListServices(const StoreChoice& choice, const Console& console);
-// What the class writes while it loads stays in memory, unless `writeBack` is set.
-int LoadService(const StoreChoice& choice, const ServiceChoice& service, bool writeBack, const Console& console);
-// With `dryRun`, prints what would change.
-int SaveService(const StoreChoice& choice, const ServiceChoice& service, bool dryRun, const Console& console);
+int ListServices(const StoreChoice& choice, bool json, const Console& console);
+
+struct LoadOptions
+{
+    bool writeBack = false; // else what the class writes while it loads stays in memory
+    bool json = false;
+};
+int LoadService(const StoreChoice& choice, const ServiceChoice& service, const LoadOptions& options,
+                const Console& console);
+// With `preview`, prints what would change and changes nothing.
+int SaveService(const StoreChoice& choice, const ServiceChoice& service, const std::optional<PreviewOptions>& preview,
+                const Console& console);
 // One line for each class, tab-separated: name, base and device class, "-" where there is none.
-int ListModels(const Console& console);
+int ListModels(bool json, const Console& console);
 
 } // namespace wqspcfg::tools

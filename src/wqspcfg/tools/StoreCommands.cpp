@@ -1,11 +1,13 @@
 #include "wqspcfg/tools/StoreCommands.h"
 
 #include "wqspcfg/diagnosis/Change.h"
+#include "wqspcfg/diagnosis/Difference.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/store/Backup.h"
 #include "wqspcfg/platform/store/Maintenance.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
+#include "wqspcfg/tools/JsonText.h"
 #include "wqspcfg/tools/OutputFile.h"
 #include "wqspcfg/tools/Preview.h"
 #include "wqspcfg/tools/ScratchStore.h"
@@ -88,9 +90,9 @@ bool Count(Transaction& transaction, const FullKey& key, std::size_t& keys, std:
 
 #if defined(_WIN32)
 
-int PreviewRestore(const StoreChoice& choice, const std::string& file, const Console& console)
+int PreviewRestore(const StoreChoice& choice, const std::string& file, const PreviewOptions&, const Console& console)
 {
-    return Restore(choice, file, false, console); // says that there is no embedded store on Windows
+    return Restore(choice, file, std::nullopt, console); // says that there is no embedded store on Windows
 }
 
 #else
@@ -126,10 +128,11 @@ class PrivateDirectory
 };
 
 // Restores the backup to a store of its own, and compares the two.
-int PreviewRestore(const StoreChoice& choice, const std::string& file, const Console& console)
+int PreviewRestore(const StoreChoice& choice, const std::string& file, const PreviewOptions& preview,
+                   const Console& console)
 {
     if (!choice.Address().starts_with("lmdb:")) {
-        return Restore(choice, file, false, console); // refuses, and says why
+        return Restore(choice, file, std::nullopt, console); // refuses, and says why
     }
     Error error;
     std::shared_ptr<Store> before;
@@ -147,7 +150,7 @@ int PreviewRestore(const StoreChoice& choice, const std::string& file, const Con
         return console.Fail(error);
     }
     const auto after = OpenStore(address, {.readOnly = true}, error);
-    return after ? PreviewReplacement(before.get(), *after, choice.secrets, console) : console.Fail(error);
+    return after ? PreviewReplacement(before.get(), *after, preview, console) : console.Fail(error);
 }
 
 #endif
@@ -185,51 +188,89 @@ class NewStore
     std::vector<std::filesystem::path> m_made; // the innermost first
 };
 
+// What a listing is made of, in its order.
+class ListOutput
+{
+  public:
+    virtual ~ListOutput() = default;
+    // What follows is of this key. `path` is that from the listed key on, or the hive.
+    virtual void Key(const FullKey& key, const std::string& path) = 0;
+    virtual void Subkey(std::wstring_view name) = 0;
+    virtual void Value(std::wstring_view name, const ValueView& value, bool isMasked) = 0;
+};
+
+class ListText final : public ListOutput
+{
+  public:
+    ListText(bool recursive, std::ostream& out) : m_recursive(recursive), m_out(out) {}
+
+    void Key(const FullKey&, const std::string& path) override
+    {
+        m_path = path;
+        if (!path.empty()) {
+            m_out << path << '\n';
+        }
+    }
+    void Subkey(std::wstring_view name) override
+    {
+        if (!m_recursive) {
+            m_out << DisplayText(name) << "\\\n";
+        }
+    }
+    void Value(std::wstring_view name, const ValueView& value, bool isMasked) override
+    {
+        m_out << m_path << (name.empty() ? std::string("(default)") : DisplayText(name)) << '\t' << TypeName(value.type)
+              << '\t' << (isMasked ? diagnosis::kMasked : DisplayText(DataText(value, L"; "))) << '\n';
+    }
+
+  private:
+    bool m_recursive;
+    std::ostream& m_out;
+    std::string m_path;
+};
+
+class ListJson final : public ListOutput
+{
+  public:
+    void Key(const FullKey& key, const std::string&) override
+    {
+        ordered_json out;
+        out["path"] = Utf8(KeyText(key));
+        out["subkeys"] = ordered_json::array();
+        out["values"] = ordered_json::array();
+        m_keys.push_back(std::move(out));
+    }
+    void Subkey(std::wstring_view name) override { m_keys.back()["subkeys"].push_back(Utf8(name)); }
+    void Value(std::wstring_view name, const ValueView& value, bool isMasked) override
+    {
+        ordered_json out;
+        out["name"] = Utf8(name);
+        out.update(StoredJson(value, isMasked));
+        m_keys.back()["values"].push_back(std::move(out));
+    }
+
+    ordered_json All() && { return {{"keys", std::move(m_keys)}}; }
+
+  private:
+    ordered_json m_keys = ordered_json::array();
+};
+
 class Lister
 {
   public:
-    Lister(Transaction& transaction, bool recursive, const Console& console)
-        : m_transaction(transaction), m_recursive(recursive), m_console(console)
+    Lister(Transaction& transaction, bool recursive, bool showSecrets, ListOutput& output)
+        : m_transaction(transaction), m_recursive(recursive), m_showSecrets(showSecrets), m_output(output)
     {}
 
-    // `prefix` is the path that lines begin with. False on failure.
-    bool List(const FullKey& key, const std::string& prefix)
+    // False on failure.
+    bool List(KeyId id, const FullKey& key, const std::string& path)
     {
-        KeyId id = 0;
-        return m_transaction.OpenKey(key.hive, key.path, id) == Outcome::Found && ListOpened(id, key, prefix);
+        m_output.Key(key, path);
+        return ListOpened(id, key, path);
     }
 
-    bool ListOpened(KeyId id, const FullKey& key, const std::string& prefix)
-    {
-        std::vector<std::wstring> subkeys;
-        if (m_transaction.EnumKeys(id, [&](std::wstring_view name) {
-                if (m_recursive) {
-                    subkeys.emplace_back(name);
-                } else {
-                    m_console.out << DisplayText(name) << "\\\n";
-                }
-                return true;
-            }) == Outcome::Failed) {
-            return false;
-        }
-        const auto valueLine = [&](std::wstring_view name, const ValueView& value) {
-            m_console.out << prefix << (name.empty() ? std::string("(default)") : DisplayText(name)) << '\t'
-                          << TypeName(value.type) << '\t' << DisplayText(DataText(value, L"; ")) << '\n';
-            return true;
-        };
-        if (m_transaction.EnumValues(id, valueLine) == Outcome::Failed) {
-            return false;
-        }
-        m_transaction.CloseKey(id);
-        return std::all_of(subkeys.begin(), subkeys.end(), [&](const std::wstring& subkey) {
-            const auto below = prefix + DisplayText(subkey) + '\\';
-            m_console.out << below << '\n';
-            return List({key.hive, key.path.empty() ? subkey : key.path + L'\\' + subkey}, below);
-        });
-    }
-
-    // The hives that hold something.
-    bool ListHives()
+    // The hives that hold something; what they hold where it is wanted.
+    bool ListHives(bool withContent)
     {
         for (const auto hive :
              {Hive::LocalMachine, Hive::Users, Hive::CurrentUser, Hive::ClassesRoot, Hive::CurrentConfig}) {
@@ -245,9 +286,10 @@ class Lister
                 return false;
             }
             if (any) {
-                const auto name = Utf8(KeyText({hive, {}})) + '\\';
-                m_console.out << name << '\n';
-                if (m_recursive && !ListOpened(id, {hive, {}}, name)) {
+                const FullKey key{hive, {}};
+                const auto path = Utf8(KeyText(key)) + '\\';
+                m_output.Key(key, path);
+                if (withContent && !ListOpened(id, key, path)) {
                     return false;
                 }
             }
@@ -256,14 +298,43 @@ class Lister
     }
 
   private:
+    bool ListOpened(KeyId id, const FullKey& key, const std::string& path)
+    {
+        std::vector<std::wstring> subkeys;
+        const auto subkey = [&](std::wstring_view name) {
+            m_output.Subkey(name);
+            if (m_recursive) {
+                subkeys.emplace_back(name);
+            }
+            return true;
+        };
+        const auto value = [&](std::wstring_view name, const ValueView& view) {
+            m_output.Value(name, view, !m_showSecrets && diagnosis::IsSecretName(name));
+            return true;
+        };
+        if (m_transaction.EnumKeys(id, subkey) == Outcome::Failed ||
+            m_transaction.EnumValues(id, value) == Outcome::Failed) {
+            return false;
+        }
+        m_transaction.CloseKey(id);
+        return std::all_of(subkeys.begin(), subkeys.end(), [&](const std::wstring& name) {
+            const FullKey below{key.hive, key.path.empty() ? name : key.path + L'\\' + name};
+            KeyId opened = 0;
+            return m_transaction.OpenKey(below.hive, below.path, opened) == Outcome::Found &&
+                   List(opened, below, path + DisplayText(name) + '\\');
+        });
+    }
+
     Transaction& m_transaction;
     bool m_recursive;
-    const Console& m_console;
+    bool m_showSecrets;
+    ListOutput& m_output;
 };
 
 } // namespace
 
-int Import(const StoreChoice& choice, const std::vector<std::string>& files, bool dryRun, const Console& console)
+int Import(const StoreChoice& choice, const std::vector<std::string>& files,
+           const std::optional<PreviewOptions>& preview, const Console& console)
 {
     choice.Check(true);
     // All files are read before the store is touched.
@@ -276,8 +347,11 @@ int Import(const StoreChoice& choice, const std::vector<std::string>& files, boo
                         : !content.Read(file, options, error)) {
             return console.Fail(error);
         }
+        if (content.IsTakenAsUtf8()) {
+            choice.NoteTakenAsUtf8(file == "-" ? "standard input" : file);
+        }
     }
-    if (dryRun) {
+    if (preview) {
         const auto store = choice.Exists() ? choice.Open(Access::Read, error, true)
                                            : std::make_shared<MemoryStore>(choice.Address(), kEmbeddedNameRoom);
         return store ? PreviewChanges(
@@ -287,7 +361,7 @@ int Import(const StoreChoice& choice, const std::vector<std::string>& files, boo
                                    return content->Visit(visitor, failure);
                                });
                            },
-                           choice.secrets, console)
+                           *preview, console)
                      : console.Fail(error);
     }
     const NewStore fresh(choice);
@@ -342,10 +416,11 @@ int BackUp(const StoreChoice& choice, const std::string& file, const Console& co
     return kDone;
 }
 
-int Restore(const StoreChoice& choice, const std::string& file, bool dryRun, const Console& console)
+int Restore(const StoreChoice& choice, const std::string& file, const std::optional<PreviewOptions>& preview,
+            const Console& console)
 {
-    if (dryRun) {
-        return PreviewRestore(choice, file, console);
+    if (preview) {
+        return PreviewRestore(choice, file, *preview, console);
     }
     BackupCounts counts;
     std::string kept;
@@ -364,7 +439,7 @@ int Restore(const StoreChoice& choice, const std::string& file, bool dryRun, con
     return kDone;
 }
 
-int Get(const StoreChoice& choice, const std::string& key, const std::string& name, const Console& console)
+int Get(const StoreChoice& choice, const std::string& key, const std::string& name, bool json, const Console& console)
 {
     const auto which = ParseKey(key);
     const auto wideName = Wide(name);
@@ -383,9 +458,23 @@ int Get(const StoreChoice& choice, const std::string& key, const std::string& na
         case Outcome::Found:
             break;
         }
-        // A program gets the text as it stands, a person's terminal nothing that it would obey.
-        const auto text = DataText(value, L"\n");
-        console.out << (console.outIsTerminal ? DisplayText(text) : Utf8(text)) << '\n';
+        const bool isMasked = !choice.secrets && diagnosis::IsSecretName(wideName);
+        if (json) {
+            ordered_json out;
+            out["path"] = Utf8(KeyText(which));
+            out["name"] = name;
+            out.update(StoredJson(value, isMasked));
+            PrintJson(out, console.out);
+        } else if (isMasked) {
+            console.out << diagnosis::kMasked << '\n';
+        } else {
+            // A program gets the text as it stands, a person's terminal nothing that it would obey.
+            const auto text = DataText(value, L"\n");
+            console.out << (console.outIsTerminal ? DisplayText(text) : Utf8(text)) << '\n';
+        }
+        if (isMasked) {
+            console.Note(ValueText(wideName) + " is a key or a password; give --secrets to print it");
+        }
         return kDone;
     });
 }
@@ -465,8 +554,10 @@ int Set(const StoreChoice& choice, const std::string& key, const std::string& na
         Outcome outcome = Outcome::Found;
         if (type == DataType::Dword) {
             if (!number) {
-                return console.Fail(kUsage, "\"" + data + "\" is not a number from 0 to 4294967295, and " +
-                                                ValueText(wideName) + " is a REG_DWORD");
+                const bool isMasked = !choice.secrets && diagnosis::IsSecretName(wideName);
+                return console.Fail(kUsage, (isMasked ? std::string("what is given") : '"' + data + '"') +
+                                                " is not a number from 0 to 4294967295, and " + ValueText(wideName) +
+                                                " is a REG_DWORD");
             }
             outcome = transaction.SetValue(id, wideName, DwordBytes(*number).View());
         } else {
@@ -491,7 +582,7 @@ int Delete(const StoreChoice& choice, const std::string& key, const DeleteOption
         throw UsageError("refusing to delete a whole hive");
     }
     Error error;
-    const auto access = options.dryRun ? Access::Read : Access::Write;
+    const auto access = options.preview ? Access::Read : Access::Write;
     const auto store = choice.Open(access, error);
     if (!store) {
         return console.Fail(error);
@@ -510,7 +601,7 @@ int Delete(const StoreChoice& choice, const std::string& key, const DeleteOption
             if (outcome == Outcome::Missing) {
                 return NoValue(transaction, which, key, name, console);
             }
-            if (outcome == Outcome::Found && !options.dryRun) {
+            if (outcome == Outcome::Found && !options.preview) {
                 outcome = transaction.DeleteValue(id, name);
             }
             return outcome == Outcome::Failed ? console.Fail(transaction.LastError()) : int{kDone};
@@ -522,7 +613,7 @@ int Delete(const StoreChoice& choice, const std::string& key, const DeleteOption
             return console.Fail(kUsage, "the key " + key + " has " + Counted(keys - 1, "key") +
                                             " below it; give --recursive to delete them too");
         }
-        if (!options.dryRun && transaction.DeleteKey(which.hive, which.path) == Outcome::Failed) {
+        if (!options.preview && transaction.DeleteKey(which.hive, which.path) == Outcome::Failed) {
             return console.Fail(transaction.LastError());
         }
         return kDone;
@@ -530,14 +621,14 @@ int Delete(const StoreChoice& choice, const std::string& key, const DeleteOption
     if (status != kDone) {
         return status;
     }
-    if (options.dryRun) {
+    if (options.preview) {
         return PreviewChanges(
             *store,
             [&](RegFileVisitor& visitor, Error& failure) {
                 return options.name ? visitor.Key(which.hive, which.path, failure) && visitor.DeleteValue(name, failure)
                                     : visitor.DeleteKey(which.hive, which.path, failure);
             },
-            choice.secrets, console);
+            *options.preview, console);
     }
     if (!options.name) {
         console.err << "deleted " << CountsText(keys, values) << '\n';
@@ -545,7 +636,7 @@ int Delete(const StoreChoice& choice, const std::string& key, const DeleteOption
     return kDone;
 }
 
-int List(const StoreChoice& choice, const std::string& key, bool recursive, const Console& console)
+int List(const StoreChoice& choice, const std::string& key, const ListOptions& options, const Console& console)
 {
     const auto which = key.empty() ? FullKey() : ParseKey(key);
     Error error;
@@ -553,21 +644,28 @@ int List(const StoreChoice& choice, const std::string& key, bool recursive, cons
     if (!store) {
         return console.Fail(error);
     }
-    return Within(*store, Access::Read, console, [&](Transaction& transaction) -> int {
-        Lister lister(transaction, recursive, console);
+    ListText text(options.recursive, console.out);
+    ListJson json;
+    const int status = Within(*store, Access::Read, console, [&](Transaction& transaction) -> int {
+        ListOutput& output = options.json ? static_cast<ListOutput&>(json) : text;
+        Lister lister(transaction, options.recursive, choice.secrets, output);
         KeyId id = 0;
         bool listed = false;
         if (key.empty()) {
-            listed = lister.ListHives();
+            listed = lister.ListHives(options.recursive || options.json);
         } else {
             const auto opened = transaction.OpenKey(which.hive, which.path, id);
             if (opened == Outcome::Missing) {
                 return NoKey(console, key);
             }
-            listed = opened == Outcome::Found && lister.ListOpened(id, which, {});
+            listed = opened == Outcome::Found && lister.List(id, which, {});
         }
         return listed ? int{kDone} : console.Fail(transaction.LastError());
     });
+    if (status == kDone && options.json) {
+        PrintJson(std::move(json).All(), console.out);
+    }
+    return status;
 }
 
 } // namespace wqspcfg::tools

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "wqspcfg/platform/store/regfile/RegFile.h"
-#include "wqspcfg/tools/Console.h"
+#include "wqspcfg/tools/Preview.h"
 
 #include <optional>
 #include <string>
@@ -10,15 +10,18 @@
 
 namespace wqspcfg::tools {
 
-// With `dryRun`, these commands print what they would change and change nothing.
-int Import(const StoreChoice& choice, const std::vector<std::string>& files, bool dryRun, const Console& console);
-int Restore(const StoreChoice& choice, const std::string& file, bool dryRun, const Console& console);
+// With `preview`, these commands print what they would change and change nothing.
+int Import(const StoreChoice& choice, const std::vector<std::string>& files,
+           const std::optional<PreviewOptions>& preview, const Console& console);
+int Restore(const StoreChoice& choice, const std::string& file, const std::optional<PreviewOptions>& preview,
+            const Console& console);
 
 // An empty key exports the whole store; an empty file is standard output.
 int Export(const StoreChoice& choice, const std::string& key, const std::string& file, ExportEncoding encoding,
            const Console& console);
 int BackUp(const StoreChoice& choice, const std::string& file, const Console& console);
-int Get(const StoreChoice& choice, const std::string& key, const std::string& name, const Console& console);
+// Keys and passwords are masked, unless --secrets is given; here and in List.
+int Get(const StoreChoice& choice, const std::string& key, const std::string& name, bool json, const Console& console);
 
 enum class DataType
 {
@@ -35,11 +38,16 @@ struct DeleteOptions
 {
     std::optional<std::string> name; // of one value; none: the key
     bool recursive = false;          // the key's subkeys too; without it a key that has some is refused
-    bool dryRun = false;
+    std::optional<PreviewOptions> preview;
 };
 int Delete(const StoreChoice& choice, const std::string& key, const DeleteOptions& options, const Console& console);
 
-// An empty key lists the hives. With `recursive`, all below it: each line begins with the path from the key on.
-int List(const StoreChoice& choice, const std::string& key, bool recursive, const Console& console);
+struct ListOptions
+{
+    bool recursive = false; // all below the key: each line begins with the path from the key on
+    bool json = false;
+};
+// An empty key lists the hives.
+int List(const StoreChoice& choice, const std::string& key, const ListOptions& options, const Console& console);
 
 } // namespace wqspcfg::tools

@@ -296,6 +296,12 @@ TEST_F(HiveStoreTest, ShowsTheViewsOf32And64BitPrograms)
     WriteHives(*memory, directory.Path());
     EXPECT_EQ(Get(*OpenHive(path, true), L"SOFTWARE\\XFS\\Dev", L"n"), "4:32000000");
     EXPECT_EQ(Get(*OpenHive(path), L"SOFTWARE\\XFS\\Dev", L"n"), "4:64000000");
+
+    // Not only the keys of service providers.
+    Put(*memory, L"SOFTWARE\\WOW6432Node\\TARNO\\Driver", L"n", DwordBytes(0x32));
+    Put(*memory, L"SOFTWARE\\TARNO\\Driver", L"n", DwordBytes(0x64));
+    WriteHives(*memory, directory.Path());
+    EXPECT_EQ(Get(*OpenHive(path, true), L"SOFTWARE\\TARNO\\Driver", L"n"), "4:32000000");
 }
 
 TEST_F(HiveStoreTest, TellsOfAWriteThatWindowsDidNotFinish)

@@ -81,6 +81,19 @@ bool HasControlCharacter(std::wstring_view name) noexcept
     });
 }
 
+bool CanExist(std::wstring_view path) noexcept
+{
+    std::size_t levels = 0;
+    for (std::size_t pos = 0; pos < path.size();) {
+        const auto end = std::min(path.find(L'\\', pos), path.size());
+        if (end > pos && (++levels > kMaxKeyDepth || Utf16Length(path.substr(pos, end - pos)) > kMaxKeyName)) {
+            return false;
+        }
+        pos = end + 1;
+    }
+    return true;
+}
+
 char HiveLetter(Hive hive) noexcept
 {
     return EntryOf(hive).letter;

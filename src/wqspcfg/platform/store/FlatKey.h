@@ -24,11 +24,13 @@ constexpr std::string_view kValueMark{"\0v", 2};
 constexpr std::size_t kMaxKeyName = 255;
 constexpr std::size_t kMaxKeyDepth = 512; // levels below the hive
 constexpr std::size_t kMaxValueName = 16383;
-constexpr std::size_t kMaxKeyLevels = 512;
 
 // Whether the name of a key holds a line break or another control character. No such key is made: a registry export
 // cannot hold it, and a listing would show it as something else. One that is there is read.
 bool HasControlCharacter(std::wstring_view name) noexcept;
+
+// Whether the registry can have a key of this path: it lies no deeper and no name is longer than the limits above.
+bool CanExist(std::wstring_view path) noexcept;
 
 char HiveLetter(Hive hive) noexcept;
 // HKEY_LOCAL_MACHINE and so on.

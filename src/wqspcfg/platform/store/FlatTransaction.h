@@ -159,7 +159,7 @@ class FlatTransaction final : public Transaction
             }
             // What can never be made is not looked for level by level.
             if (existing == components.size() &&
-                (existing > kMaxKeyLevels || m_path.Whole().size() > m_engine.NameRoom())) {
+                (existing > kMaxKeyDepth || m_path.Whole().size() > m_engine.NameRoom())) {
                 return TooDeep(hive, path, existing);
             }
         }
@@ -352,9 +352,9 @@ class FlatTransaction final : public Transaction
     Outcome TooDeep(Hive hive, std::wstring_view path, std::size_t levels)
     {
         const auto key = m_engine.Address() + ": the key path " + DescribeKey(hive, path);
-        return Fail(ErrorKind::TooLong, levels > kMaxKeyLevels
+        return Fail(ErrorKind::TooLong, levels > kMaxKeyDepth
                                             ? key + " has " + std::to_string(levels) + " levels; the registry has " +
-                                                  std::to_string(kMaxKeyLevels) + " at most"
+                                                  std::to_string(kMaxKeyDepth) + " at most"
                                             : key + " is longer than the store can hold");
     }
 

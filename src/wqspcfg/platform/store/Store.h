@@ -159,7 +159,7 @@ struct OpenOptions
     bool readOnly = false;
     // Create an embedded store that does not exist yet; without it, a missing store is an error.
     bool create = false;
-    // `reg:` stores: read SOFTWARE\WOW6432Node\XFS as SOFTWARE\XFS. `windows:` stores: the 32-bit view.
+    // `reg:` stores: read SOFTWARE\WOW6432Node as SOFTWARE. `windows:` stores: the 32-bit view.
     bool view32 = false;
     // `reg:` stores: the code page of a REGEDIT4 file's text (936, 1252); 0: it is ASCII or UTF-8.
     unsigned codePage = 0;

@@ -1,7 +1,6 @@
 #include "wqspcfg/tools/hive/HiveStore.h"
 
 #include "wqspcfg/platform/store/FlatKey.h"
-#include "wqspcfg/platform/store/regfile/View32.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/platform/text/Utf.h"
 #include "wqspcfg/tools/hive/HiveFolder.h"
@@ -272,7 +271,10 @@ std::shared_ptr<HiveStore> HiveStore::Open(std::string address, const std::strin
         error = {ErrorKind::BadArgument, path + Only32BitKeys("give --view32 to read them as SOFTWARE\\XFS")};
         return nullptr;
     }
-    store->m_redirects = has32 == Outcome::Found && view32;
+    if (view32 && !FindKeys32(*transaction, store->m_view32)) {
+        error = transaction->LastError();
+        return nullptr;
+    }
     return store;
 }
 
@@ -286,7 +288,7 @@ std::unique_ptr<Transaction> HiveStore::Begin(Access access, Error& error)
         return nullptr;
     }
     std::unique_ptr<Transaction> content = std::make_unique<HiveTransaction>(m_address, m_hives);
-    return m_redirects ? InView32(std::move(content)) : std::move(content);
+    return m_view32.HasAny() ? InView32(std::move(content), m_view32) : std::move(content);
 }
 
 } // namespace wqspcfg

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "wqspcfg/platform/store/Store.h"
+#include "wqspcfg/platform/store/regfile/View32.h"
 #include "wqspcfg/tools/hive/HiveFile.h"
 
 #include <memory>
@@ -37,7 +38,7 @@ class HiveStore final : public Store
     std::string m_address;
     HiveSet m_hives;
     std::vector<std::string> m_notes;
-    bool m_redirects = false;
+    View32 m_view32; // no keys where all is read as it stands
 };
 
 } // namespace wqspcfg

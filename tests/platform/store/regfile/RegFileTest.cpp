@@ -342,9 +342,18 @@ TEST(RegFileTest, AnImportTakesTheKeysOf32BitPrograms)
     Put(*store, L"SOFTWARE\\XFS\\Old2", L"n", DwordBytes(1));
     Put(*store, L"SOFTWARE\\XFS\\Dev", L"k", DwordBytes(1));
     EXPECT_EQ(Import(file, *store, {0, true}), "");
-    EXPECT_EQ(Dump(*store, L"SOFTWARE"), "[SOFTWARE]\n[SOFTWARE\\WOW6432Node]\n[SOFTWARE\\WOW6432Node\\Other]\n"
+    EXPECT_EQ(Dump(*store, L"SOFTWARE"), "[SOFTWARE]\n[SOFTWARE\\Other]\n"
                                          "n=4:01000000\n[SOFTWARE\\XFS]\n[SOFTWARE\\XFS\\Dev]\nk=4:01000000\n"
                                          "n=4:32000000\n[SOFTWARE\\XFS\\Old2]\nn=4:01000000\n");
+    // The keys of other programs stand in both, or in one of them; those that service providers read are of one kind.
+    const std::string both = "REGEDIT4\n[HKLM\\SOFTWARE\\TARNO\\Driver]\n\"n\"=dword:64\n"
+                             "[HKLM\\SOFTWARE\\Only64]\n\"n\"=dword:64\n[HKLM\\SOFTWARE\\Vexo]\n\"n\"=dword:64\n"
+                             "[HKLM\\SOFTWARE\\wow6432node]\n[HKLM\\SOFTWARE\\WOW6432Node\\vexo]\n\"n\"=dword:32\n"
+                             "[HKLM\\SOFTWARE\\WOW6432Node\\XFS]\n[-HKLM\\SOFTWARE\\WOW6432Node]\n";
+    const auto mixed = Open("memory:");
+    EXPECT_EQ(Import(both, *mixed, {0, true}), "");
+    EXPECT_EQ(Dump(*mixed, L"SOFTWARE"), "[SOFTWARE]\n[SOFTWARE\\Only64]\nn=4:64000000\n[SOFTWARE\\vexo]\n"
+                                         "n=4:32000000\n[SOFTWARE\\XFS]\n");
     // The file of a program that has one kind of keys only.
     const auto other = Open("memory:");
     EXPECT_EQ(Import("REGEDIT4\n[HKLM\\SOFTWARE\\XFS]\n\"n\"=dword:1\n", *other, {0, true}), "");
@@ -463,6 +472,17 @@ TEST(RegFileTest, ShowsThe32BitViewOnRequest)
     EXPECT_EQ(Subkeys(*narrow, L"SOFTWARE\\XFS"), std::vector<std::wstring>{L"Dev"});
     EXPECT_EQ(Get(*narrow, L"SOFTWARE\\XFS", L"n", Hive::Users), "4:01000000");
     EXPECT_EQ(Get(*narrow, L"SOFTWARE\\XFSX", L"n"), "missing");
+
+    // All of SOFTWARE: what is there for 32-bit programs, and what the export has for none.
+    WriteFile(path, "REGEDIT4\n[HKLM\\SOFTWARE\\WOW6432Node\\TARNO\\Driver]\n\"n\"=dword:32\n"
+                    "[HKLM\\SOFTWARE\\TARNO\\Driver]\n\"n\"=dword:64\n[HKLM\\SOFTWARE\\TARNO\\Other]\n\"n\"=dword:64\n"
+                    "[HKLM\\SOFTWARE\\XFS\\Dev]\n\"n\"=dword:64\n[HKLM\\SOFTWARE\\Vexo]\n\"n\"=dword:64\n");
+    const auto both = Open("reg:" + path, {.view32 = true});
+    EXPECT_EQ(Get(*both, L"software\\tarno\\Driver", L"n"), "4:32000000");
+    EXPECT_EQ(Get(*both, L"SOFTWARE\\TARNO\\Other", L"n"), "missing");
+    EXPECT_EQ(Get(*both, L"SOFTWARE\\XFS\\Dev", L"n"), "missing");
+    EXPECT_EQ(Get(*both, L"SOFTWARE\\Vexo", L"n"), "4:64000000");
+    EXPECT_EQ(Get(*Open("reg:" + path), L"SOFTWARE\\TARNO\\Driver", L"n"), "4:64000000");
 
     // Without the option, its service providers would all seem to have no settings.
     WriteFile(path, "REGEDIT4\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\XFS\\Dev]\n\"n\"=dword:32\n");

@@ -143,6 +143,7 @@ class RegFileParser::Impl
 
     Error TakeError() { return std::move(m_error); }
     std::size_t Line() const { return m_line; }
+    bool IsTakenAsUtf8() const { return m_isTakenAsUtf8; }
 
   private:
     enum class Encoding
@@ -332,6 +333,7 @@ class RegFileParser::Impl
     bool Decide()
     {
         if (AppendUtf16FromUtf8(m_undecided, m_text)) {
+            m_isTakenAsUtf8 = true;
             return true;
         }
         auto rest = std::string_view(m_undecided);
@@ -760,6 +762,7 @@ class RegFileParser::Impl
     bool m_hasOddByte = false;
     bool m_marked = false;
     bool m_hasFirstLine = false;
+    bool m_isTakenAsUtf8 = false;
     bool m_isAnsi = false;
 
     std::u16string m_text; // decoded, not yet parsed
@@ -794,6 +797,11 @@ bool RegFileParser::Feed(std::string_view bytes, Error& error)
 std::size_t RegFileParser::Line() const noexcept
 {
     return m_impl->Line();
+}
+
+bool RegFileParser::IsTakenAsUtf8() const noexcept
+{
+    return m_impl->IsTakenAsUtf8();
 }
 
 bool RegFileParser::Finish(Error& error)

@@ -56,6 +56,8 @@ class WQSPCFG_API RegFileParser
     bool Finish(Error& error);
     // Where the statement that the visitor is told of begins.
     std::size_t Line() const noexcept;
+    // Once it has ended: its text is more than ASCII and was read as UTF-8, though nothing says that it is.
+    bool IsTakenAsUtf8() const noexcept;
 
   private:
     class Impl;
@@ -66,13 +68,15 @@ struct RegFileOptions
 {
     // Of the text of a REGEDIT4 file, by its Windows number: 936, 1252, 65001. 0: the file is ASCII or UTF-8.
     unsigned codePage = 0;
-    // Take the keys under SOFTWARE\WOW6432Node\XFS, where a 64-bit Windows keeps those of 32-bit programs, to
-    // SOFTWARE\XFS, and leave out those that the file has there. A file without such keys is read as it stands.
+    // Take the keys under SOFTWARE\WOW6432Node, where a 64-bit Windows keeps those of 32-bit programs, to SOFTWARE, and
+    // leave out those of the same names that the file has there. A file without such keys is read as it stands.
     bool view32 = false;
 };
 
-// Reads a file, checks that every store can keep what it says, and tells it to `visitor`.
-WQSPCFG_API bool ReadRegFile(const std::string& path, unsigned codePage, RegFileVisitor& visitor, Error& error);
+// Reads a file, checks that every store can keep what it says, and tells it to `visitor`. `takenAsUtf8` is what the
+// parser says of it.
+WQSPCFG_API bool ReadRegFile(const std::string& path, unsigned codePage, RegFileVisitor& visitor, bool& takenAsUtf8,
+                             Error& error);
 
 // What a registry export says, held in memory after all of it was read and checked.
 class WQSPCFG_API RegFileContent
@@ -86,6 +90,8 @@ class WQSPCFG_API RegFileContent
     // False, with `error` naming file, line and cause. A file that is no export is read no further than its beginning.
     bool Read(const std::string& path, const RegFileOptions& options, Error& error);
     bool Read(std::istream& input, const std::string& source, const RegFileOptions& options, Error& error);
+    // As the parser says.
+    bool IsTakenAsUtf8() const noexcept;
     // In the file's order. An error of the visitor gets file and line.
     bool Visit(RegFileVisitor& visitor, Error& error) const;
 

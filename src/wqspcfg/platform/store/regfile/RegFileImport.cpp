@@ -93,16 +93,21 @@ class CheckingVisitor final : public RegFileVisitor
 class View32Visitor final : public RegFileVisitor
 {
   public:
-    explicit View32Visitor(RegFileVisitor& next) : m_next(next) {}
+    View32Visitor(RegFileVisitor& next, View32 view) : m_next(next), m_view(std::move(view)) {}
 
     bool Key(Hive hive, std::wstring_view path, Error& error) override
     {
-        m_isLeftOut = RestBelow(kXfsKey, hive, path).has_value();
-        return m_isLeftOut || m_next.Key(hive, Redirected(hive, path), error);
+        const auto seen = m_view.FromStored(hive, path);
+        m_isLeftOut = !seen;
+        return m_isLeftOut || m_next.Key(hive, *seen, error);
     }
     bool DeleteKey(Hive hive, std::wstring_view path, Error& error) override
     {
-        return RestBelow(kXfsKey, hive, path) || m_next.DeleteKey(hive, Redirected(hive, path), error);
+        // That programs of 32 bit shall have no keys does not concern those of 64 bit.
+        const auto rest = RestBelow(kSoftware32, hive, path);
+        const bool isAll = rest && rest->find_first_not_of(L'\\') == std::wstring_view::npos;
+        const auto seen = isAll ? path : m_view.FromStored(hive, path);
+        return !seen || m_next.DeleteKey(hive, *seen, error);
     }
     bool Value(std::wstring_view name, const ValueView& value, Error& error) override
     {
@@ -114,19 +119,8 @@ class View32Visitor final : public RegFileVisitor
     }
 
   private:
-    std::wstring_view Redirected(Hive hive, std::wstring_view path)
-    {
-        const auto rest = RestBelow(kXfsKey32, hive, path);
-        if (!rest) {
-            return path;
-        }
-        m_path = kXfsKey;
-        m_path += *rest;
-        return m_path;
-    }
-
     RegFileVisitor& m_next;
-    std::wstring m_path;
+    View32 m_view;
     bool m_isLeftOut = false;
 };
 
@@ -210,7 +204,7 @@ bool OpenFile(const std::string& path, InputFile& input, Error& error)
 // NOLINTBEGIN(clang-analyzer-core.StackAddressEscape): the visitor asks the parser only while it is fed.
 template <class F>
 bool Parse(std::istream& input, const std::string& source, unsigned codePage, RegFileVisitor& visitor, F begin,
-           Error& error)
+           bool& takenAsUtf8, Error& error)
 {
     std::unique_ptr<CodePage> page;
     if (codePage != 0 && (page = CodePage::Open(codePage)) == nullptr) {
@@ -231,7 +225,9 @@ bool Parse(std::istream& input, const std::string& source, unsigned codePage, Re
         error = {ErrorKind::Io, "cannot read " + source};
         return false;
     }
-    return parser.Finish(error);
+    const bool isRead = parser.Finish(error);
+    takenAsUtf8 = parser.IsTakenAsUtf8();
+    return isRead;
 }
 // NOLINTEND(clang-analyzer-core.StackAddressEscape)
 
@@ -258,7 +254,7 @@ class RegFileContent::Impl
 
         bool Key(Hive hive, std::wstring_view path, Error&) override
         {
-            m_content.m_has32 = m_content.m_has32 || RestBelow(kXfsKey32, hive, path).has_value();
+            m_content.m_view.Add(hive, path);
             return Begin(Statement::Key, hive, path) && End({});
         }
         bool DeleteKey(Hive hive, std::wstring_view path, Error&) override
@@ -321,18 +317,20 @@ class RegFileContent::Impl
     {
         m_source = source;
         m_chunks.clear();
-        m_has32 = false;
+        m_view = {};
         Recorder recorder(*this);
         const auto begin = [&recorder](const RegFileParser& parser) { recorder.Reading(parser); };
-        const bool read = Parse(input, source, options.codePage, recorder, begin, error);
-        m_view32 = options.view32 && m_has32;
+        const bool read = Parse(input, source, options.codePage, recorder, begin, m_isTakenAsUtf8, error);
+        m_isView32 = options.view32 && m_view.HasAny();
         return read;
     }
 
+    bool IsTakenAsUtf8() const { return m_isTakenAsUtf8; }
+
     bool Visit(RegFileVisitor& visitor, Error& error) const
     {
-        View32Visitor redirecting(visitor);
-        RegFileVisitor& target = m_view32 ? redirecting : visitor;
+        View32Visitor redirecting(visitor, m_view);
+        RegFileVisitor& target = m_isView32 ? redirecting : visitor;
         std::size_t line = 0;
         std::wstring text;
         for (const auto& chunk : m_chunks) {
@@ -395,8 +393,9 @@ class RegFileContent::Impl
 
     std::string m_source;
     std::vector<std::string> m_chunks;
-    bool m_has32 = false;
-    bool m_view32 = false;
+    View32 m_view;
+    bool m_isView32 = false;
+    bool m_isTakenAsUtf8 = false;
 };
 
 RegFileContent::RegFileContent() : m_impl(std::make_unique<Impl>()) {}
@@ -412,6 +411,11 @@ bool RegFileContent::Read(const std::string& path, const RegFileOptions& options
 {
     InputFile input;
     return OpenFile(path, input, error) && m_impl->Read(input.Stream(), path, options, error);
+}
+
+bool RegFileContent::IsTakenAsUtf8() const noexcept
+{
+    return m_impl->IsTakenAsUtf8();
 }
 
 bool RegFileContent::Visit(RegFileVisitor& visitor, Error& error) const
@@ -467,12 +471,12 @@ void RegFileWriter::Close()
     }
 }
 
-bool ReadRegFile(const std::string& path, unsigned codePage, RegFileVisitor& visitor, Error& error)
+bool ReadRegFile(const std::string& path, unsigned codePage, RegFileVisitor& visitor, bool& takenAsUtf8, Error& error)
 {
     InputFile input;
     return OpenFile(path, input, error) &&
            Parse(
-               input.Stream(), path, codePage, visitor, [](const RegFileParser&) {}, error);
+               input.Stream(), path, codePage, visitor, [](const RegFileParser&) {}, takenAsUtf8, error);
 }
 
 bool ImportRegFile(Store& store, const RegFileContent& content, ImportCounts& counts, Error& error)

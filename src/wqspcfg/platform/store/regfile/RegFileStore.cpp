@@ -1,7 +1,6 @@
 #include "wqspcfg/platform/store/regfile/RegFileStore.h"
 
 #include "wqspcfg/platform/store/regfile/RegFile.h"
-#include "wqspcfg/platform/store/regfile/View32.h"
 
 #include <utility>
 
@@ -14,13 +13,13 @@ std::shared_ptr<RegFileStore> RegFileStore::Open(std::string address, const std:
     auto content = store->m_content.Begin(Access::Write, error);
     ImportCounts counts;
     RegFileWriter writer(*content, counts);
-    if (!ReadRegFile(path, options.codePage, writer, error)) {
+    if (!ReadRegFile(path, options.codePage, writer, store->m_isTakenAsUtf8, error)) {
         return nullptr;
     }
     KeyId key = 0;
     const bool has32 = content->OpenKey(Hive::LocalMachine, kXfsKey32, key) == Outcome::Found;
     const bool has64 = content->OpenKey(Hive::LocalMachine, kXfsKey, key) == Outcome::Found;
-    if (content->Commit(false) == Outcome::Failed) {
+    if ((options.view32 && !FindKeys32(*content, store->m_view32)) || content->Commit(false) == Outcome::Failed) {
         error = content->LastError();
         return nullptr;
     }
@@ -28,7 +27,6 @@ std::shared_ptr<RegFileStore> RegFileStore::Open(std::string address, const std:
         error = {ErrorKind::BadArgument, path + Only32BitKeys("give --view32 to read them as SOFTWARE\\XFS")};
         return nullptr;
     }
-    store->m_redirects = has32 && options.view32;
     return store;
 }
 
@@ -39,7 +37,7 @@ std::unique_ptr<Transaction> RegFileStore::Begin(Access access, Error& error)
         return nullptr;
     }
     auto content = m_content.Begin(access, error);
-    return m_redirects && content ? InView32(std::move(content)) : std::move(content);
+    return m_view32.HasAny() && content ? InView32(std::move(content), m_view32) : std::move(content);
 }
 
 } // namespace wqspcfg
