@@ -833,16 +833,15 @@ class Checker
     // what is a setting of the device key.
     void ReportForeignName(const Examination& examination, const VisitedKey& key, const std::wstring& name)
     {
-        const auto& all = NameIndex::All();
         const auto report = [&](FindingKind kind, const std::string& what) {
             Report(Severity::Warning, kind, examination, key.path, name, FullName(key.path, name) + what);
         };
         if (const auto [reader, place] = ReaderInDeviceKey(examination, key, name);
-            reader != nullptr && !all.Has(key.root, key.subkey, name)) {
+            reader != nullptr && !NameIndex::All().Has(key.root, key.subkey, name)) {
             report(FindingKind::ReadElsewhere,
                    " is not read: " + ClassOf(*reader) + " reads it from " + FullPath(place) + ", not from here");
         } else if (const auto meant = NearestMissing(examination, key, name);
-                   !meant.empty() && !all.Has(key.root, key.subkey, name)) {
+                   !meant.empty() && !NameIndex::All().Has(key.root, key.subkey, name)) {
             report(FindingKind::UnknownName,
                    " is not read by " + ReaderOf(examination, key) + "; did you mean " + meant + "?");
         }

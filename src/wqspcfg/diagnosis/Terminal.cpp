@@ -28,14 +28,18 @@ const NameSet& KeysOfOthers()
     static const auto& keys = *[] {
         auto* names = new NameSet; // lives as long as the process
         const std::wstring_view root(kServiceRoot);
-        for (const auto* entry : AllClasses()) {
-            for (const auto& setting : Describe(entry->table())) {
-                const std::wstring_view key(setting.key);
-                if (setting.root == Root::Absolute && key.size() > root.size() &&
+        const auto add = [&](const auto& self, const auto& rows) -> void {
+            for (const auto& row : rows) {
+                const std::wstring_view key(row.key.subkey);
+                if (row.IsValue() && row.key.root == Root::Absolute && key.size() > root.size() &&
                     EqualNoCase(key.substr(0, root.size()), root)) {
                     names->emplace(key.substr(root.size(), key.find(L'\\', root.size()) - root.size()));
                 }
+                self(self, row.rows);
             }
+        };
+        for (const auto* entry : AllClasses()) {
+            add(add, entry->table().rows);
         }
         return names;
     }();
