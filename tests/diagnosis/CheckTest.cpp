@@ -29,9 +29,7 @@ class FaultTest : public CatalogueTest
         m_device = isModel ? L"WQ" + std::wstring(name) : std::wstring(L"Dev");
         const auto* deviceClass = DeviceClassOf(entry.table());
         Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Provider", L"Phys");
-        if (deviceClass != nullptr) {
-            Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Class", deviceClass);
-        }
+        Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Class", deviceClass != nullptr ? deviceClass : L"ALM");
         Set(L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Phys", L"ExeDllMother", (m_device + L".exe").c_str());
         Set(Device(), L"", L"");
         ResetProcess();
@@ -246,7 +244,7 @@ class TerminalTest : public ConfigTest
   protected:
     TerminalTest()
     {
-        SetCurrentStore(Open("memory:"));
+        SetCurrentStore(m_terminal);
         AddService(L"Dispenser", L"CRD", L"WQSpCRDWQTYM1200");
         AddService(L"Reader", L"IDC", L"WQSpIDCTTCEM100");
         Set(kDispenser + L"\\Comm", L"Port", 4U);
@@ -257,7 +255,9 @@ class TerminalTest : public ConfigTest
     static void AddService(const std::wstring& name, const wchar_t* deviceClass, const std::wstring& device)
     {
         const auto logical = L".DEFAULT\\XFS\\LOGICAL_SERVICES\\" + name;
-        Set(logical, L"Class", deviceClass);
+        if (deviceClass != nullptr) {
+            Set(logical, L"Class", deviceClass);
+        }
         Set(logical, L"Provider", device.c_str());
         Set(kServiceRoot + device, L"ExeDllMother", (device + L".exe").c_str());
         Set(kDeviceRoot + device, L"", L""); // the key itself
@@ -277,6 +277,7 @@ class TerminalTest : public ConfigTest
 
     const std::wstring kDispenser = kDeviceRoot + std::wstring(L"WQSpCRDWQTYM1200");
     const std::wstring kReader = kDeviceRoot + std::wstring(L"WQSpIDCTTCEM100");
+    const std::shared_ptr<Store> m_terminal = Open("memory:");
 };
 
 TEST_F(TerminalTest, FindsServicesThatDoNotFitTogether)
@@ -305,12 +306,159 @@ TEST_F(TerminalTest, FindsAPortThatTwoDevicesUse)
     EXPECT_EQ(Found(), "") << "port 0 is none";
 }
 
-TEST_F(TerminalTest, FindsAClassThatTheModelContradicts)
+TEST_F(TerminalTest, FindsAPortOnlyWhereItIsUsed)
 {
-    Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Reader", L"Class", L"PTR");
-    EXPECT_NE(Found().find("classContradicts: service Reader: CSpIDCTTCEM100RegInfo is a class of device class IDC"),
+    Set(kReader + L"\\Comm", L"Port", 4U);
+    Set(kDispenser + L"\\Comm", L"BluetoothOption", 1U);
+    EXPECT_EQ(Found(), "") << "a device that is connected by Bluetooth uses no serial port";
+}
+
+TEST_F(TerminalTest, FindsClassValuesThatAreWrong)
+{
+    const std::wstring logical = L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Reader";
+    const std::wstring provider = kServiceRoot + std::wstring(L"WQSpIDCTTCEM100");
+    Set(provider, L"Class", L"idc");
+    EXPECT_EQ(Found(), "");
+    const std::string contradiction = "classContradicts: service Reader: CSpIDCTTCEM100RegInfo is a class of device "
+                                      "class IDC, and the class value of the service is \"PTR\"";
+    Set(provider, L"Class", L"PTR");
+    EXPECT_EQ(Found(), contradiction + " (SERVICE_PROVIDERS\\WQSpIDCTTCEM100\\Class)\n");
+    Set(provider, L"Class", L"IDC");
+    Set(logical, L"Class", L"PTR");
+    EXPECT_EQ(Found(), contradiction + '\n');
+    Set(logical, L"Class", L"XYZ");
+    EXPECT_EQ(Found(),
+              "unknownClass: service Reader: LOGICAL_SERVICES\\Reader\\Class is \"XYZ\", which is no class of XFS\n");
+    AddService(L"Alarm", L"ALM", L"OtherAlarm");
+    EXPECT_EQ(Found({.services = {L"Alarm"}}), "") << "a class of XFS that no device of ours has";
+    AddService(L"Printer", L"", L"WQSpPTRRID100");
+    EXPECT_EQ(Found({.services = {L"Printer"}}), "");
+    AddService(L"Pinpad", nullptr, L"WQSpPINXZSE8098B");
+    EXPECT_EQ(Found({.services = {L"Pinpad"}}), "unknownClass: service Pinpad has no class value: Class is missing "
+                                                "from LOGICAL_SERVICES\\Pinpad\n");
+}
+
+TEST_F(TerminalTest, NamesAProviderThatIsNoTextOnce)
+{
+    Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Reader", L"Provider", 1U);
+    EXPECT_EQ(Found({.services = {L"Reader"}}),
+              "wrongType: LOGICAL_SERVICES\\Reader\\Provider is REG_DWORD 1, a REG_SZ is read: service Reader has no "
+              "service provider\n");
+}
+
+TEST_F(TerminalTest, FindsACommonKeyWhoseNameIsMisspelt)
+{
+    Set(kServiceRoot + std::wstring(L"WQComnCfg\\Policy"), L"DevError", 1U);
+    EXPECT_EQ(Found(),
+              "noDeviceKey: service WQComnCfg: its service provider WQComnCfg has no device key WQComnCfg; did "
+              "you mean WQCmnCfg, which is missing?\n");
+}
+
+TEST_F(TerminalTest, FindsKeysWhoseNamesAreMisspelt)
+{
+    Set(kServiceRoot + std::wstring(L"WQCmnCfg\\Polcy"), L"DevError", 1U);
+    Set(kReader + L"\\Comn", L"Speed", 1U);
+    Set(kServiceRoot + std::wstring(L"WQCmnCfg\\Installer"), L"Path", L"C:\\");
+    EXPECT_EQ(Found(), "unknownKey: WQSpIDCTTCEM100\\Comn is not read by CSpIDCTTCEM100RegInfo; did you mean Comm, "
+                       "which is there too?\n"
+                       "unknownKey: SERVICE_PROVIDERS\\WQCmnCfg\\Polcy is not read by any class; did you mean "
+                       "Policy?\n");
+}
+
+TEST_F(TerminalTest, NamesTheKeyThatASettingIsReadFrom)
+{
+    const std::wstring provider = kServiceRoot + std::wstring(L"WQSpIDCTTCEM100");
+    Set(provider + L"\\Comm", L"BaudRate", 9600U);
+    Set(provider, L"CapVendorDescKey", L"x");
+    Set(provider, L"Port", 1U);        // stands in its own key too
+    Set(provider, L"InstallDir", L""); // an installer's
+    Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Reader", L"BaudRate", 9600U);
+    Set(kServiceRoot + std::wstring(L"WQCmnCfg\\Policy"), L"IsDeleteSensetiveInfo", 0U);
+    Set(kReader + L"\\Policy", L"RaiseShutdownPriority", 1U);
+    const std::string device = "HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpIDCTTCEM100";
+    const std::string is = " is not read: CSpIDCTTCEM100RegInfo reads it from " + device;
+    EXPECT_EQ(Found({.services = {L"Reader"}}),
+              "readElsewhere: WQSpIDCTTCEM100\\Policy\\RaiseShutdownPriority is not read: CSpIDCTTCEM100RegInfo reads "
+              "RaiseShutdownPriority from WQCmnCfg\\Policy, not from Policy\n"
+              "readElsewhere: SERVICE_PROVIDERS\\WQSpIDCTTCEM100\\CapVendorDescKey" +
+                  is +
+                  ", not from here\n"
+                  "readElsewhere: SERVICE_PROVIDERS\\WQSpIDCTTCEM100\\Comm\\BaudRate" +
+                  is +
+                  "\\Comm, not from here\n"
+                  "readElsewhere: LOGICAL_SERVICES\\Reader\\BaudRate" +
+                  is + "\\Comm, not from here\n");
+    EXPECT_NE(Found().find("readElsewhere: SERVICE_PROVIDERS\\WQCmnCfg\\Policy\\IsDeleteSensetiveInfo is not read"),
               std::string::npos)
         << Found();
+}
+
+TEST_F(TerminalTest, FindsSlipsInKeysThatAreReadWhole)
+{
+    const auto idle = kReader + L"\\IdleInterval";
+    Set(idle, L"PaperOut", 500U);
+    Set(kReader + L"\\ReSetTimeout", L"Open", 500U);
+    Set(kReader + L"\\CheckErrorHandler", L"Dispense", L"SafeDoor=1");
+    EXPECT_EQ(Found(), "");
+    Set(idle, L"Norml", 500U);
+    Set(kReader + L"\\ReSetTimeout", L"OnlyOpenAppend1", 1U);
+    Set(kReader + L"\\CheckErrorHandler", L"CheckLevel", 2U);
+    Set(kReader + L"\\CheckErrorHandler", L"CheckLevel1", 1U);
+    const std::string end = " is not read by CSpIDCTTCEM100RegInfo as a setting of its own; did you mean ";
+    EXPECT_EQ(Found(), "unknownName: WQSpIDCTTCEM100\\CheckErrorHandler\\CheckLevel1" + end +
+                           "CheckLevel?\n"
+                           "unknownName: WQSpIDCTTCEM100\\IdleInterval\\Norml" +
+                           end +
+                           "Normal?\n"
+                           "unknownName: WQSpIDCTTCEM100\\ReSetTimeout\\OnlyOpenAppend1" +
+                           end + "OnlyOpenAppend?\n");
+}
+
+TEST_F(TerminalTest, NamesAModelThatIsNotKnownOnce)
+{
+    AddService(L"Printer", L"PTR", L"WQSpPTRUnheardOf");
+    const auto device = kDeviceRoot + std::wstring(L"WQSpPTRUnheardOf");
+    Set(device, L"PaperCount", 1U);
+    Set(device + L"\\Comm", L"Port", 9U);
+    Set(device + L"\\Own\\More", L"Thing", 9U);
+    EXPECT_EQ(Found(),
+              "unknownModel: device key WQSpPTRUnheardOf is of no model that is known (class value \"PTR\"): only "
+              "what CPTRRegInfo reads of it is checked\n");
+    Set(device + L"\\IdleInterval", L"Norml", 9U);
+    EXPECT_NE(Found().find("did you mean Normal?"), std::string::npos) << Found();
+}
+
+TEST_F(TerminalTest, IsSilentOnWhatOtherProgramsKeep)
+{
+    AddService(L"Pinpad", L"PIN", L"WQSpPINXZSE8098B");
+    Set(kServiceRoot + std::wstring(L"CGB_Encryptor"), L"UseSMAlgorithm", L"1");
+    AddService(L"Recycler", L"CDM", L"WQSpCcad");
+    Set(kDeviceRoot + std::wstring(L"CASHDISPENSER\\COMMON\\CASSETTETYPE"), L"CASSETTE1", L"x");
+    for (const auto* key : {L"", L"\\Comm", L"\\ReSetTimeout", L"\\CheckErrorHandler"}) {
+        Set(kReader + key, L"", L"");
+    }
+    EXPECT_EQ(Found(), "");
+    Set(kReader + L"\\Comm", L"", L"text");
+    EXPECT_EQ(Found(), "unknownName: WQSpIDCTTCEM100\\Comm\\(default) is not read by CSpIDCTTCEM100RegInfo\n");
+    // What another program keeps is a service provider where it looks like one.
+    Set(kServiceRoot + std::wstring(L"CGB_Encryptor"), L"ExeDllMother", L"x.exe");
+    EXPECT_NE(Found().find("service CGB_Encryptor"), std::string::npos) << Found();
+}
+
+TEST_F(TerminalTest, NamesWhatIsWrongWithAValueOfTheRightType)
+{
+    test::Put(*m_terminal, kReader + L"\\Comm", L"BaudRate", {std::byte{4}, std::byte{0}});
+    EXPECT_EQ(
+        Found({.services = {L"Reader"}}),
+        "wrongType: WQSpIDCTTCEM100\\Comm\\BaudRate is a REG_DWORD of 2 bytes, one of 4 bytes is read: the default "
+        "9600 is in effect\n");
+}
+
+TEST_F(TerminalTest, TellsOfValuesThatTheClassMakesItself)
+{
+    Set(kReader + L"\\Control", L"OffsetSec", 1U);
+    EXPECT_EQ(Found(), "unknownName: WQSpIDCTTCEM100\\Control\\OffsetSec is not read: CSpIDCTTCEM100RegInfo makes "
+                       "OffsetSec itself\n");
 }
 
 TEST_F(TerminalTest, NamesTheModelThatAValueBelongsTo)
@@ -377,6 +525,9 @@ TEST_F(TerminalTest, MasksWhatIsSecret)
 
 TEST_F(TerminalTest, TellsOfKeysOf32BitPrograms)
 {
+    Set(L"SOFTWARE\\WOW6432Node\\XFS", L"Installed", 1U);
+    Set(L"SOFTWARE\\WOW6432Node\\XFS\\SERVICE_PROVIDERS", L"", L"");
+    EXPECT_EQ(Found(), "") << "nothing there would be read";
     Set(L"SOFTWARE\\WOW6432Node\\XFS\\PHYSICAL_SERVICES\\X", L"Port", 1U);
     EXPECT_NE(Found().find("view32: "), std::string::npos);
     EXPECT_EQ(Found({.view32 = true}), "");

@@ -154,14 +154,16 @@ TEST_F(DiffAndChangeTest, ChangeSetsByNameInOneTransaction)
     EXPECT_EQ(Change({"CloseOption=0"}), 0);
     EXPECT_TRUE(HasIn(m_out, "(unchanged)"));
 
-    EXPECT_EQ(Change({"DevError=0x102", "FirstErrorIntervalTime=5", "--unset", "Port", "--json"}), 0) << m_err;
+    EXPECT_EQ(Change({"DevError=0x102", "FirstErrorIntervalTime=71582789", "--unset", "Port", "--json"}), 0) << m_err;
     const auto changes = json::parse(m_out)["changes"];
     ASSERT_EQ(changes.size(), 3U);
     EXPECT_EQ(changes[0]["before"], nullptr);
     EXPECT_EQ(changes[0]["after"]["data"], "258");
     EXPECT_EQ(changes[0]["notes"][0], "the value of WQCmnCfg\\Policy was in effect until now; it stays there");
-    EXPECT_EQ(changes[1]["notes"][1], "CSpCRDWQTYM1200RegInfo takes 300 instead");
+    EXPECT_EQ(changes[1]["notes"][1], "CSpCRDWQTYM1200RegInfo takes 0 instead") << "in seconds it is too much";
     EXPECT_EQ(changes[2]["after"], nullptr);
+    EXPECT_EQ(Change({"FirstErrorIntervalTime=7"}), 0) << m_err;
+    EXPECT_FALSE(HasIn(m_out, "instead")) << m_out;
     EXPECT_EQ(Stored("Comm", "Port"), "missing");
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace wqspcfg {
 
@@ -58,12 +59,6 @@ std::wstring DeviceClassFor(std::wstring_view xfsClass)
 {
     auto deviceClass = UpCase(xfsClass);
     return deviceClass == L"CDM" || deviceClass == L"CIM" ? L"CRM" : deviceClass;
-}
-
-bool IsModel(const ClassEntry& entry)
-{
-    return entry.create != nullptr && std::wstring_view(entry.table().className).size() > 3 &&
-           EqualNoCase(std::wstring_view(entry.table().className).substr(0, 3), L"CSp");
 }
 
 const ClassEntry* ClassBase(const std::wstring& deviceClass)
@@ -171,6 +166,21 @@ constexpr Matcher kMatchers[] = {
 };
 
 } // namespace
+
+bool IsModel(const ClassEntry& entry) noexcept
+{
+    return entry.create != nullptr && std::wstring_view(entry.table().className).size() > 3 &&
+           EqualNoCase(std::wstring_view(entry.table().className).substr(0, 3), L"CSp");
+}
+
+bool IsXfsClass(std::wstring_view name)
+{
+    constexpr const wchar_t* kClasses[] = {L"ALM", L"BCR", L"BIO", L"CAM", L"CDM", L"CEU", L"CHK", L"CIM", L"CRD",
+                                           L"DEP", L"IDC", L"IPM", L"PIN", L"PTR", L"SIU", L"TTU", L"VDM"};
+    return std::any_of(std::begin(kClasses), std::end(kClasses),
+                       [&](const wchar_t* each) { return EqualNoCase(each, name); }) ||
+           ClassBase(DeviceClassFor(name)) != nullptr;
+}
 
 ServiceIdentity IdentifyService(const CString& strName, bool bPhysicalName)
 {

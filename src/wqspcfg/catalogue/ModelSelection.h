@@ -4,6 +4,7 @@
 #include "wqspcfg/catalogue/Catalogue.h"
 
 #include <string>
+#include <string_view>
 
 namespace wqspcfg {
 
@@ -34,6 +35,11 @@ struct ModelSelection
 // only model whose name one of them is part of; the class base of the class value; CRegInfo. Names are compared without
 // regard to case and without "WQSp" or "Sp" before them.
 WQSPCFG_API ModelSelection SelectModel(const ServiceIdentity& service);
+
+// Whether the class is made for one device model; else it is a base that models have in common.
+WQSPCFG_API bool IsModel(const ClassEntry& entry) noexcept;
+// Whether XFS has a class of this name. Case does not count.
+WQSPCFG_API bool IsXfsClass(std::wstring_view name);
 
 // For a person: how the service's class value contradicts the class. Empty where it does not.
 WQSPCFG_API std::wstring ContradictionOf(const ServiceIdentity& service, const ClassEntry& entry);

@@ -155,7 +155,7 @@ bool CRegInfo::Load(CLog* pLog)
     GetCmdMap();
 
     loading.Read(table, shared::kFirstErrorInterval);
-    m_dwFirstErrorIntervalTime *= 60;
+    m_dwFirstErrorIntervalTime *= shared::kFirstErrorInterval.scale;
 
     loading.Read(table, shared::kServer);
     m_arOtherSideServerName.RemoveAll();
@@ -165,7 +165,7 @@ bool CRegInfo::Load(CLog* pLog)
     }
     loading.Read(table, shared::kExtraSepCharacter);
 
-    if (pLog != nullptr) {
+    if (loading.IsTold()) {
         ReportShared(loading);
     }
     loading.Read(table, shared::kIsDeleteSensetiveInfo);
@@ -205,7 +205,7 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
         loading.PrintHeld(shared::MediaDetectLine());
     }
 
-    loading.Print(shared::kFirstErrorInterval, m_dwFirstErrorIntervalTime / 60);
+    loading.Print(shared::kFirstErrorInterval, m_dwFirstErrorIntervalTime / shared::kFirstErrorInterval.scale);
 
     loading.Read(table, shared::kCheckLevel);
     loading.Read(table, shared::kCheckRules);

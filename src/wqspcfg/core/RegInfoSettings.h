@@ -122,7 +122,7 @@ inline constexpr Setting kFirstErrorInterval{
     Key{Root::Common, L"Log"}, L"FirstErrorIntervalTime",
     [](CRegInfo&, unsigned) -> DWORD& { return CRegInfo::m_dwFirstErrorIntervalTime; }, 0,
     L"interval for recording the first error code, in minutes; 0 the first error code is not recorded",
-    KeepWhenMissing, NotLogged};
+    KeepWhenMissing, NotLogged, HeldTimes(60)};
 inline constexpr Setting kServer{
     kShareInfo, L"Server", [](CRegInfo&, unsigned) -> DWORD& { return CRegInfo::m_dwServer; }, 0,
     L"this service provider is the server of shared data: 0 no; 1 yes", NotLogged, OneOf};

@@ -2,7 +2,6 @@
 
 #include "wqspcfg/core/RegistryRoots.h"
 #include "wqspcfg/diagnosis/NameIndex.h"
-#include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
@@ -156,13 +155,8 @@ class Planner
             targets = FindBelow(text);
         }
         if (targets.empty()) {
-            std::vector<std::string> names;
-            const bool isFull = text.find(L'\\') != std::wstring::npos;
-            for (const auto& setting : m_examination.settings) {
-                names.push_back(isFull ? FullNameOf(setting) : Utf8(setting.name));
-            }
             Refuse(ClassName() + " has no setting " + Quoted(text) + "; did you mean \"" +
-                       NearestNoCase(Utf8(text), names) + "\"?",
+                       NearestSetting(m_examination, text) + "\"?",
                    true);
             return std::nullopt;
         }
@@ -234,8 +228,10 @@ class Planner
             return {};
         }
         for (const auto& each : SettingsOf(*m_examination.entry).All()) {
-            if (each.isPattern && MatchesKey(each.setting, text.substr(0, split)) &&
-                MatchesPattern(each.setting.name, std::wstring_view(text).substr(split + 1))) {
+            // A name that only the service's class fills in is among the examined ones.
+            if (each.isPattern && each.setting.name.find(L'%') == std::wstring::npos &&
+                MatchesKey(each.setting, text.substr(0, split)) &&
+                EqualNoCase(each.setting.name, std::wstring_view(text).substr(split + 1))) {
                 auto made = std::make_unique<DescribedSetting>(each.setting);
                 made->key = text.substr(0, split);
                 made->name = text.substr(split + 1);

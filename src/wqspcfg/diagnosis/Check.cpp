@@ -2,6 +2,7 @@
 
 #include "wqspcfg/core/RegistryRoots.h"
 #include "wqspcfg/diagnosis/NameIndex.h"
+#include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
 #include "wqspcfg/platform/store/FlatKey.h"
@@ -44,6 +45,19 @@ std::string ShortPath(std::wstring_view path)
     return Utf8(path);
 }
 
+// The value as the messages show it; a long name must not hide what is said of it.
+std::string FullName(std::wstring_view path, std::wstring_view name)
+{
+    constexpr std::size_t kLongest = 80;
+    const auto shown = name.empty() ? std::string("(default)") : Utf8(name.substr(0, kLongest));
+    return ShortPath(path) + '\\' + shown + (name.size() > kLongest ? "..." : "");
+}
+
+std::string FullName(const ExaminedSetting& setting)
+{
+    return FullName(setting.path, setting.name);
+}
+
 std::vector<std::wstring> SubkeysOf(std::wstring_view path)
 {
     std::vector<std::wstring> names;
@@ -59,6 +73,37 @@ bool Exists(const std::wstring& path)
 {
     const ReadScope scope;
     return scope->Exists(scope->Open(path));
+}
+
+std::optional<AskedKey> StoredAt(const std::wstring& path, const std::wstring& name)
+{
+    const ReadScope scope;
+    ValueView view;
+    if (scope->QueryAt(path, name, view) != Outcome::Found) {
+        return std::nullopt;
+    }
+    return AskedKey{path, name, true, view.type, {view.data.begin(), view.data.end()}};
+}
+
+// An empty text without a name says nothing: tools that create a key leave it.
+bool IsEmptyDefault(std::wstring_view name, const ValueView& value)
+{
+    return name.empty() && value.type == ValueType::Sz &&
+           std::all_of(value.data.begin(), value.data.end(), [](std::byte byte) { return byte == std::byte{0}; });
+}
+
+// The key or one below it holds a value.
+bool HasValuesBelow(const std::wstring& path)
+{
+    bool has = false;
+    const ReadScope scope;
+    scope->EnumValues(scope->Open(path), [&](std::wstring_view name, const ValueView& value) {
+        has = !IsEmptyDefault(name, value);
+        return !has;
+    });
+    const auto subkeys = has ? std::vector<std::wstring>() : SubkeysOf(path);
+    return has || std::any_of(subkeys.begin(), subkeys.end(),
+                              [&](const std::wstring& name) { return HasValuesBelow(path + L'\\' + name); });
 }
 
 std::string ClassOf(const Examination& examination)
@@ -155,6 +200,8 @@ class SettingIndex
     Map<Map<const ExaminedSetting*>> m_byKey;
 };
 
+constexpr wchar_t kProviderValue[] = L"Provider";
+
 class Checker
 {
   public:
@@ -223,8 +270,15 @@ class Checker
         const auto& own = isLogical ? logical : kServiceRoot + service.physicalName;
         const auto title = "service " + Utf8(NameOf(service));
         if (isLogical && service.physicalName.empty()) {
-            Report(Severity::Error, FindingKind::NoProvider, examination, logical, std::nullopt,
-                   title + " names no service provider: its value Provider is missing");
+            const auto stored = StoredAt(logical, kProviderValue);
+            if (stored && stored->type != ValueType::Sz) {
+                Report(Severity::Error, FindingKind::WrongType, examination, logical, kProviderValue,
+                       FullName(logical, kProviderValue) + " is " + StoredText(stored->type, stored->data) +
+                           ", a REG_SZ is read: " + title + " has no service provider");
+            } else {
+                Report(Severity::Error, FindingKind::NoProvider, examination, logical, std::nullopt,
+                       title + " names no service provider: its value Provider is " + (stored ? "empty" : "missing"));
+            }
             return;
         }
         const auto provider = kServiceRoot + service.physicalName;
@@ -232,18 +286,51 @@ class Checker
         const bool hasDevice = !service.deviceKey.empty() && Exists(kDeviceRoot + service.deviceKey);
         if (!hasProvider) {
             Report(Severity::Error, FindingKind::NoProvider, examination, own,
-                   isLogical ? std::optional<std::wstring>(L"Provider") : std::nullopt,
+                   isLogical ? std::optional<std::wstring>(kProviderValue) : std::nullopt,
                    title + ": its service provider " + Utf8(service.physicalName) + " has no service key" +
                        (hasDevice ? "" : " and no device key"));
         } else if (!hasDevice) {
+            const auto common = PathOf(service, Root::Common, {});
+            const auto commonName = common.substr(common.rfind(L'\\') + 1);
+            const bool isMisspelt =
+                !Exists(common) && Distance(Utf8(UpCase(service.physicalName)), Utf8(UpCase(commonName))) <= 2;
             Report(Severity::Error, FindingKind::NoDeviceKey, examination, provider, std::nullopt,
                    title + ": its service provider " + Utf8(service.physicalName) + " has no device key" +
                        (service.deviceKey.empty() ? ": the value ExeDllMother of its service key is missing"
-                                                  : " " + Utf8(service.deviceKey)));
+                                                  : " " + Utf8(service.deviceKey)) +
+                       (isMisspelt ? "; did you mean " + Utf8(commonName) + ", which is missing?" : ""));
         }
-        if (const auto contradiction = ContradictionOf(service, *examination.entry); !contradiction.empty()) {
-            Report(Severity::Error, FindingKind::ClassContradicts, examination, own, L"Class",
-                   title + ": " + Utf8(contradiction));
+        CheckClass(examination, own, hasProvider && hasDevice ? provider : std::wstring(), title);
+    }
+
+    void CheckClass(const Examination& examination, const std::wstring& own, const std::wstring& provider,
+                    const std::string& title)
+    {
+        const std::wstring name = L"Class";
+        bool has = provider.empty();
+        for (const auto& path : {own, provider}) {
+            const auto stored = path.empty() ? std::nullopt : StoredAt(path, name);
+            has = has || stored;
+            CString text;
+            if (!stored || !ToValue(ValueView{stored->type, stored->data}, text) || text.IsEmpty()) {
+                continue;
+            }
+            auto service = examination.service;
+            service.xfsClass = text.Std();
+            if (!IsXfsClass(service.xfsClass)) {
+                Report(Severity::Error, FindingKind::UnknownClass, examination, path, name,
+                       title + ": " + FullName(path, name) + " is " + Quoted(service.xfsClass) +
+                           ", which is no class of XFS");
+            } else if (const auto contradiction = ContradictionOf(service, *examination.entry);
+                       !contradiction.empty()) {
+                Report(Severity::Error, FindingKind::ClassContradicts, examination, path, name,
+                       title + ": " + Utf8(contradiction) +
+                           (EqualNoCase(path, own) ? "" : " (" + FullName(path, name) + ")"));
+            }
+        }
+        if (!has) {
+            Report(Severity::Warning, FindingKind::UnknownClass, examination, own, std::nullopt,
+                   title + " has no class value: Class is missing from " + ShortPath(own));
         }
     }
 
@@ -275,7 +362,7 @@ class Checker
         for (const auto& examination : m_out.services) {
             for (const auto& setting : examination.settings) {
                 // A port by default may be one that the device does not use, as where it is connected by USB.
-                if (setting.Setting().refersTo == Reference::SerialPort && setting.source == Source::Key &&
+                if (setting.refersTo == Reference::SerialPort && setting.source == Source::Key &&
                     setting.value.number != 0) {
                     byPort[setting.value.number].push_back({&examination, &setting});
                 }
@@ -291,9 +378,8 @@ class Checker
                 }
                 Report(Severity::Error, FindingKind::SharedPort, *other.examination, other.setting->path,
                        other.setting->name,
-                       ShortPath(other.setting->path) + '\\' + Utf8(other.setting->name) + " is serial port " +
-                           std::to_string(port) + ", which " + Utf8(NameOf(first.examination->service)) +
-                           " uses too (" + ShortPath(first.setting->path) + '\\' + Utf8(first.setting->name) + ")");
+                       FullName(*other.setting) + " is serial port " + std::to_string(port) + ", which " +
+                           Utf8(NameOf(first.examination->service)) + " uses too (" + FullName(*first.setting) + ")");
             }
         }
     }
@@ -305,7 +391,7 @@ class Checker
             used.insert(UpCase(examination.service.deviceKey));
         }
         for (const auto& name : SubkeysOf(kDeviceRoot)) {
-            if (!used.contains(UpCase(name))) {
+            if (!used.contains(UpCase(name)) && !m_known.HasKey(kDeviceRoot + name)) {
                 Report({Severity::Warning,
                         FindingKind::UnusedDeviceKey,
                         {},
@@ -320,7 +406,10 @@ class Checker
     void CheckView32()
     {
         const std::wstring key(kXfsKey32);
-        if (!m_options.view32 && Exists(key) && Exists(std::wstring(kXfsKey))) {
+        const std::array<const wchar_t*, 3> roots{L"\\LOGICAL_SERVICES", L"\\SERVICE_PROVIDERS",
+                                                  L"\\PHYSICAL_SERVICES"};
+        if (!m_options.view32 && Exists(std::wstring(kXfsKey)) &&
+            std::any_of(roots.begin(), roots.end(), [&](const wchar_t* root) { return HasValuesBelow(key + root); })) {
             Report({Severity::Warning,
                     FindingKind::View32,
                     {},
@@ -348,11 +437,6 @@ class Checker
         }
     }
 
-    static std::string FullName(const ExaminedSetting& setting)
-    {
-        return ShortPath(setting.path) + '\\' + Utf8(setting.name);
-    }
-
     void CheckTypes(const Examination& examination, const ExaminedSetting& setting)
     {
         const auto& described = setting.Setting();
@@ -360,19 +444,46 @@ class Checker
         for (const auto& key : setting.asked) {
             const bool isOwn = described.wholeKey || EqualNoCase(key.name, setting.name) ||
                                (described.fallback && EqualNoCase(key.name, described.fallback->name));
-            if (!key.found || !isOwn || IsRightType(described, key) ||
+            if (!key.found || !isOwn || IsRightType(described, key) || IsEmptyDefault(key.name, {key.type, key.data}) ||
                 (described.wholeKey &&
                  SettingsOf(*examination.entry).ReadsValue(described.root, described.key, key.name))) {
                 continue;
             }
+            // CheckIdentity has told what comes of it.
+            if (described.root == Root::Logical && EqualNoCase(key.name, kProviderValue)) {
+                continue;
+            }
+            if (described.wholeKey && ReportSlip(examination, described, key)) {
+                continue;
+            }
+            const auto fault = TypeFaultOf(described, key, isMasked);
             const auto effect = setting.source == Source::WrongType
                                     ? "the default " + DefaultText(described) + " is in effect"
                                     : std::string("it is ignored");
             Report(Severity::Error, FindingKind::WrongType, examination, key.path, key.name,
-                   ShortPath(key.path) + '\\' + Utf8(key.name) + " is " +
-                       (isMasked ? TypeName(key.type) : StoredText(key.type, key.data)) + ", a " +
-                       TypeName(StoredType(described)) + " is read: " + effect);
+                   FullName(key.path, key.name) + " is " + fault.is + ", " + fault.read + ": " + effect);
         }
+    }
+
+    // A value of a key that is read whole may be meant for one of the names that are read for themselves.
+    bool ReportSlip(const Examination& examination, const DescribedSetting& described, const AskedKey& key)
+    {
+        const auto meant =
+            NameIndex::Of(*examination.entry)
+                .NearestName(
+                    described.root, described.key, key.name, [](const std::wstring&) { return false; }, false);
+        if (!meant.empty()) {
+            ReportSlip(examination, key.path, key.name, meant);
+        }
+        return !meant.empty();
+    }
+
+    void ReportSlip(const Examination& examination, const std::wstring& path, const std::wstring& name,
+                    const std::string& meant)
+    {
+        Report(Severity::Warning, FindingKind::UnknownName, examination, path, name,
+               FullName(path, name) + " is not read by " + ClassOf(examination) +
+                   " as a setting of its own; did you mean " + meant + "?");
     }
 
     static const AskedKey* FirstOfRightType(const ExaminedSetting& setting)
@@ -381,15 +492,6 @@ class Checker
             return key.found && IsRightType(setting.Setting(), key);
         });
         return found != setting.asked.end() ? &*found : nullptr;
-    }
-
-    static bool IsRightType(const DescribedSetting& setting, const AskedKey& key)
-    {
-        if (key.type != StoredType(setting)) {
-            return false;
-        }
-        DWORD number = 0;
-        return key.type != ValueType::Dword || ToValue(ValueView{key.type, key.data}, number);
     }
 
     void CheckValue(const Examination& examination, const ExaminedSetting& setting)
@@ -405,7 +507,7 @@ class Checker
             return;
         }
         const bool isMasked = described.secret && !m_options.showSecrets;
-        const auto full = [&] { return ShortPath(key->path) + '\\' + Utf8(key->name); };
+        const auto full = [&] { return FullName(key->path, key->name); };
         const bool isNumber = described.type == Type::Dword || described.type == Type::Flag;
         DWORD number = 0;
         if (isNumber && ToValue(ValueView{key->type, key->data}, number) && !IsAllowed(described, number)) {
@@ -413,13 +515,13 @@ class Checker
                    full() + " is " + (isMasked ? kMasked : std::to_string(number)) +
                        "; allowed: " + AllowedText(described) +
                        (setting.isCorrected ? "; " + ValueText(described, setting.value) + " is in effect" : ""));
-        } else if (setting.isCorrected && described.corrected) {
+        } else if (setting.isCorrected && (described.corrected || described.row->scale != 1)) {
             Report(Severity::Warning, FindingKind::Corrected, examination, key->path, key->name,
                    full() + " is " + (isMasked ? kMasked : ValueText(described, setting.read)) + "; " +
                        ClassOf(examination) + " takes " + (isMasked ? kMasked : ValueText(described, setting.value)) +
                        " instead");
         }
-        if (described.refersTo == Reference::LogicalService && !setting.value.text.empty() &&
+        if (setting.refersTo == Reference::LogicalService && !setting.value.text.empty() &&
             !m_logical.contains(UpCase(setting.value.text))) {
             Report(Severity::Error, FindingKind::NoSuchService, examination, key->path, key->name,
                    full() + " names the service " + Quoted(setting.value.text) + ", which is not there");
@@ -567,27 +669,36 @@ class Checker
                   const VisitedKey& key)
     {
         std::vector<std::wstring> unknown;
-        if (!m_known.IsWhole(key.path)) {
-            const auto* byCode = m_known.ValuesOf(key.path);
-            const ReadScope scope;
-            scope->EnumValues(scope->Open(key.path), [&](std::wstring_view name, const ValueView&) {
-                const bool isRead = (byCode != nullptr && byCode->find(name) != byCode->end()) ||
-                                    std::any_of(readers.begin(), readers.end(), [&](const ClassSettings* reader) {
-                                        return reader->MayRead(key.root, key.subkey, name);
-                                    });
-                if (!isRead && !(key.subkey.empty() && name.empty())) {
-                    unknown.emplace_back(name);
-                }
+        std::vector<std::wstring> readWhole; // judged below: a store is not asked within its enumeration
+        const auto isAny = [&](auto is) { return std::any_of(readers.begin(), readers.end(), is); };
+        const auto* byCode = m_known.ValuesOf(key.path);
+        const bool isWhole = m_known.IsWhole(key.path);
+        const ReadScope scope;
+        scope->EnumValues(scope->Open(key.path), [&](std::wstring_view name, const ValueView& value) {
+            if (IsEmptyDefault(name, value) || (key.subkey.empty() && name.empty()) ||
+                (byCode != nullptr && byCode->find(name) != byCode->end()) ||
+                isAny([&](const auto* reader) { return reader->ReadsValue(key.root, key.subkey, name); })) {
                 return true;
-            });
+            }
+            if (isWhole || isAny([&](const auto* reader) { return reader->MayRead(key.root, key.subkey, name); })) {
+                readWhole.emplace_back(name);
+            } else {
+                unknown.emplace_back(name);
+            }
+            return true;
+        });
+        for (const auto& name : readWhole) {
+            if (const auto meant = NearestMissing(examination, key, name); !meant.empty()) {
+                ReportSlip(examination, key.path, name, meant);
+            }
         }
         const auto subkeys = SubkeysOf(key.path);
-        const bool isKnown = key.subkey.empty() || m_known.HasKey(key.path) ||
-                             std::any_of(readers.begin(), readers.end(), [&](const ClassSettings* reader) {
+        const bool isKnown = key.subkey.empty() || m_known.HasKey(key.path) || isAny([&](const ClassSettings* reader) {
                                  return reader->MayReadKey(key.root, key.subkey);
                              });
-        if (!isKnown && key.root == Root::Device && !(unknown.empty() && subkeys.empty())) {
-            ReportUnknownKey(examination, key, unknown, !subkeys.empty());
+        if (!isKnown && !(unknown.empty() && subkeys.empty()) &&
+            (key.root == Root::Device ? ReportUnknownKey(examination, key, unknown, !subkeys.empty())
+                                      : ReportMisspeltKey(examination, key))) {
             return;
         }
         for (const auto& name : unknown) {
@@ -599,13 +710,53 @@ class Checker
         }
     }
 
+    static bool IsStored(const std::wstring& path, const std::wstring& name)
+    {
+        const ReadScope scope;
+        ValueView view;
+        return scope->QueryAt(path, name, view) == Outcome::Found;
+    }
+
+    static std::string NearestMissing(const Examination& examination, const VisitedKey& key, std::wstring_view name)
+    {
+        return NameIndex::Of(*examination.entry)
+            .NearestName(
+                key.root, key.subkey, name, [&](const std::wstring& other) { return IsStored(key.path, other); },
+                false);
+    }
+
+    static std::string NearestKey(const Examination& examination, const VisitedKey& key, bool elsewhere)
+    {
+        const auto root = key.path.substr(0, key.path.size() - key.subkey.size());
+        return NameIndex::Of(*examination.entry)
+            .NearestKey(
+                key.root, key.subkey, [&](const std::wstring& other) { return Exists(root + other); }, elsewhere);
+    }
+
+    // Of the keys that installers may use for themselves, only one that looks like a slip for a missing one is told.
+    bool ReportMisspeltKey(const Examination& examination, const VisitedKey& key)
+    {
+        const auto meant = NearestKey(examination, key, false);
+        if (!meant.empty()) {
+            Report(Severity::Warning, FindingKind::UnknownKey, examination, key.path, std::nullopt,
+                   ShortPath(key.path) + " is not read by " + ReaderOf(examination, key) + "; did you mean " + meant +
+                       "?");
+        }
+        return !meant.empty();
+    }
+
+    static std::string ReaderOf(const Examination& examination, const VisitedKey& key)
+    {
+        return key.root == Root::Common ? std::string("any class") : ClassOf(examination);
+    }
+
     // A key of which nothing is read. Its values may be at home in another one, each for itself, unless the key's own
     // name is misspelt.
-    void ReportUnknownKey(const Examination& examination, const VisitedKey& key,
+    bool ReportUnknownKey(const Examination& examination, const VisitedKey& key,
                           const std::vector<std::wstring>& values, bool hasMore)
     {
         const auto& own = NameIndex::Of(*examination.entry);
-        const auto meant = own.NearestKey(key.root, key.subkey);
+        const auto meant = NearestKey(examination, key, true);
         for (const auto& name : values) {
             if (meant.empty() && !own.KeysOf(name).empty()) {
                 ReportName(examination, key, name);
@@ -614,7 +765,11 @@ class Checker
             }
         }
         if (!hasMore) {
-            return;
+            return true;
+        }
+        if (meant.empty() && !IsModel(*examination.entry)) {
+            ReportModel(examination);
+            return true;
         }
         const auto model = NameIndex::All().ModelOfKey(key.root, key.subkey, *examination.entry);
         const auto path = ShortPath(key.path);
@@ -626,39 +781,107 @@ class Checker
                    path + " is not read by " + ClassOf(examination) +
                        (meant.empty() ? std::string() : "; did you mean " + meant + "?"));
         }
+        return true;
+    }
+
+    // What no class is made for has settings that none knows: that is told once.
+    void ReportModel(const Examination& examination)
+    {
+        const auto& service = examination.service;
+        Report(Severity::Warning, FindingKind::UnknownModel, examination, kDeviceRoot + service.deviceKey, std::nullopt,
+               "device key " + Utf8(service.deviceKey) + " is of no model that is known (class value " +
+                   Quoted(service.xfsClass) + "): only what " + ClassOf(examination) + " reads of it is checked");
     }
 
     void ReportName(const Examination& examination, const VisitedKey& key, const std::wstring& name)
     {
-        const auto full = ShortPath(key.path) + '\\' + Utf8(name);
-        const auto& own = NameIndex::Of(*examination.entry);
-        const auto isStored = [&](const std::wstring& other) {
-            const ReadScope scope;
-            ValueView view;
-            return scope->QueryAt(key.path, other, view) == Outcome::Found;
-        };
-        // Installers and other programs keep values beside those that are read: only what looks like a slip is told.
-        const bool isOurs = key.root == Root::Device;
-        const auto meant = own.NearestName(key.root, key.subkey, name, isStored, isOurs);
-        if (!isOurs && (meant.empty() || NameIndex::All().Has(key.root, key.subkey, name))) {
+        if (key.root != Root::Device) {
+            ReportForeignName(examination, key, name);
             return;
         }
+        const auto& own = NameIndex::Of(*examination.entry);
+        const bool isModel = IsModel(*examination.entry);
+        const auto meant = isModel ? own.NearestName(
+                                         key.root, key.subkey, name,
+                                         [&](const std::wstring& other) { return IsStored(key.path, other); }, true)
+                                   : NearestMissing(examination, key, name);
         const auto report = [&](FindingKind kind, const std::string& what) {
-            Report(Severity::Warning, kind, examination, key.path, name, full + what);
+            Report(Severity::Warning, kind, examination, key.path, name, FullName(key.path, name) + what);
         };
-        const auto reader = key.root == Root::Common ? std::string("any class") : ClassOf(examination);
-        if (const auto elsewhere = own.KeysOf(name); isOurs && !elsewhere.empty()) {
-            return report(FindingKind::ReadElsewhere, " is not read: " + reader + " reads " + Utf8(name) + " from " +
-                                                          elsewhere + ", not from " + KeyText(key.root, key.subkey));
+        if (const auto elsewhere = own.KeysOf(name); !elsewhere.empty()) {
+            return report(FindingKind::ReadElsewhere, " is not read: " + ClassOf(examination) + " reads " + Utf8(name) +
+                                                          " from " + elsewhere + ", not from " +
+                                                          KeyText(key.root, key.subkey));
         }
-        const auto model =
-            isOurs ? NameIndex::All().ModelOf(key.root, key.subkey, name, *examination.entry) : NameIndex::Model{};
-        if (!model.text.empty() && (meant.empty() || model.isSameDevice)) {
-            return report(FindingKind::OtherModel,
-                          " belongs to " + model.text + "; this service is a " + ClassOf(examination));
+        const auto& all = SettingsOf(*examination.entry).All();
+        const bool isMade = std::any_of(all.begin(), all.end(), [&](const ClassSetting& each) {
+            return each.setting.computed && EqualNoCase(each.setting.key, key.subkey) &&
+                   EqualNoCase(each.setting.name, name);
+        });
+        if (isMade) {
+            return report(FindingKind::UnknownName,
+                          " is not read: " + ClassOf(examination) + " makes " + Utf8(name) + " itself");
         }
-        report(FindingKind::UnknownName,
-               " is not read by " + reader + (meant.empty() ? std::string() : "; did you mean " + meant + "?"));
+        const auto model = NameIndex::All().ModelOf(key.root, key.subkey, name, *examination.entry);
+        if (!isModel && (meant.empty() || !model.text.empty())) {
+            ReportModel(examination);
+        } else if (!model.text.empty() && (meant.empty() || model.isSameDevice)) {
+            report(FindingKind::OtherModel,
+                   " belongs to " + model.text + "; this service is a " + ClassOf(examination));
+        } else {
+            report(FindingKind::UnknownName, " is not read by " + ClassOf(examination) +
+                                                 (meant.empty() ? std::string() : "; did you mean " + meant + "?"));
+        }
+    }
+
+    // Installers and other programs keep values beside those that are read: only what looks like a slip is told, and
+    // what is a setting of the device key.
+    void ReportForeignName(const Examination& examination, const VisitedKey& key, const std::wstring& name)
+    {
+        const auto report = [&](FindingKind kind, const std::string& what) {
+            Report(Severity::Warning, kind, examination, key.path, name, FullName(key.path, name) + what);
+        };
+        if (const auto [reader, place] = ReaderInDeviceKey(examination, key, name);
+            reader != nullptr && !NameIndex::All().Has(key.root, key.subkey, name)) {
+            report(FindingKind::ReadElsewhere,
+                   " is not read: " + ClassOf(*reader) + " reads it from " + FullPath(place) + ", not from here");
+        } else if (const auto meant = NearestMissing(examination, key, name);
+                   !meant.empty() && !NameIndex::All().Has(key.root, key.subkey, name)) {
+            report(FindingKind::UnknownName,
+                   " is not read by " + ReaderOf(examination, key) + "; did you mean " + meant + "?");
+        }
+    }
+
+    struct Reader
+    {
+        const Examination* examination = nullptr; // null where there is none
+        std::wstring path;
+    };
+
+    // The service, and the key below its device key that it reads the value from. Another subkey counts only where the
+    // value is missing from it: the same name may mean something else to another program.
+    Reader ReaderInDeviceKey(const Examination& examination, const VisitedKey& key, const std::wstring& name) const
+    {
+        if (key.root == Root::Common) {
+            const auto reader =
+                std::find_if(m_out.services.begin(), m_out.services.end(), [&](const Examination& each) {
+                    return NameIndex::Of(*each.entry).HasFixed(Root::Device, key.subkey, name);
+                });
+            return reader != m_out.services.end() ? Reader{&*reader, PathOf(reader->service, Root::Device, key.subkey)}
+                                                  : Reader{};
+        }
+        const auto& own = NameIndex::Of(*examination.entry);
+        if (!Exists(PathOf(examination.service, Root::Device, {}))) {
+            return {}; // a service of another kind
+        }
+        if (own.HasFixed(Root::Device, key.subkey, name)) {
+            return {&examination, PathOf(examination.service, Root::Device, key.subkey)};
+        }
+        const auto* subkey = key.subkey.empty() ? own.SubkeyOf(Root::Device, name) : nullptr;
+        if (subkey == nullptr || IsStored(PathOf(examination.service, Root::Device, *subkey), name)) {
+            return {};
+        }
+        return {&examination, PathOf(examination.service, Root::Device, *subkey)};
     }
 
     const CheckOptions& m_options;
@@ -705,6 +928,10 @@ const char* NameOf(FindingKind kind) noexcept
         return "unusedDeviceKey";
     case FindingKind::ClassContradicts:
         return "classContradicts";
+    case FindingKind::UnknownClass:
+        return "unknownClass";
+    case FindingKind::UnknownModel:
+        return "unknownModel";
     case FindingKind::SharedPort:
         return "sharedPort";
     case FindingKind::NoSuchService:

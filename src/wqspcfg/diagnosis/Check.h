@@ -31,6 +31,8 @@ enum class FindingKind : std::uint8_t
     NoDeviceKey,      // a service provider without a device key
     UnusedDeviceKey,  // a device key without a service
     ClassContradicts, // a class value that the device model contradicts
+    UnknownClass,     // a class value that XFS does not have, or none at all
+    UnknownModel,     // a device key that no class is made for
     SharedPort,       // two devices on one serial port
     NoSuchService,    // the name of a logical service that is not there
     Inconsistent,     // card units or note types that do not add up

@@ -68,9 +68,8 @@ void ClassSettings::Append(DescribedSetting setting, const Table& table, bool is
     } else {
         auto& names = NamesOf(described.root, described.key);
         names.isWhole = names.isWhole || described.wholeKey;
-        if (!described.wholeKey) {
+        if (!described.wholeKey && !described.computed) {
             names.names.insert(described.readAs.empty() ? described.name : described.readAs);
-            names.names.insert(described.name);
             if (!described.savedName.empty()) {
                 names.names.insert(described.savedName);
             }

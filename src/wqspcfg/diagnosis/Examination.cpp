@@ -206,6 +206,7 @@ class Examiner
         observe.emplace(m_recorder);
         const ReadScope scope;
         m_out.isLoaded = object->Load(nullptr);
+        object->GetDeviceClassName(nullptr, 0); // asks for the value that is named after the service's class
         observe.reset();
         m_object = object.get();
         for (const auto& key : m_settings.Keys()) {
@@ -299,6 +300,11 @@ class Examiner
         }
         TakeHeld(event, out);
         Judge(out);
+        const bool isReached = event != nullptr && event->object != nullptr;
+        if (setting.row->refersIf == nullptr || (!isReached && declared.isMixin) ||
+            setting.row->refersIf(isReached ? *event->object : *m_object)) {
+            out.refersTo = setting.refersTo;
+        }
     }
 
     // Where code reads the setting, or nothing does before an operation asks for it.
@@ -363,6 +369,7 @@ class Examiner
         } else if (!out.declared->isMixin) {
             out.value = Held(setting, *m_object);
         }
+        out.value.number /= setting.row->scale;
     }
 
     static void Judge(ExaminedSetting& out)
@@ -441,7 +448,12 @@ class Examiner
                 return MatchesPattern(pattern.first->setting.name, key.name) &&
                        MatchesPattern(pattern.second, key.path);
             });
-            if (found == patterns.end() || !listed.insert({key.path, key.name}).second) {
+            const auto hasRow = [&] {
+                return std::any_of(m_out.settings.begin(), m_out.settings.end(), [&](const ExaminedSetting& setting) {
+                    return EqualNoCase(setting.path, key.path) && EqualNoCase(setting.name, key.name);
+                });
+            };
+            if (found == patterns.end() || hasRow() || !listed.insert({key.path, key.name}).second) {
                 continue;
             }
             auto declared = std::make_unique<ClassSetting>(*found->first);

@@ -45,6 +45,7 @@ struct ExaminedSetting
     DescribedValue read;         // as a key holds it, or the default
     DescribedValue value;        // in effect
     bool isCorrected = false;    // the class made `value` of `read`, which is another one
+    Reference refersTo = Reference::None; // what the value in effect refers to
     // Of a whole key: its entries with their texts, numbers in decimal; those by default where it has none.
     std::vector<std::pair<std::wstring, std::wstring>> entries;
 

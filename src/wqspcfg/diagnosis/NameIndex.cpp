@@ -34,10 +34,15 @@ std::size_t Reach(std::size_t length)
     return length <= 5 ? 1 : length <= 9 ? 2 : 3;
 }
 
+std::wstring KeyOf(Root root, std::wstring_view subkey)
+{
+    return static_cast<wchar_t>(L'0' + static_cast<int>(root)) + UpCase(subkey);
+}
+
 class Candidates
 {
   public:
-    explicit Candidates(std::wstring_view name) : m_plain(Plain(name)), m_least(2 * Reach(m_plain.size()) + 1) {}
+    explicit Candidates(std::wstring_view name) : m_plain(Plain(name)), m_least(2 * Reach(m_plain.size()) + 2) {}
 
     void Try(std::wstring_view candidate, const std::string& text, bool isLessLikely)
     {
@@ -110,9 +115,13 @@ const NameIndex& NameIndex::All()
 
 void NameIndex::Add(const DescribedSetting& setting, const Table& table)
 {
+    if (setting.computed) {
+        return; // nothing reads it
+    }
     const auto add = [&](Root root, const std::wstring& key, const std::wstring& name) {
         m_byName[UpCase(name)].push_back(m_entries.size());
-        m_entries.push_back({root, key, name, &table});
+        m_byKey[KeyOf(root, key)].push_back(m_entries.size());
+        m_entries.push_back({root, key, name, &table, !setting.wholeKey});
     };
     add(setting.root, setting.key, setting.readAs.empty() ? setting.name : setting.readAs);
     if (setting.fallback) {
@@ -125,6 +134,34 @@ bool NameIndex::Has(Root root, std::wstring_view subkey, std::wstring_view name)
     return std::any_of(m_entries.begin(), m_entries.end(), [&](const Entry& entry) {
         return entry.root == root && MatchesPattern(entry.key, subkey) && MatchesPattern(entry.name, name);
     });
+}
+
+const std::wstring* NameIndex::SubkeyOf(Root root, std::wstring_view name) const
+{
+    const auto found = m_byName.find(UpCase(name));
+    if (found == m_byName.end()) {
+        return nullptr;
+    }
+    const auto index = std::find_if(found->second.begin(), found->second.end(), [&](std::size_t each) {
+        const auto& entry = m_entries[each];
+        return entry.root == root && entry.isFixed && entry.key.find(L'%') == std::wstring::npos;
+    });
+    return index != found->second.end() ? &m_entries[*index].key : nullptr;
+}
+
+bool NameIndex::HasFixed(Root root, std::wstring_view subkey, std::wstring_view name) const
+{
+    const auto& entries = In(root, subkey);
+    return std::any_of(entries.begin(), entries.end(), [&](std::size_t index) {
+        return m_entries[index].isFixed && EqualNoCase(m_entries[index].name, name);
+    });
+}
+
+const NameIndex::Entries& NameIndex::In(Root root, std::wstring_view subkey) const
+{
+    static const Entries kNone;
+    const auto found = m_byKey.find(KeyOf(root, subkey));
+    return found != m_byKey.end() ? found->second : kNone;
 }
 
 std::string NameIndex::KeysOf(std::wstring_view name) const
@@ -152,15 +189,27 @@ std::string NameIndex::NearestName(Root root, std::wstring_view subkey, std::wst
 {
     Candidates here(name);
     Candidates other(name);
+    const auto tryHere = [&](const Entry& entry) {
+        if (const bool stored = isStored(entry.name); elsewhere || !stored) {
+            here.Try(entry.name, Utf8ForMessage(entry.name) + (stored ? ", which is there too" : ""), stored);
+        }
+    };
+    const auto isName = [](const Entry& entry) { return entry.isFixed && entry.name.find(L'%') == std::wstring::npos; };
+    if (!elsewhere) {
+        for (const auto index : In(root, subkey)) {
+            if (isName(m_entries[index])) {
+                tryHere(m_entries[index]);
+            }
+        }
+        return std::move(here).Nearest();
+    }
     for (const auto& entry : m_entries) {
-        if (entry.name.find(L'%') != std::wstring::npos) {
+        if (!isName(entry)) {
             continue;
         }
         if (entry.root == root && MatchesPattern(entry.key, subkey)) {
-            if (const bool stored = isStored(entry.name); elsewhere || !stored) {
-                here.Try(entry.name, Utf8ForMessage(entry.name), stored);
-            }
-        } else if (elsewhere) {
+            tryHere(entry);
+        } else {
             other.Try(entry.name, KeyText(entry.root, entry.key) + '\\' + Utf8ForMessage(entry.name), false);
         }
     }
@@ -168,12 +217,23 @@ std::string NameIndex::NearestName(Root root, std::wstring_view subkey, std::wst
     return !nearest.empty() ? nearest : std::move(other).Nearest();
 }
 
-std::string NameIndex::NearestKey(Root root, std::wstring_view subkey) const
+std::string NameIndex::NearestKey(Root root, std::wstring_view subkey,
+                                  const std::function<bool(const std::wstring& subkey)>& isStored, bool elsewhere) const
 {
     Candidates candidates(subkey);
+    // A key above others is meant as well as they are.
+    const auto depth = std::count(subkey.begin(), subkey.end(), L'\\');
+    NameSet tried;
     for (const auto& entry : m_entries) {
-        if (entry.root == root && !entry.key.empty()) {
-            candidates.Try(entry.key, Utf8ForMessage(entry.key), false);
+        auto end = entry.key.find(L'\\');
+        for (auto i = depth; i > 0 && end != std::wstring::npos; --i) {
+            end = entry.key.find(L'\\', end + 1);
+        }
+        const auto key = entry.key.substr(0, end);
+        if (entry.root == root && !key.empty() && key.find(L'%') == std::wstring::npos && tried.insert(key).second) {
+            if (const bool stored = isStored(key); elsewhere || !stored) {
+                candidates.Try(key, Utf8ForMessage(key) + (stored ? ", which is there too" : ""), stored);
+            }
         }
     }
     return std::move(candidates).Nearest();

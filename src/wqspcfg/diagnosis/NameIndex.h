@@ -35,14 +35,20 @@ class NameIndex
 
     // Whether the value is read from this key, given by its root and the subkey below it.
     bool Has(Root root, std::wstring_view subkey, std::wstring_view name) const;
+    // The same by a row for it, not with the whole key.
+    bool HasFixed(Root root, std::wstring_view subkey, std::wstring_view name) const;
+    // A key of the root, below it, that the value is read from by a row for it; null where there is none.
+    const std::wstring* SubkeyOf(Root root, std::wstring_view name) const;
     // The keys that the value is read from, as a person calls them: "Comm". Empty where there is none.
     std::string KeysOf(std::wstring_view name) const;
     // What was probably meant by a name: "BaudRate", or "Comm\BaudRate" where it is read from another key. Empty where
-    // no name is near. One that is stored too is less likely, and does not count without `elsewhere`, as other keys do
-    // not.
+    // no name is near. One that is stored too is less likely ("BaudRate, which is there too"), and does not count
+    // without `elsewhere`, as other keys do not.
     std::string NearestName(Root root, std::wstring_view subkey, std::wstring_view name,
                             const std::function<bool(const std::wstring& name)>& isStored, bool elsewhere) const;
-    std::string NearestKey(Root root, std::wstring_view subkey) const;
+    // The same for a key.
+    std::string NearestKey(Root root, std::wstring_view subkey,
+                           const std::function<bool(const std::wstring& subkey)>& isStored, bool elsewhere) const;
     // The classes that read the value or something of the key, but for `entry` and its bases; of the same device class
     // first.
     Model ModelOf(Root root, std::wstring_view subkey, std::wstring_view name, const ClassEntry& entry) const;
@@ -55,13 +61,17 @@ class NameIndex
         std::wstring key;
         std::wstring name;
         const Table* table;
+        bool isFixed; // by a row for it, not with the whole key
     };
+    using Entries = std::vector<std::size_t>;
 
+    const Entries& In(Root root, std::wstring_view subkey) const;
     void Add(const DescribedSetting& setting, const Table& table);
     Model Describe(std::set<const Table*> tables, const ClassEntry& entry) const;
 
     std::vector<Entry> m_entries;
-    std::unordered_map<std::wstring, std::vector<std::size_t>> m_byName; // in capitals
+    std::unordered_map<std::wstring, Entries> m_byName; // in capitals
+    std::unordered_map<std::wstring, Entries> m_byKey;  // root and subkey in capitals
 };
 
 } // namespace wqspcfg::diagnosis

@@ -43,6 +43,11 @@ class Places::Lines final : public RegFileVisitor
         m_view.Add(hive, path);
         m_key = KeyOf(hive, path);
         m_lines.try_emplace(m_key, m_parser.Line());
+        for (auto end = m_key.rfind(L'\\'); end != std::wstring::npos && end > 0; end = m_key.rfind(L'\\', end - 1)) {
+            if (!m_above.try_emplace(m_key.substr(0, end), m_parser.Line()).second) {
+                break;
+            }
+        }
         return true;
     }
     bool DeleteKey(Hive, std::wstring_view, Error&) override { return true; }
@@ -61,8 +66,11 @@ class Places::Lines final : public RegFileVisitor
         if (name != nullptr) {
             place = ValueOf(place, *name);
         }
-        const auto found = m_lines.find(place);
-        return found != m_lines.end() ? found->second : 0;
+        if (const auto found = m_lines.find(place); found != m_lines.end()) {
+            return found->second;
+        }
+        const auto below = name == nullptr ? m_above.find(place) : m_above.end();
+        return below != m_above.end() ? below->second : 0;
     }
 
   private:
@@ -77,6 +85,7 @@ class Places::Lines final : public RegFileVisitor
     View32 m_view;
     std::wstring m_key;
     std::unordered_map<std::wstring, std::size_t> m_lines;
+    std::unordered_map<std::wstring, std::size_t> m_above; // keys by the first one below them
 };
 
 Places::Places(StoreSource source) : m_source(std::move(source)) {}

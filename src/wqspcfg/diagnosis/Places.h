@@ -25,8 +25,8 @@ class Places
     Places& operator=(const Places&) = delete;
 
     const std::string& File() const noexcept { return m_source.file; }
-    // "FILE:LINE" of a value, or of a key where `name` is null; the path is relative to the hive that its first
-    // component names. Empty where there is none.
+    // "FILE:LINE" of a value, or of a key where `name` is null: where no line names the key, that of the first key
+    // below it. The path is relative to the hive that its first component names. Empty where there is none.
     std::string Of(std::wstring_view path, const std::wstring* name);
 
   private:

@@ -493,7 +493,7 @@ class Reporter
         bool has = false;
         for (const auto& group : section.groups) {
             for (const auto& row : group.rows) {
-                if (row.setting->Setting().refersTo == Reference::SerialPort && row.setting->value.number != 0) {
+                if (row.setting->refersTo == Reference::SerialPort && row.setting->value.number != 0) {
                     m_page << (has ? ", "_html : ""_html) << "<a"_html << Attribute{"href"_html, '#' + row.id}
                            << ">"_html << std::to_string(row.setting->value.number) << "</a>"_html;
                     if (row.setting->source != Source::Key) {

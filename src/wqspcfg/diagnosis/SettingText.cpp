@@ -1,6 +1,8 @@
 #include "wqspcfg/diagnosis/SettingText.h"
 
+#include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/platform/text/Utf.h"
 
@@ -120,11 +122,31 @@ std::string StoredText(ValueType type, std::span<const std::byte> data)
            (text.size() > kLongestShown ? "..." : "");
 }
 
+bool IsRightType(const DescribedSetting& setting, const AskedKey& key)
+{
+    if (key.type != StoredType(setting)) {
+        return false;
+    }
+    DWORD number = 0;
+    return key.type != ValueType::Dword || ToValue(ValueView{key.type, key.data}, number);
+}
+
+TypeFault TypeFaultOf(const DescribedSetting& setting, const AskedKey& key, bool isMasked)
+{
+    if (key.type == StoredType(setting)) {
+        return {"a " + TypeName(key.type) + " of " + std::to_string(key.data.size()) +
+                    (key.data.size() == 1 ? " byte" : " bytes"),
+                "one of " + std::to_string(sizeof(DWORD)) + " bytes is read"};
+    }
+    return {isMasked ? TypeName(key.type) : StoredText(key.type, key.data),
+            "a " + TypeName(StoredType(setting)) + " is read"};
+}
+
 bool IsChanged(const ExaminedSetting& setting)
 {
     const auto& described = setting.Setting();
     const bool isIgnored = std::any_of(setting.asked.begin(), setting.asked.end(), [&](const AskedKey& key) {
-        return key.found && !described.wholeKey && key.type != StoredType(described);
+        return key.found && !described.wholeKey && !IsRightType(described, key);
     });
     return !setting.IsDefault() || isIgnored || setting.isCorrected;
 }
@@ -179,10 +201,10 @@ std::string NoteOn(const ExaminedSetting& setting, const std::function<std::stri
     std::string notes;
     const auto note = [&](const std::string& text) { notes += (notes.empty() ? "" : "; ") + text; };
     for (const auto& key : setting.asked) {
-        if (key.found && !described.wholeKey && key.type != StoredType(described)) {
+        if (key.found && !described.wholeKey && !IsRightType(described, key)) {
             const auto where = place(key);
-            note((isMasked ? TypeName(key.type) : StoredText(key.type, key.data)) +
-                 (where.empty() ? "" : " at " + where) + " ignored: a " + TypeName(StoredType(described)) + " is read");
+            const auto fault = TypeFaultOf(described, key, isMasked);
+            note(fault.is + (where.empty() ? "" : " at " + where) + " ignored: " + fault.read);
         }
     }
     const bool isStored = setting.source == Source::Key || setting.source == Source::Fallback;
@@ -223,6 +245,34 @@ Naming NamingOf(const ExaminedSetting& setting, std::wstring_view text)
 std::string FullNameOf(const ExaminedSetting& setting)
 {
     return KeyText(setting.Setting().root, setting.Setting().key) + '\\' + Utf8ForMessage(setting.name);
+}
+
+std::string NearestSetting(const Examination& examination, std::wstring_view text)
+{
+    const auto wanted = Utf8ForMessage(text);
+    const auto split = text.find_last_of(L'\\');
+    std::vector<std::string> names;
+    if (split == std::wstring_view::npos) {
+        for (const auto& setting : examination.settings) {
+            names.push_back(Utf8ForMessage(setting.name));
+        }
+        return NearestNoCase(wanted, names);
+    }
+    const auto key = text.substr(0, split);
+    const auto name = text.substr(split + 1);
+    // The same name in another key, or another key of this name, is likelier than a name that is written alike.
+    std::vector<std::string> likelier;
+    for (const auto& setting : examination.settings) {
+        const auto& described = setting.Setting();
+        const bool isWhole = described.wholeKey && setting.name == L"*";
+        names.push_back(isWhole ? KeyText(described.root, described.key) + '\\' + Utf8ForMessage(name)
+                                : FullNameOf(setting));
+        const auto last = std::wstring_view(described.key).substr(described.key.find_last_of(L'\\') + 1);
+        if (isWhole ? EqualNoCase(last, key) : EqualNoCase(setting.name, name)) {
+            likelier.push_back(names.back());
+        }
+    }
+    return NearestNoCase(wanted, likelier.empty() ? names : likelier);
 }
 
 Hive HiveOf(std::wstring_view path)

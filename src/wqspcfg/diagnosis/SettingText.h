@@ -32,6 +32,16 @@ std::string SavedText(const DescribedSetting& setting, bool isSaved);
 ValueType StoredType(const DescribedSetting& setting);
 // "REG_SZ \"4\""; the text is cut when it is long.
 std::string StoredText(ValueType type, std::span<const std::byte> data);
+// What the key holds is of the type that is read.
+bool IsRightType(const DescribedSetting& setting, const AskedKey& key);
+// What it is instead: "REG_SZ \"4\"", or "a REG_DWORD of 2 bytes" where only its length is wrong; and what is read: "a
+// REG_DWORD is read", "one of 4 bytes is read".
+struct TypeFault
+{
+    std::string is;
+    std::string read;
+};
+TypeFault TypeFaultOf(const DescribedSetting& setting, const AskedKey& key, bool isMasked);
 // What stands in place of a secret.
 inline constexpr char kMasked[] = "********";
 
@@ -60,6 +70,9 @@ enum class Naming : std::uint8_t
 Naming NamingOf(const ExaminedSetting& setting, std::wstring_view text);
 // KeyText and its name: "Comm\Port".
 std::string FullNameOf(const ExaminedSetting& setting);
+
+// The setting that was probably meant by a text that names none: "Port", or "Comm\Port" where the text has a key.
+std::string NearestSetting(const Examination& examination, std::wstring_view text);
 
 // The hive that the first component of a path names.
 Hive HiveOf(std::wstring_view path);

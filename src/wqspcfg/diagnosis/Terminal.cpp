@@ -22,6 +22,41 @@ std::vector<std::wstring> SubkeysOf(std::wstring_view path)
     return names;
 }
 
+// The keys that a class reads by their full path, below that of the service providers: they belong to other programs.
+const NameSet& KeysOfOthers()
+{
+    static const auto& keys = *[] {
+        auto* names = new NameSet; // lives as long as the process
+        const std::wstring_view root(kServiceRoot);
+        const auto add = [&](const auto& self, const auto& rows) -> void {
+            for (const auto& row : rows) {
+                const std::wstring_view key(row.key.subkey);
+                if (row.IsValue() && row.key.root == Root::Absolute && key.size() > root.size() &&
+                    EqualNoCase(key.substr(0, root.size()), root)) {
+                    names->emplace(key.substr(root.size(), key.find(L'\\', root.size()) - root.size()));
+                }
+                self(self, row.rows);
+            }
+        };
+        for (const auto* entry : AllClasses()) {
+            add(add, entry->table().rows);
+        }
+        return names;
+    }();
+    return keys;
+}
+
+// Something there tells of a service provider.
+bool HasProvider(const std::wstring& name)
+{
+    const ReadScope scope;
+    const auto key = scope->Open(kServiceRoot + name);
+    ValueView view;
+    const auto has = [&](const wchar_t* value) { return scope->Query(key, value, view) == Outcome::Found; };
+    return scope->Exists(scope->Open(kDeviceRoot + name)) || has(L"Class") || has(L"ExeDllMother") ||
+           has(L"Executable") || has(L"DLLName");
+}
+
 } // namespace
 
 std::vector<ServiceIdentity> IdentifyServices()
@@ -35,7 +70,8 @@ std::vector<ServiceIdentity> IdentifyServices()
     }
     const std::wstring_view common(kCommonKey);
     for (const auto& name : SubkeysOf(kServiceRoot)) {
-        if (!EqualNoCase(name, common.substr(0, common.size() - 1)) && !named.contains(UpCase(name))) {
+        if (!EqualNoCase(name, common.substr(0, common.size() - 1)) && !named.contains(UpCase(name)) &&
+            (!KeysOfOthers().contains(name) || HasProvider(name))) {
             services.push_back(IdentifyService(CString(name), true));
         }
     }

@@ -1,7 +1,6 @@
 #include "wqspcfg/tools/ExplainCommand.h"
 
 #include "wqspcfg/diagnosis/Examination.h"
-#include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
 #include "wqspcfg/tools/JsonText.h"
@@ -190,12 +189,9 @@ bool IsNamed(const ExaminedSetting& setting, std::wstring_view text)
 
 int FailUnknown(const diagnosis::Examination& examination, const std::string& name, const Console& console)
 {
-    std::vector<std::string> names;
-    for (const auto& setting : examination.settings) {
-        names.push_back(Utf8(setting.name));
-    }
     return console.Fail(kNegative, Utf8(examination.entry->table().className) + " has no setting \"" + name +
-                                       "\"; did you mean \"" + diagnosis::NearestNoCase(name, names) + "\"?");
+                                       "\"; did you mean \"" + diagnosis::NearestSetting(examination, Wide(name)) +
+                                       "\"?");
 }
 
 } // namespace

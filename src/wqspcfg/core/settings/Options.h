@@ -168,6 +168,16 @@ constexpr RangeOption Range(DWORD low, DWORD high)
     return {low, high};
 }
 
+struct ScaleOption
+{
+    DWORD factor;
+};
+// After it is read, the class holds this many times the stored number: another unit.
+constexpr ScaleOption HeldTimes(DWORD factor)
+{
+    return {factor};
+}
+
 struct RequiredOption
 {
     unsigned line;
@@ -230,7 +240,8 @@ enum class Hook : std::uint8_t
     Normalize,
     LogAs,
     LoadedBy,
-    SavedIf
+    SavedIf,
+    RefersIf
 };
 template <Hook Which, class F>
 struct HookOption
@@ -257,6 +268,12 @@ constexpr HookOption<Hook::LoadedBy, F> LoadedBy(F)
 // Asked by Save before it takes the member: bool(Owner&, unsigned iteration). False: the setting is not written.
 template <class F>
 constexpr HookOption<Hook::SavedIf, F> SavedIf(F)
+{
+    return {};
+}
+// Whether the value refers to what RefersTo says, as the object was loaded: bool(const Owner&).
+template <class F>
+constexpr HookOption<Hook::RefersIf, F> RefersIf(F)
 {
     return {};
 }

@@ -164,6 +164,7 @@ struct Setting
     const DWORD* perIteration = nullptr;
     DWORD low = 0;
     DWORD high = 0;
+    DWORD scale = 1; // of what the member holds to what is stored
 
     DWORD (*normalize)(CRegKeyEx& object, DWORD value, bool found, unsigned iteration) = nullptr;
     void (*normalizeText)(CRegKeyEx& object, CString& value, bool found, unsigned iteration) = nullptr;
@@ -171,6 +172,7 @@ struct Setting
     bool (*step)(CRegKeyEx& object, Loading& loading) = nullptr; // a step, or what loads the value
     bool (*condition)(CRegKeyEx& object) = nullptr;
     bool (*savedIf)(CRegKeyEx& object, unsigned iteration) = nullptr;
+    bool (*refersIf)(CRegKeyEx& object) = nullptr;
 
     // A whole key.
     void (*clear)(void* map) = nullptr;
@@ -300,6 +302,7 @@ struct Setting
         low = option.low;
         high = option.high;
     }
+    constexpr void Apply(ScaleOption option) { scale = option.factor; }
     constexpr void Apply(DefaultEntriesOption option) { entries = option.entries; }
     constexpr void Apply(RefersToOption option) { reference = option.reference; }
     template <class F>
@@ -329,6 +332,11 @@ struct Setting
     constexpr void Apply(HookOption<Hook::SavedIf, F>)
     {
         savedIf = [](CRegKeyEx& object, unsigned iteration) { return F{}(OwnerOf<F>(object), iteration); };
+    }
+    template <class F>
+    constexpr void Apply(HookOption<Hook::RefersIf, F>)
+    {
+        refersIf = [](CRegKeyEx& object) -> bool { return F{}(OwnerOf<F>(object)); };
     }
     template <class F>
     constexpr void Apply(HookOption<Hook::LogAs, F>)

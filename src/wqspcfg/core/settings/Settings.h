@@ -137,6 +137,8 @@ class WQSPCFG_API Loading
     // The line of one row with what its member holds.
     void PrintHeld(const Setting& row);
     CLog* Log() const noexcept { return m_lines.Log(); }
+    // A log or an observer is told of what is loaded.
+    bool IsTold() const noexcept { return Log() != nullptr || m_observer != nullptr; }
     // The open key of a record.
     HKEY RecordKey() const noexcept { return m_recordKey; }
     // The store could not be read, so that what is loaded are defaults.

@@ -13,7 +13,9 @@ namespace {
 // clang-format off
 constexpr Setting kSettings[] = {
     {key::Comm, L"Port", &C::m_dwPort, 1,
-     meaning::kPort, Saved, RefersTo(Reference::SerialPort)},
+     meaning::kPort, Saved, RefersTo(Reference::SerialPort), RefersIf([](const C& c) -> bool {
+         return c.m_dwBluetoothOption == 0;
+     })},
     {key::Comm, L"BaudRate",          &C::m_dwBaudRate,           9600, meaning::kBaudRate, Saved},
     {key::Comm, L"BluetoothName",     &C::m_strBluetoothName,     L"",  L"Bluetooth device name", Saved},
     {key::Comm, L"BluetoothPassWord", &C::m_strBluetoothPassWord, L"",  L"Bluetooth pairing password", Saved, Secret},
