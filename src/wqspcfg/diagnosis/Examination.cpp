@@ -301,8 +301,8 @@ class Examiner
         TakeHeld(event, out);
         Judge(out);
         const bool isReached = event != nullptr && event->object != nullptr;
-        if (setting.row->refersIf == nullptr || (!isReached && declared.isMixin) ||
-            setting.row->refersIf(isReached ? *event->object : *m_object)) {
+        if (setting.row->condition == nullptr || (!isReached && declared.isMixin) ||
+            setting.row->condition(isReached ? *event->object : *m_object)) {
             out.refersTo = setting.refersTo;
         }
     }

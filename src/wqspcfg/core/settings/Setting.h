@@ -126,6 +126,17 @@ class RowList
     Get m_get = nullptr;
 };
 
+// What is done with a map of a type that is not told.
+struct MapAccess
+{
+    void (*clear)(void* map);
+    int (*query)(void* map, const wchar_t* path);
+};
+template <class T>
+inline constexpr MapAccess kMapAccess{
+    [](void* map) { static_cast<T*>(map)->RemoveAll(); },
+    [](void* map, const wchar_t* path) { return CRegKeyEx::QueryValues(*static_cast<T*>(map), L"%s", path); }};
+
 struct Setting
 {
     Kind kind = Kind::Value;
@@ -139,6 +150,7 @@ struct Setting
     bool hasRange = false;
     std::uint32_t flags = 0;
     unsigned requiredLine = 0;
+    DWORD scale = 1; // of what the member holds to what is stored
 
     Key key{Root::Device, L""};
     std::wstring_view name; // of a literal, as is the meaning
@@ -164,19 +176,17 @@ struct Setting
     const DWORD* perIteration = nullptr;
     DWORD low = 0;
     DWORD high = 0;
-    DWORD scale = 1; // of what the member holds to what is stored
 
     DWORD (*normalize)(CRegKeyEx& object, DWORD value, bool found, unsigned iteration) = nullptr;
     void (*normalizeText)(CRegKeyEx& object, CString& value, bool found, unsigned iteration) = nullptr;
     DWORD (*logAs)(CRegKeyEx& object, DWORD value) = nullptr;
     bool (*step)(CRegKeyEx& object, Loading& loading) = nullptr; // a step, or what loads the value
+    // Whether the rows of a group are read; whether a value refers to what `reference` says.
     bool (*condition)(CRegKeyEx& object) = nullptr;
     bool (*savedIf)(CRegKeyEx& object, unsigned iteration) = nullptr;
-    bool (*refersIf)(CRegKeyEx& object) = nullptr;
 
     // A whole key.
-    void (*clear)(void* map) = nullptr;
-    int (*query)(void* map, const wchar_t* path) = nullptr;
+    const MapAccess* map = nullptr;
     std::span<const DefaultEntry> entries;
 
     // A group or a repetition: its rows, and the names or numbers of its iterations. A step: the rows that it loads,
@@ -219,10 +229,7 @@ struct Setting
         locate = [](CRegKeyEx& object, unsigned iteration) -> void* { return &F{}(OwnerOf<F>(object), iteration); };
         if constexpr (kIsMap<T>) {
             kind = Kind::WholeKey;
-            clear = [](void* map) { static_cast<T*>(map)->RemoveAll(); };
-            query = [](void* map, const wchar_t* path) {
-                return CRegKeyEx::QueryValues(*static_cast<T*>(map), L"%s", path);
-            };
+            map = &kMapAccess<T>;
         }
         (Apply(options), ...);
     }
@@ -336,7 +343,7 @@ struct Setting
     template <class F>
     constexpr void Apply(HookOption<Hook::RefersIf, F>)
     {
-        refersIf = [](CRegKeyEx& object) -> bool { return F{}(OwnerOf<F>(object)); };
+        condition = [](CRegKeyEx& object) -> bool { return F{}(OwnerOf<F>(object)); };
     }
     template <class F>
     constexpr void Apply(HookOption<Hook::LogAs, F>)
@@ -373,6 +380,7 @@ constexpr const Setting& RowList::operator[](std::size_t index) const
 namespace detail {
 
 // Number by number and address by address: the compiler sets each in code, and no image of the row remains.
+static_assert(sizeof(void*) != 8 || sizeof(Setting) == 296, "a field that is added to a row is added to Copy too");
 [[gnu::always_inline]] inline void Copy(const Setting& from, Setting& to)
 {
     to.kind = from.kind;
@@ -386,6 +394,7 @@ namespace detail {
     to.hasRange = from.hasRange;
     to.flags = from.flags;
     to.requiredLine = from.requiredLine;
+    to.scale = from.scale;
     to.key.root = from.key.root;
     to.key.subkey = from.key.subkey;
     to.name = {from.name.data(), from.name.size()};
@@ -412,8 +421,7 @@ namespace detail {
     to.step = from.step;
     to.condition = from.condition;
     to.savedIf = from.savedIf;
-    to.clear = from.clear;
-    to.query = from.query;
+    to.map = from.map;
     to.entries = {from.entries.data(), from.entries.size()};
     to.rows = RowList(from.rows.Source());
     to.iterationNames = from.iterationNames;
@@ -437,12 +445,15 @@ std::span<const Setting> Made(std::index_sequence<Index...>)
     return {copies.Rows(), sizeof...(Index)};
 }
 
+template <const Setting& Declared>
+inline constexpr Setting kOne[] = {Declared};
+
 // At compile time the table as it is declared.
 template <const auto& Declared>
 constexpr std::span<const Setting> RowsOf()
 {
     if constexpr (std::is_same_v<std::remove_cvref_t<decltype(Declared)>, Setting>) {
-        return {&Declared, 1};
+        return RowsOf<kOne<Declared>>();
     } else if (std::is_constant_evaluated() || std::empty(Declared)) {
         return Declared;
     } else {
@@ -455,6 +466,13 @@ constexpr std::span<const Setting> RowsOf()
 // The rows of the table `Declared`, or the one row.
 template <const auto& Declared>
 inline constexpr RowList Rows{&detail::RowsOf<Declared>};
+
+// The one row, which is what Rows<Declared> has.
+template <const Setting& Declared>
+const Setting& Row()
+{
+    return Rows<Declared>[0];
+}
 
 // A member map, for a row that takes a whole key; its name is L"%s".
 template <auto Member>

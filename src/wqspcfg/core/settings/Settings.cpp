@@ -507,7 +507,7 @@ void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
     Texts unbound;
     void* map = row.bound ? row.locate(m_object, IndexOf(iteration)) : &unbound;
     if (row.bound && !row.Has(Flags::KeepWhenMissing)) {
-        row.clear(map);
+        row.map->clear(map);
     }
     if (row.Has(Flags::SubkeyNames)) {
         CStringArray arNames;
@@ -517,7 +517,7 @@ void Loading::ReadWholeKey(const Setting& row, const Iteration* iteration)
         }
     }
     const bool found =
-        row.bound ? row.query(map, path.c_str()) != 0 : CRegKeyEx::QueryValues(unbound, L"%s", path) != 0;
+        row.bound ? row.map->query(map, path.c_str()) != 0 : CRegKeyEx::QueryValues(unbound, L"%s", path) != 0;
     if (!found) {
         m_complete = m_complete && !row.Has(Flags::Needed);
         for (const auto& entry : row.entries) {
