@@ -406,12 +406,14 @@ namespace detail {
     to.perIteration = from.perIteration;
     to.low = from.low;
     to.high = from.high;
+    to.scale = from.scale;
     to.normalize = from.normalize;
     to.normalizeText = from.normalizeText;
     to.logAs = from.logAs;
     to.step = from.step;
     to.condition = from.condition;
     to.savedIf = from.savedIf;
+    to.refersIf = from.refersIf;
     to.clear = from.clear;
     to.query = from.query;
     to.entries = {from.entries.data(), from.entries.size()};
