@@ -394,7 +394,6 @@ static_assert(sizeof(void*) != 8 || sizeof(Setting) == 296, "a field that is add
     to.hasRange = from.hasRange;
     to.flags = from.flags;
     to.requiredLine = from.requiredLine;
-    to.scale = from.scale;
     to.key.root = from.key.root;
     to.key.subkey = from.key.subkey;
     to.name = {from.name.data(), from.name.size()};
@@ -415,6 +414,7 @@ static_assert(sizeof(void*) != 8 || sizeof(Setting) == 296, "a field that is add
     to.perIteration = from.perIteration;
     to.low = from.low;
     to.high = from.high;
+    to.scale = from.scale;
     to.normalize = from.normalize;
     to.normalizeText = from.normalizeText;
     to.logAs = from.logAs;

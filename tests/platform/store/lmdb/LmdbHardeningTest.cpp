@@ -229,7 +229,8 @@ TEST_F(LmdbHardeningTest, NoProgramThatIsStartedInheritsAFileOfTheStore)
     WriteFile(temporary.File("a.reg"), "REGEDIT4\n[HKEY_USERS\\a]\n");
     Watcher watcher(inherited);
     Error error;
-    EXPECT_TRUE(ReadRegFile(temporary.File("a.reg"), 0, watcher, error) && watcher.keys == 1);
+    bool isTakenAsUtf8 = false;
+    EXPECT_TRUE(ReadRegFile(temporary.File("a.reg"), 0, watcher, isTakenAsUtf8, error) && watcher.keys == 1);
     EXPECT_EQ(WriteStore(copy, kLeastMapSize,
                          [&](MDB_txn*, MDB_dbi) {
                              EXPECT_EQ(inherited(), "");
