@@ -275,8 +275,9 @@ def shared_library(programs):
         image = programs / file
         relocations = subprocess.run(["readelf", "-rW", image], capture_output=True, text=True, check=True).stdout
         dirty = subprocess.run([programs / program, file], capture_output=True, text=True, check=True).stdout
-        rows.append([form, f"{relocations.count('_RELATIVE'):,}", f"{int(dirty)} KiB"])
-    return table(["form", "relative relocations", "private memory after a `Load`"], rows)
+        pages, tables = map(int, dirty.split())
+        rows.append([form, f"{relocations.count('_RELATIVE'):,}", f"{pages} KiB", f"{tables / 1024:.0f} KiB"])
+    return table(["form", "relative relocations", "changed pages after a `Load`", "tables in memory"], rows)
 
 
 def output(*command):

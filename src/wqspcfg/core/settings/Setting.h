@@ -430,19 +430,18 @@ static_assert(sizeof(void*) != 8 || sizeof(Setting) == 296, "a field that is add
     to.part = from.part;
 }
 
+// Memory for rows, for good. Together, so that the tables which a process uses fill few of its pages.
+WQSPCFG_API Setting* NewRows(std::size_t count);
+
 template <const auto& Declared, std::size_t... Index>
 std::span<const Setting> Made(std::index_sequence<Index...>)
 {
-    // Bytes, not rows: those would be constructed first, and the compiler would keep an image of what says nothing.
-    struct Copies
-    {
-        Copies() { (Copy(Declared[Index], Rows()[Index]), ...); }
-        Setting* Rows() { return reinterpret_cast<Setting*>(bytes.data()); }
-        const Setting* Rows() const { return reinterpret_cast<const Setting*>(bytes.data()); }
-        alignas(Setting) std::array<std::byte, sizeof...(Index) * sizeof(Setting)> bytes;
-    };
-    static const Copies copies;
-    return {copies.Rows(), sizeof...(Index)};
+    static const std::span<const Setting> copies = [] {
+        auto* const rows = NewRows(sizeof...(Index));
+        (Copy(Declared[Index], rows[Index]), ...);
+        return std::span<const Setting>(rows, sizeof...(Index));
+    }();
+    return copies;
 }
 
 template <const Setting& Declared>

@@ -8,6 +8,7 @@
 #include "wqspcfg/platform/text/Utf.h"
 
 #include <cstdint>
+#include <new>
 #include <utility>
 
 namespace wqspcfg {
@@ -188,6 +189,15 @@ CString HeldText(const Setting& row, CRegKeyEx& object, unsigned iteration)
 {
     return HeldOf<CString>(row, object, iteration);
 }
+
+namespace detail {
+
+Setting* NewRows(std::size_t count)
+{
+    return static_cast<Setting*>(::operator new(count * sizeof(Setting)));
+}
+
+} // namespace detail
 
 void Construct(CRegKeyEx& object, RowList rows)
 {
