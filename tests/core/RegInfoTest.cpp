@@ -43,6 +43,15 @@ TEST_F(RegInfoTest, ALogicalNameIsResolvedAtOnce)
     EXPECT_EQ(config.GetSPLifeCtrl(), L"PhysAFX_STDAFX_H__2A758A77_04CD_48D4_A4AE_CA78D28CD13F__INCLUDED_");
 }
 
+TEST_F(RegInfoTest, ALogicalNameThatIsGivenIsAskedEvenWhenItIsEmpty)
+{
+    Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES", L"Class", L"PIN");
+    Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES", L"Type", L"Pad");
+    const CRegInfo config(L"Svc", false);
+    EXPECT_EQ(config.GetClassNameW(L""), L"PIN");
+    EXPECT_EQ(config.GetType(L""), L"Pad");
+}
+
 TEST_F(RegInfoTest, APhysicalNameHasNoLogicalOneAndTakesItsClassFromTheServiceKey)
 {
     Set(Service(), L"Class", L"PTR");

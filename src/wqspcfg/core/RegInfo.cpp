@@ -16,6 +16,8 @@ using wqspcfg::EqualNoCase;
 using wqspcfg::kDeviceRoot;
 using wqspcfg::kLogicalRoot;
 using wqspcfg::kServiceRoot;
+using wqspcfg::Row;
+using wqspcfg::Rows;
 namespace shared = wqspcfg::shared;
 
 namespace {
@@ -88,8 +90,7 @@ CString CRegInfo::m_strCapVendorDescKeyValue;
 
 const wqspcfg::Table& CRegInfo::Settings() noexcept
 {
-    static const wqspcfg::Table table{L"CRegInfo",        nullptr, L"", wqspcfg::Rows<shared::kSettings>, {},
-                                      shared::kOperations};
+    static const wqspcfg::Table table{L"CRegInfo", nullptr, L"", Rows<shared::kSettings>, {}, shared::kOperations};
     return table;
 }
 
@@ -144,7 +145,7 @@ bool CRegInfo::Load(CLog* pLog)
     wqspcfg::Loading loading(*this, pLog);
     m_lpsPolicyGroup->DevBusy = 1;
     const auto& table = Settings();
-    loading.Read(table, wqspcfg::Rows<shared::kPolicy>);
+    loading.Read(table, Rows<shared::kPolicy>);
 
     GetSpSettingAppID();
     GetProductVersion();
@@ -154,21 +155,21 @@ bool CRegInfo::Load(CLog* pLog)
     GetVersion();
     GetCmdMap();
 
-    loading.Read(table, wqspcfg::Row<shared::kFirstErrorInterval>());
-    m_dwFirstErrorIntervalTime *= wqspcfg::Row<shared::kFirstErrorInterval>().scale;
+    loading.Read(table, Row<shared::kFirstErrorInterval>());
+    m_dwFirstErrorIntervalTime *= Row<shared::kFirstErrorInterval>().scale;
 
-    loading.Read(table, wqspcfg::Row<shared::kServer>());
+    loading.Read(table, Row<shared::kServer>());
     m_arOtherSideServerName.RemoveAll();
     CString strServers;
-    if (loading.Query(wqspcfg::Row<shared::kOtherSideServerName>(), strServers)) {
+    if (loading.Query(Row<shared::kOtherSideServerName>(), strServers)) {
         CStringUtility::SplitString(m_arOtherSideServerName, strServers, L';');
     }
-    loading.Read(table, wqspcfg::Row<shared::kExtraSepCharacter>());
+    loading.Read(table, Row<shared::kExtraSepCharacter>());
 
     if (loading.IsTold()) {
         ReportShared(loading);
     }
-    loading.Read(table, wqspcfg::Row<shared::kIsDeleteSensetiveInfo>());
+    loading.Read(table, Row<shared::kIsDeleteSensetiveInfo>());
     if (loading.HasFailed()) {
         m_lpsPolicyGroup->DevBusy = kNotLoaded; // the next Load reads what this one could not
     }
@@ -179,7 +180,7 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
 {
     const auto& table = Settings();
 
-    loading.Read(table, wqspcfg::Rows<shared::kSetup>);
+    loading.Read(table, Rows<shared::kSetup>);
     const auto version = [&](const wqspcfg::Setting& row, const wqspcfg::Setting& rowOfBuild) {
         CString strVersion;
         CString strBuild;
@@ -187,15 +188,15 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
         loading.Query(rowOfBuild, strBuild);
         loading.Print(row, strVersion + L" " + strBuild);
     };
-    version(wqspcfg::Row<shared::kNewVersion>(), wqspcfg::Row<shared::kNewBuild>());
-    version(wqspcfg::Row<shared::kOldVersion>(), wqspcfg::Row<shared::kOldBuild>());
-    loading.Read(table, wqspcfg::Rows<shared::kSetupRest>);
+    version(Row<shared::kNewVersion>(), Row<shared::kNewBuild>());
+    version(Row<shared::kOldVersion>(), Row<shared::kOldBuild>());
+    loading.Read(table, Rows<shared::kSetupRest>);
 
     for (const auto& place : shared::kPolicyLines) {
-        const auto& row = place.In(wqspcfg::Rows<shared::kPolicy>);
+        const auto& row = place.In(Rows<shared::kPolicy>);
         if (&row == &shared::DevError()) {
-            loading.Print(wqspcfg::Row<shared::kDevErrorLow>(), LOBYTE(m_lpsPolicyGroup->DevError));
-            loading.Print(wqspcfg::Row<shared::kDevErrorHigh>(), HIBYTE(m_lpsPolicyGroup->DevError));
+            loading.Print(Row<shared::kDevErrorLow>(), LOBYTE(m_lpsPolicyGroup->DevError));
+            loading.Print(Row<shared::kDevErrorHigh>(), HIBYTE(m_lpsPolicyGroup->DevError));
         } else {
             loading.PrintHeld(row);
         }
@@ -205,28 +206,27 @@ void CRegInfo::ReportShared(wqspcfg::Loading& loading) const
         loading.PrintHeld(shared::MediaDetectLine());
     }
 
-    loading.Print(wqspcfg::Row<shared::kFirstErrorInterval>(),
-                  m_dwFirstErrorIntervalTime / wqspcfg::Row<shared::kFirstErrorInterval>().scale);
+    loading.Print(Row<shared::kFirstErrorInterval>(),
+                  m_dwFirstErrorIntervalTime / Row<shared::kFirstErrorInterval>().scale);
 
-    loading.Read(table, wqspcfg::Row<shared::kCheckLevel>());
-    loading.Read(table, wqspcfg::Row<shared::kCheckRules>());
+    loading.Read(table, Row<shared::kCheckLevel>());
+    loading.Read(table, Row<shared::kCheckRules>());
 
-    loading.PrintHeld(wqspcfg::Row<shared::kServer>());
-    loading.Print(wqspcfg::Row<shared::kOtherSideServerName>(),
-                  CStringUtility::CombineString(m_arOtherSideServerName, L';'));
-    loading.Read(table, wqspcfg::Row<shared::kOpenCompleteTimeout>());
+    loading.PrintHeld(Row<shared::kServer>());
+    loading.Print(Row<shared::kOtherSideServerName>(), CStringUtility::CombineString(m_arOtherSideServerName, L';'));
+    loading.Read(table, Row<shared::kOpenCompleteTimeout>());
     CString strBatFile;
-    if (loading.Query(wqspcfg::Row<shared::kExtBatFileName>(), strBatFile) && !strBatFile.IsEmpty()) {
-        loading.Print(wqspcfg::Row<shared::kExtBatFileName>(), strBatFile);
+    if (loading.Query(Row<shared::kExtBatFileName>(), strBatFile) && !strBatFile.IsEmpty()) {
+        loading.Print(Row<shared::kExtBatFileName>(), strBatFile);
     }
-    loading.Read(table, wqspcfg::Row<shared::kIdleNormal>());
-    loading.PrintHeld(wqspcfg::Row<shared::kExtraSepCharacter>());
+    loading.Read(table, Row<shared::kIdleNormal>());
+    loading.PrintHeld(Row<shared::kExtraSepCharacter>());
 }
 
 void CRegInfo::Save()
 {
     wqspcfg::Saving saving(*this);
-    saving.Write(wqspcfg::Row<shared::kIsDeleteSensetiveInfo>());
+    saving.Write(Row<shared::kIsDeleteSensetiveInfo>());
 }
 
 bool CRegInfo::Show(CDWordArray&, HWND)
@@ -249,7 +249,7 @@ CString CRegInfo::GetPhysicalName(LPCWSTR lpszLogicalName) const
     }
     if (m_strPhysicalName.IsEmpty()) {
         // A name that is still not known is not written: other threads may be reading it.
-        if (const CString strName = TextOf(*this, wqspcfg::Row<shared::kProvider>()); !strName.IsEmpty()) {
+        if (const CString strName = TextOf(*this, Row<shared::kProvider>()); !strName.IsEmpty()) {
             const std::lock_guard lock(CacheMutex());
             m_strPhysicalName = strName;
         }
@@ -261,24 +261,24 @@ CString CRegInfo::GetClassNameW(LPCWSTR lpszLogicalName) const
 {
     CString strClass;
     if (lpszLogicalName != nullptr) {
-        QueryValue(strClass, wqspcfg::Row<shared::kClass>().name, L"%s%s", kLogicalRoot, lpszLogicalName);
+        QueryValue(strClass, Row<shared::kClass>().name, L"%s%s", kLogicalRoot, lpszLogicalName);
         return strClass;
     }
     if (!m_strLogicalName.IsEmpty()) {
-        return TextOf(*this, wqspcfg::Row<shared::kClass>());
+        return TextOf(*this, Row<shared::kClass>());
     }
     if (m_strPhysicalName.IsEmpty()) {
         GetPhysicalName();
     }
-    return TextOf(*this, wqspcfg::Row<shared::kClassOfProvider>());
+    return TextOf(*this, Row<shared::kClassOfProvider>());
 }
 
 CString CRegInfo::GetType(LPCWSTR lpszLogicalName) const
 {
     CString strType;
-    const CString strLogicalName = lpszLogicalName != nullptr ? CString(lpszLogicalName) : m_strLogicalName;
-    if (!strLogicalName.IsEmpty()) {
-        QueryValue(strType, wqspcfg::Row<shared::kType>().name, L"%s%s", kLogicalRoot, strLogicalName);
+    if (lpszLogicalName != nullptr || !m_strLogicalName.IsEmpty()) {
+        QueryValue(strType, Row<shared::kType>().name, L"%s%s", kLogicalRoot,
+                   lpszLogicalName != nullptr ? CString(lpszLogicalName) : m_strLogicalName);
     }
     return strType;
 }
@@ -290,8 +290,8 @@ CString CRegInfo::GetDeviceClassName(LPCWSTR lpszLogicalName, int bWithExtension
         return {};
     }
     CString strModule;
-    if (!QueryValue(strModule, wqspcfg::FormatString(wqspcfg::Row<shared::kClassModule>().name.data(), strClass),
-                    L"%s%s", kServiceRoot, m_strPhysicalName)) {
+    if (!QueryValue(strModule, wqspcfg::FormatString(Row<shared::kClassModule>().name.data(), strClass), L"%s%s",
+                    kServiceRoot, m_strPhysicalName)) {
         return CString(wqspcfg::FormatString(bWithExtension ? L"WQSp%s.dll" : L"WQSp%s", strClass));
     }
     strModule = strModule.Mid(strModule.ReverseFind(L'\\') + 1);
@@ -308,7 +308,7 @@ CString CRegInfo::GetDllPathName() const
 {
     return Cached(m_strDllPathName, CString(), [this] {
         CString strPath;
-        if (!wqspcfg::ReadSetting(*this, wqspcfg::Row<shared::kDllName>(), strPath)) {
+        if (!wqspcfg::ReadSetting(*this, Row<shared::kDllName>(), strPath)) {
             return strPath;
         }
         if (strPath.Find(L'\\') < 0) {
@@ -328,7 +328,7 @@ CString CRegInfo::GetDllDir(int bTrailingBackslash) const
 CString CRegInfo::GetExePathName(int bDefault) const
 {
     CString strPath;
-    if (wqspcfg::ReadSetting(*this, wqspcfg::Row<shared::kExecutable>(), strPath)) {
+    if (wqspcfg::ReadSetting(*this, Row<shared::kExecutable>(), strPath)) {
         if (strPath.Find(L'\\') < 0) {
             strPath = GetDllDir(1) + strPath;
         }
@@ -362,7 +362,7 @@ CString CRegInfo::GetExeDllMother(int bUseExeTitle, int* pbIsExe) const
     }
     int bIsExe = 1;
     CString strMother;
-    if (wqspcfg::ReadSetting(*this, wqspcfg::Row<shared::kExeDllMother>(), strMother) && !strMother.IsEmpty()) {
+    if (wqspcfg::ReadSetting(*this, Row<shared::kExeDllMother>(), strMother) && !strMother.IsEmpty()) {
         const int nDot = strMother.ReverseFind(L'.');
         if (nDot >= 0) {
             bIsExe = strMother.Mid(nDot).CompareNoCase(L".dll") == 0 ? 0 : 1;
@@ -379,18 +379,18 @@ CString CRegInfo::GetExeDllMother(int bUseExeTitle, int* pbIsExe) const
 
 CString CRegInfo::GetVersion() const
 {
-    return Cached(m_strVersion, CString(), [this] { return TextOf(*this, wqspcfg::Row<shared::kVersion>()); });
+    return Cached(m_strVersion, CString(), [this] { return TextOf(*this, Row<shared::kVersion>()); });
 }
 
 CString CRegInfo::GetProductVersion() const
 {
     return Cached(m_strProductVersion, CString(), [this] {
-        CString strVersion = TextOf(*this, wqspcfg::Row<shared::kNewVersion>());
-        const CString strBuild = TextOf(*this, wqspcfg::Row<shared::kNewBuild>());
+        CString strVersion = TextOf(*this, Row<shared::kNewVersion>());
+        const CString strBuild = TextOf(*this, Row<shared::kNewBuild>());
         if (!strBuild.IsEmpty()) {
             strVersion += L" " + strBuild;
         }
-        const CString strPatch = TextOf(*this, wqspcfg::Row<shared::kPatchVersion>());
+        const CString strPatch = TextOf(*this, Row<shared::kPatchVersion>());
         if (!strPatch.IsEmpty()) {
             strVersion += L" Patch" + strPatch;
         }
@@ -401,14 +401,14 @@ CString CRegInfo::GetProductVersion() const
 CString CRegInfo::GetSpSettingAppID() const
 {
     CString strAppID;
-    const bool bFound = wqspcfg::ReadSetting(*this, wqspcfg::Row<shared::kAppID>(), strAppID);
+    const bool bFound = wqspcfg::ReadSetting(*this, Row<shared::kAppID>(), strAppID);
     const std::lock_guard lock(CacheMutex());
     if (bFound) {
         m_strSpSettingAppID = strAppID;
     }
     m_strSpSettingAppID.Trim();
     if (m_strSpSettingAppID.IsEmpty()) {
-        m_strSpSettingAppID = wqspcfg::Row<shared::kAppID>().defaultValue.text;
+        m_strSpSettingAppID = Row<shared::kAppID>().defaultValue.text;
     }
     return m_strSpSettingAppID;
 }
@@ -424,7 +424,7 @@ DWORD CRegInfo::GetOnlyOpenReSetTimeout() const
 {
     return Cached(m_dwOnlyOpenReSetTimeout, kNotRead, [this] {
         DWORD dwOnlyOpen = 0;
-        wqspcfg::ReadSetting(*this, wqspcfg::Row<shared::kOnlyOpenAppend>(), dwOnlyOpen);
+        wqspcfg::ReadSetting(*this, Row<shared::kOnlyOpenAppend>(), dwOnlyOpen);
         return dwOnlyOpen;
     });
 }
@@ -441,14 +441,14 @@ DWORD CRegInfo::GetReSetTimeout(const CString& strCommand, UINT nIndex) const
     const CString strName(bIndexed ? wqspcfg::FormatString(L"%s%d", strCommand, nIndex) : strCommand.Std());
     DWORD dwTimeout = 0;
     QueryValue(dwTimeout, strName, kDeviceKeyFormat, kDeviceRoot, GetExeDllMother(1, nullptr),
-               wqspcfg::Row<shared::kReSetTimeout>().key.subkey);
+               Row<shared::kReSetTimeout>().key.subkey);
     return dwTimeout;
 }
 
 DWORD CRegInfo::GetIdleTimeInterval(LPCWSTR lpszName) const
 {
     wqspcfg::ReadScope scope;
-    const auto& normal = wqspcfg::Row<shared::kIdleNormal>();
+    const auto& normal = Row<shared::kIdleNormal>();
     const CString strName(lpszName != nullptr ? CString(lpszName) : CString(normal.name));
     DWORD dwInterval = EqualNoCase(strName.View(), normal.name) ? normal.defaultValue.number : 0;
     QueryValue(dwInterval, strName, kDeviceKeyFormat, kDeviceRoot, GetExeDllMother(1, nullptr), normal.key.subkey);
@@ -459,13 +459,13 @@ DWORD CRegInfo::GetCheckErrorRuler(const CString& strRequest, const CString& str
 {
     wqspcfg::ReadScope scope;
     DWORD dwLevel = 0;
-    wqspcfg::ReadSetting(*this, wqspcfg::Row<shared::kCheckLevel>(), dwLevel);
+    wqspcfg::ReadSetting(*this, Row<shared::kCheckLevel>(), dwLevel);
     if (dwLevel <= 1) {
         return dwLevel;
     }
     CString strRules;
     QueryValue(strRules, strRequest, kDeviceKeyFormat, kDeviceRoot, GetExeDllMother(1, nullptr),
-               wqspcfg::Row<shared::kCheckRules>().key.subkey);
+               Row<shared::kCheckRules>().key.subkey);
     CStringArray arItems;
     CStringUtility::SplitString(arItems, strRules, L';');
     for (const auto& strItem : arItems) {
@@ -480,7 +480,7 @@ DWORD CRegInfo::GetCheckErrorRuler(const CString& strRequest, const CString& str
 void CRegInfo::GetCmdMap()
 {
     wqspcfg::Loading loading(*this, nullptr);
-    loading.Read(Settings(), wqspcfg::Rows<shared::kCommandMaps>);
+    loading.Read(Settings(), Rows<shared::kCommandMaps>);
 }
 
 DWORD CRegInfo::GetResetLoadCfgPolicy() const
@@ -508,20 +508,18 @@ int CRegInfo::FindOtherSideServerName(const CString& strServerName) const
 
 CString CRegInfo::GetErrorCodeDescKey() const
 {
-    return Cached(m_strErrorCodeDescKey, CString(),
-                  [this] { return TextOf(*this, wqspcfg::Row<shared::kErrorCodeDescKey>()); });
+    return Cached(m_strErrorCodeDescKey, CString(), [this] { return TextOf(*this, Row<shared::kErrorCodeDescKey>()); });
 }
 
 CString CRegInfo::GetCapVendorDescKey() const
 {
-    return Cached(m_strCapVendorDescKey, CString(),
-                  [this] { return TextOf(*this, wqspcfg::Row<shared::kCapVendorDescKey>()); });
+    return Cached(m_strCapVendorDescKey, CString(), [this] { return TextOf(*this, Row<shared::kCapVendorDescKey>()); });
 }
 
 CString CRegInfo::GetCapVendorDescKeyValue() const
 {
     return Cached(m_strCapVendorDescKeyValue, CString(),
-                  [this] { return TextOf(*this, wqspcfg::Row<shared::kCapVendorDescKeyValue>()); });
+                  [this] { return TextOf(*this, Row<shared::kCapVendorDescKeyValue>()); });
 }
 
 WQSPCFG_CATALOGUE_ENTRY(CRegInfo)
