@@ -8,6 +8,7 @@
 #include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
 #include "wqspcfg/models/ptr/SpPTRPrdFPCNormalRegInfo.h"
 #include "wqspcfg/platform/store/Session.h"
+#include "wqspcfg/platform/xfs/XfsResult.h"
 
 #include <algorithm>
 
@@ -20,6 +21,15 @@ class SavePolicyTest : public test::ConfigTest
   protected:
     SavePolicyTest() { SetSavePolicy(SavePolicy::OwnChanges); }
     ~SavePolicyTest() override { SetSavePolicy(SavePolicy::All); }
+
+    // Whether an error line has the text.
+    bool HasError(const std::wstring& text) const
+    {
+        const auto& entries = m_log.Entries();
+        return std::ranges::any_of(entries, [&](const auto& entry) {
+            return entry.severity == Severity::Error && entry.text.find(text) != std::wstring::npos;
+        });
+    }
 
     const std::wstring m_comm = Device(L"Comm");
 };
@@ -51,8 +61,7 @@ TEST_F(SavePolicyTest, WhatOthersChangedStaysAndWhatTheObjectChangedIsWritten)
     Set(m_comm, L"BaudRate", 19200);
     config.Save();
     EXPECT_EQ(Number(m_comm, L"BaudRate"), 19200U);
-    EXPECT_TRUE(
-        std::ranges::none_of(m_log.Entries(), [](const auto& entry) { return entry.severity == Severity::Error; }));
+    EXPECT_FALSE(HasError({}));
 }
 
 TEST_F(SavePolicyTest, RecordsOfSerialNumbersKeepWhatOthersChanged)
@@ -122,11 +131,7 @@ TEST_F(SavePolicyTest, AConflictIsTheObjectsAndIsLogged)
     config.m_dwPort = 9;
     config.Save();
     EXPECT_EQ(Number(m_comm, L"Port"), 9U);
-    const auto& entries = m_log.Entries();
-    EXPECT_TRUE(std::ranges::any_of(entries, [](const auto& entry) {
-        return entry.severity == Severity::Error &&
-               entry.text.find(L"Port was changed in the registry") != std::wstring::npos;
-    }));
+    EXPECT_TRUE(HasError(L"Port was changed in the registry"));
 }
 
 TEST_F(SavePolicyTest, WhatTheRegistryLacksOrHoldsInAnotherTypeIsWritten)
@@ -279,6 +284,30 @@ TEST_F(SavePolicyTest, CapabilitiesAndNoteTypesKeepWhatOthersChanged)
     cash.Save();
     EXPECT_EQ(Number(Device(L"NoteType\\NoteType1"), L"Config"), 0U);
     EXPECT_EQ(Number(Device(L"NoteType\\NoteType2"), L"Config"), 0U);
+
+    // What the member shows after a Save is known, and not a change of the object's.
+    Set(Device(L"NoteType\\NoteType1"), L"Config", 1);
+    cash.Save();
+    EXPECT_EQ(Number(Device(L"NoteType\\NoteType1"), L"Config"), 1U);
+
+    // An operation writes what it is told to, whoever has changed it; a Save on another state does not undo that.
+    auto types = cash.m_arNoteType;
+    types[0].bConfigured = FALSE;
+    EXPECT_EQ(cash.ConfigureNoteTypes(types), WFS_SUCCESS);
+    EXPECT_EQ(Number(Device(L"NoteType\\NoteType1"), L"Config"), 0U);
+    Set(Device(L"NoteType\\NoteType1"), L"Config", 1);
+    cash.Save();
+    EXPECT_EQ(Number(Device(L"NoteType\\NoteType1"), L"Config"), 1U);
+
+    Set(Device(L"NoteType\\NoteType2"), L"Config", 7);
+    cash.m_arNoteType[1].bConfigured = TRUE;
+    {
+        WriteScope scope;
+        cash.Save();
+        scope->Refuse({ErrorKind::Io, "the disk is full"});
+    }
+    EXPECT_TRUE(HasError(L"Config was changed in the registry"));
+    EXPECT_EQ(Number(Device(L"NoteType\\NoteType2"), L"Config"), 7U);
 }
 
 TEST_F(SavePolicyTest, OneValueSetByBothIsNoConflict)
@@ -289,8 +318,7 @@ TEST_F(SavePolicyTest, OneValueSetByBothIsNoConflict)
     Set(m_comm, L"Port", 4);
     config.m_dwPort = 4;
     config.Save();
-    EXPECT_TRUE(
-        std::ranges::none_of(m_log.Entries(), [](const auto& entry) { return entry.severity == Severity::Error; }));
+    EXPECT_FALSE(HasError({}));
 }
 
 TEST_F(SavePolicyTest, AServiceWithoutAProviderSavesNothing)

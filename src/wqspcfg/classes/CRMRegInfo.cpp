@@ -1,7 +1,6 @@
 #include "wqspcfg/classes/CRMRegInfo.h"
 
 #include "wqspcfg/core/RegistryRoots.h"
-#include "wqspcfg/core/settings/OwnChanges.h"
 #include "wqspcfg/core/settings/Settings.h"
 #include "wqspcfg/parts/serial/SerialRows.h"
 #include "wqspcfg/platform/text/NarrowText.h"
@@ -125,10 +124,11 @@ constexpr auto kLogReplenishWords = Step([](C& c, Loading& loading) {
     loading.Print(kReplenishHighWord, HIWORD(c.m_dwEnableReplenish));
     loading.Print(kReplenishLowWord, LOWORD(c.m_dwEnableReplenish));
 });
-void RememberNoteTypes(const C& c, CLog* log);
+template <class By>
+void RememberNoteTypes(const C& c, By& by);
 constexpr auto kLoadNoteTypes = Step([](C& c, Loading& loading) -> bool {
     const bool bLoaded = c.GetBankNoteTypes(c.m_arNoteType) == WFS_SUCCESS;
-    RememberNoteTypes(c, loading.Log());
+    RememberNoteTypes(c, loading);
     return bLoaded;
 });
 
@@ -489,37 +489,56 @@ bool ReadNoteType(const NoteTypeKeys& keys, DWORD dwNumber, _wfs_cim_note_type& 
     return true;
 }
 
-// What is known under SavePolicy::OwnChanges of whether a note type is accepted, by its note ID.
-LoadedContent ConfigOf(const _wfs_cim_note_type& type)
+// A note type of the list is an iteration of its settings, whose number says where it is stored; its note ID tells it
+// from the others.
+Iteration NoteTypeAt(DWORD dwNumber, WORD usNoteID)
 {
-    SettingContent content;
-    content.number = static_cast<DWORD>(type.bConfigured);
-    return {content, content};
+    return {nullptr, dwNumber, usNoteID};
 }
 
-void RememberNoteTypes(const C& c, CLog* log)
+// `by` is the Loading or the Saving that is to know what the object holds.
+template <class By>
+void RememberNoteTypes(const C& c, By& by)
 {
-    if (GetSavePolicy() == SavePolicy::OwnChanges) {
-        for (const auto& type : c.m_arNoteType) {
-            RememberLoaded(c, kNoteTypeConfig, type.usNoteID, ConfigOf(type), log);
-        }
+    DWORD dwNumber = 0;
+    for (const auto& type : c.m_arNoteType) {
+        by.Remember(kNoteTypeConfig, NoteTypeAt(++dwNumber, type.usNoteID), static_cast<DWORD>(type.bConfigured));
     }
 }
 
-// The note types that Save writes.
-C::NoteTypes SavedNoteTypes(const C& c)
+// Calls `write(iteration, value)` for each stored note type that `types` has, with whether it is accepted.
+template <class F>
+LONG WriteNoteTypes(C& c, const C::NoteTypes& types, F write)
 {
-    if (GetSavePolicy() == SavePolicy::All) {
-        return c.m_arNoteType;
+    WriteScope scope;
+    const ReadScope reading;
+    const NoteTypeKeys keys(c);
+    DWORD dwCount = 0;
+    if (!keys.QueryCount(reading, dwCount)) {
+        return WFS_ERR_INTERNAL_ERROR;
     }
-    C::NoteTypes changed;
-    for (auto type : c.m_arNoteType) {
-        const auto* loaded = FindLoaded(c, kNoteTypeConfig, type.usNoteID);
-        if (loaded == nullptr || loaded->held != ConfigOf(type).held) {
-            changed.Add(type);
+    if (dwCount == 0) {
+        return WFS_ERR_UNSUPP_DATA;
+    }
+    for (DWORD dwNumber = 1; dwNumber <= dwCount; ++dwNumber) {
+        DWORD dwNoteID = 0;
+        if (!keys.Query(Rows<kNoteType>[0], dwNumber, dwNoteID)) {
+            return WFS_ERR_INTERNAL_ERROR;
+        }
+        const auto type = std::find_if(types.begin(), types.end(),
+                                       [&](const _wfs_cim_note_type& each) { return each.usNoteID == dwNoteID; });
+        if (type != types.end()) {
+            write(NoteTypeAt(dwNumber, type->usNoteID), static_cast<DWORD>(type->bConfigured));
         }
     }
-    return changed;
+    // The member shows what the registry holds, also when it could not be written.
+    const bool bWritten = scope.Commit();
+    c.GetBankNoteTypes(c.m_arNoteType);
+    if (bWritten && GetSavePolicy() == SavePolicy::OwnChanges) {
+        Saving saving(c);
+        RememberNoteTypes(c, saving);
+    }
+    return bWritten ? WFS_SUCCESS : WFS_ERR_INTERNAL_ERROR;
 }
 
 } // namespace
@@ -549,7 +568,9 @@ void CCRMRegInfo::Save()
 {
     Saving saving(*this);
     saving.Write(Settings());
-    ConfigureNoteTypes(SavedNoteTypes(*this));
+    WriteNoteTypes(*this, m_arNoteType, [&saving](const Iteration& noteType, DWORD dwConfig) {
+        saving.Put(kNoteTypeConfig, noteType, dwConfig);
+    });
     KeyHandle key;
     if (!OpenSNRData(*this, key)) {
         return;
@@ -623,37 +644,10 @@ LONG CCRMRegInfo::GetBankNoteTypes(NoteTypes& types) const
 
 LONG CCRMRegInfo::ConfigureNoteTypes(const NoteTypes& types)
 {
-    WriteScope scope;
-    const ReadScope reading;
     const NoteTypeKeys keys(*this);
-    DWORD dwCount = 0;
-    if (!keys.QueryCount(reading, dwCount)) {
-        return WFS_ERR_INTERNAL_ERROR;
-    }
-    if (dwCount == 0) {
-        return WFS_ERR_UNSUPP_DATA;
-    }
-    for (DWORD i = 0; i < dwCount; ++i) {
-        DWORD dwNoteID = 0;
-        if (!keys.Query(Rows<kNoteType>[0], i + 1, dwNoteID)) {
-            return WFS_ERR_INTERNAL_ERROR;
-        }
-        const auto type = std::find_if(types.begin(), types.end(),
-                                       [&](const _wfs_cim_note_type& each) { return each.usNoteID == dwNoteID; });
-        if (type != types.end()) {
-            keys.Set(kNoteTypeConfig, i + 1, static_cast<DWORD>(type->bConfigured));
-            if (GetSavePolicy() == SavePolicy::OwnChanges) {
-                RememberWritten(*this, kNoteTypeConfig, type->usNoteID, ConfigOf(*type));
-            }
-        }
-    }
-    if (GetSavePolicy() == SavePolicy::OwnChanges) {
-        scope->AtEnd([this](bool bCommitted) { SettleWritten(*this, bCommitted); });
-    }
-    // The member shows what the registry holds, also when it could not be written.
-    const bool bWritten = scope.Commit();
-    GetBankNoteTypes(m_arNoteType);
-    return bWritten ? WFS_SUCCESS : WFS_ERR_INTERNAL_ERROR;
+    return WriteNoteTypes(*this, types, [&keys](const Iteration& noteType, DWORD dwConfig) {
+        keys.Set(kNoteTypeConfig, noteType.number, dwConfig);
+    });
 }
 
 bool CCRMRegInfo::NeedAddCashInCountAtCIM(int nOccasion) const

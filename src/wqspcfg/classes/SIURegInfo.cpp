@@ -197,14 +197,10 @@ void WriteCapabilities(CSIURegInfo& config, const siu::PortArray& array, const W
 {
     WriteScope scope;
     Saving saving(config);
-    const std::wstring device = kDeviceRoot + config.GetExeDllMother(1, nullptr).Std();
-    const auto gate = [&](const Setting& row, bool bSet) {
-        saving.Put(scope->Open(device + array.gateKey), row, {}, bSet ? 1 : 0);
-    };
-    const auto state = [&](const Setting& row, const Iteration& port, bool bSet) {
-        saving.Put(scope->Open(device + L"\\CAPABILITIES\\" + array.name + L'\\' + port.name), row, port, bSet ? 1 : 0);
-    };
-    ForEachSaved(array, ports, gate, state);
+    const auto gateKey = scope->Open(kDeviceRoot + config.GetExeDllMother(1, nullptr).Std() + array.gateKey);
+    ForEachSaved(
+        array, ports, [&](const Setting& row, bool bSet) { saving.Put(gateKey, row, {}, bSet ? 1 : 0); },
+        [&](const Setting& row, const Iteration& port, bool bSet) { saving.Put(row, port, bSet ? 1 : 0); });
 }
 
 // ---- ports whose events are enabled automatically ----
@@ -257,7 +253,7 @@ bool CSIURegInfo::Load(CLog* pLog)
     GetIndicatorsCap(&m_stSiuCaps, pLog);
     GetAuxiliariesCap(&m_stSiuCaps, pLog);
     GetGuidlightsCap(&m_stSiuCaps, pLog);
-    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+    if (GetSavePolicy() == SavePolicy::OwnChanges) { // spares the walk
         RememberCapabilities(loading, siu::kSensors, m_stSiuCaps.fwSensors);
         RememberCapabilities(loading, siu::kDoors, m_stSiuCaps.fwDoors);
         RememberCapabilities(loading, siu::kIndicators, m_stSiuCaps.fwIndicators);

@@ -128,7 +128,7 @@ class RowList
     Get m_get = &None; // not null: GCC's sanitizers cannot compare the address of a function at compile time
 };
 
-// What is done with a map of a type that is not told.
+// How a map that takes a whole key is emptied and filled, whatever its type.
 struct MapAccess
 {
     void (*clear)(void* map);
@@ -381,60 +381,65 @@ constexpr auto RowList::end() const
 
 constexpr const Setting& RowList::operator[](std::size_t index) const
 {
-    return m_get()[index]; // there is no row in a list without a table
+    return m_get()[index];
 }
 
 namespace detail {
 
-// Number by number and address by address: the compiler sets each in code, and no image of the row remains.
-static_assert(sizeof(void*) != 8 || sizeof(Setting) == 296, "a field that is added to a row is added to Copy too");
+// Number by number and address by address: the compiler sets each in code, and no image of the row remains. It names
+// every field of a row: one that is added does not compile before it is copied.
 [[gnu::always_inline]] inline void Copy(const Setting& from, Setting& to)
 {
-    to.kind = from.kind;
-    to.type = from.type;
-    to.fallbackRoot = from.fallbackRoot;
-    to.reference = from.reference;
-    to.bound = from.bound;
-    to.saved = from.saved;
-    to.savedAsSwitch = from.savedAsSwitch;
-    to.hasConstructed = from.hasConstructed;
-    to.hasRange = from.hasRange;
-    to.flags = from.flags;
-    to.requiredLine = from.requiredLine;
-    to.key.root = from.key.root;
-    to.key.subkey = from.key.subkey;
-    to.name = {from.name.data(), from.name.size()};
-    to.meaning = {from.meaning.data(), from.meaning.size()};
-    to.defaultValue.number = from.defaultValue.number;
-    to.defaultValue.text = from.defaultValue.text;
-    to.constructed.number = from.constructed.number;
-    to.constructed.text = from.constructed.text;
-    to.member.dword = from.member.dword; // all members of a class are told alike
-    to.locate = from.locate;
-    to.conversion = from.conversion;
-    to.line = from.line;
-    to.label = from.label;
-    to.savedName = from.savedName;
-    to.emptySavedAs = from.emptySavedAs;
-    to.fallbackSubkey = from.fallbackSubkey;
-    to.fallbackName = from.fallbackName;
-    to.perIteration = from.perIteration;
-    to.low = from.low;
-    to.high = from.high;
-    to.scale = from.scale;
-    to.normalize = from.normalize;
-    to.normalizeText = from.normalizeText;
-    to.logAs = from.logAs;
-    to.step = from.step;
-    to.condition = from.condition;
-    to.savedIf = from.savedIf;
-    to.map = from.map;
-    to.entries = {from.entries.data(), from.entries.size()};
-    to.rows = RowList(from.rows.Source());
-    to.iterationNames = from.iterationNames;
-    to.firstIteration = from.firstIteration;
-    to.iterations = from.iterations;
-    to.part = from.part;
+    const auto& [kind, type, fallbackRoot, reference, bound, saved, savedAsSwitch, hasConstructed, hasRange, flags,
+                 requiredLine, scale, key, name, meaning, defaultValue, constructed, member, locate, conversion, line,
+                 label, savedName, emptySavedAs, fallbackSubkey, fallbackName, perIteration, low, high, normalize,
+                 normalizeText, logAs, step, condition, savedIf, map, entries, rows, iterationNames, firstIteration,
+                 iterations, part] = from;
+    to.kind = kind;
+    to.type = type;
+    to.fallbackRoot = fallbackRoot;
+    to.reference = reference;
+    to.bound = bound;
+    to.saved = saved;
+    to.savedAsSwitch = savedAsSwitch;
+    to.hasConstructed = hasConstructed;
+    to.hasRange = hasRange;
+    to.flags = flags;
+    to.requiredLine = requiredLine;
+    to.scale = scale;
+    to.key.root = key.root;
+    to.key.subkey = key.subkey;
+    to.name = {name.data(), name.size()};
+    to.meaning = {meaning.data(), meaning.size()};
+    to.defaultValue.number = defaultValue.number;
+    to.defaultValue.text = defaultValue.text;
+    to.constructed.number = constructed.number;
+    to.constructed.text = constructed.text;
+    to.member.dword = member.dword; // all members of a class are told alike
+    to.locate = locate;
+    to.conversion = conversion;
+    to.line = line;
+    to.label = label;
+    to.savedName = savedName;
+    to.emptySavedAs = emptySavedAs;
+    to.fallbackSubkey = fallbackSubkey;
+    to.fallbackName = fallbackName;
+    to.perIteration = perIteration;
+    to.low = low;
+    to.high = high;
+    to.normalize = normalize;
+    to.normalizeText = normalizeText;
+    to.logAs = logAs;
+    to.step = step;
+    to.condition = condition;
+    to.savedIf = savedIf;
+    to.map = map;
+    to.entries = {entries.data(), entries.size()};
+    to.rows = RowList(rows.Source());
+    to.iterationNames = iterationNames;
+    to.firstIteration = firstIteration;
+    to.iterations = iterations;
+    to.part = part;
 }
 
 // Memory for rows, for good. Together, so that the tables which a process uses fill few of its pages.

@@ -837,6 +837,13 @@ void Saving::Put(Session::Key key, const Setting& row, const Iteration& iteratio
     }
 }
 
+void Saving::Remember(const Setting& row, const Iteration& iteration, DWORD held)
+{
+    if (GetSavePolicy() == SavePolicy::OwnChanges) {
+        RememberAtEnd(row, iteration.index, {ContentOf(held), ContentOf(held)});
+    }
+}
+
 void Saving::Put(const Setting& row, const Iteration& iteration, const CString& value)
 {
     const auto key = m_keys.Open(*m_scope, row.key, &iteration);

@@ -193,6 +193,8 @@ class WQSPCFG_API Saving
     void Put(const Setting& row, const Iteration& iteration, const CString& value);
     // The same in a key that was opened.
     void Put(Session::Key key, const Setting& row, const Iteration& iteration, DWORD value);
+    // Under SavePolicy::OwnChanges: `held` counts as loaded for Put once what is written is committed.
+    void Remember(const Setting& row, const Iteration& iteration, DWORD held);
     void Put(Key key, const CString& strName, DWORD value);
     void Put(Key key, const CString& strName, const CString& value);
 
