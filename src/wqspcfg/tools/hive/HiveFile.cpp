@@ -80,42 +80,37 @@ std::unique_ptr<HiveFile> HiveFile::Open(const FileDescriptor& file, std::string
     return hive;
 }
 
-bool HiveFile::Subkeys(std::size_t key, Entries& entries, std::string& cause) const
+// What `list` lists of the key, which the image has found without fault.
+template <class List, class NameOf>
+bool HiveFile::ListOf(std::size_t key, const char* fault, List list, NameOf nameOf, Entries& entries,
+                      std::string& cause) const
 {
-    if (const auto* fault = m_image.SubkeysFault(key)) {
+    if (fault != nullptr) {
         cause = fault;
         return false;
     }
-    Allocated<hive_node_h> listed;
+    Allocated<std::size_t> listed;
     {
         const std::lock_guard lock(m_mutex);
-        listed.reset(hivex_node_children(m_hive.get(), key));
+        listed.reset(list(m_hive.get(), key));
     }
     if (!listed) {
         cause = CauseOf(errno);
         return false;
     }
-    return Sort(
-        listed.get(), [this](std::size_t at) { return m_image.KeyName(at); }, entries, cause);
+    return Sort(listed.get(), nameOf, entries, cause);
+}
+
+bool HiveFile::Subkeys(std::size_t key, Entries& entries, std::string& cause) const
+{
+    const auto nameOf = [this](std::size_t at) { return m_image.KeyName(at); };
+    return ListOf(key, m_image.SubkeysFault(key), hivex_node_children, nameOf, entries, cause);
 }
 
 bool HiveFile::Values(std::size_t key, Entries& entries, std::string& cause) const
 {
-    if (const auto* fault = m_image.ValuesFault(key)) {
-        cause = fault;
-        return false;
-    }
-    Allocated<hive_value_h> listed;
-    {
-        const std::lock_guard lock(m_mutex);
-        listed.reset(hivex_node_values(m_hive.get(), key));
-    }
-    if (!listed) {
-        cause = CauseOf(errno);
-        return false;
-    }
-    return Sort(
-        listed.get(), [this](std::size_t at) { return m_image.ValueName(at); }, entries, cause);
+    const auto nameOf = [this](std::size_t at) { return m_image.ValueName(at); };
+    return ListOf(key, m_image.ValuesFault(key), hivex_node_values, nameOf, entries, cause);
 }
 
 bool HiveFile::Data(std::size_t value, ValueType& type, std::vector<std::byte>& data, std::string& cause) const

@@ -49,6 +49,9 @@ class HiveFile
     };
 
     explicit HiveFile(std::string path) : m_path(std::move(path)) {}
+    template <class List, class NameOf>
+    bool ListOf(std::size_t key, const char* fault, List list, NameOf nameOf, Entries& entries,
+                std::string& cause) const;
 
     std::string m_path;
     HiveImage m_image;

@@ -33,29 +33,32 @@ constexpr std::size_t kFileName = 48;
 constexpr std::size_t kFileNameSize = 64;
 constexpr std::size_t kCheckSum = 508;
 
+// Where a cell holds a name, and the bit of its flags that says that a character is one byte.
+struct NameField
+{
+    std::size_t length;
+    std::size_t flags;
+    std::uint16_t isLatin1;
+    std::size_t text;
+};
+
 // Of a key ("nk").
-constexpr std::size_t kKeyFlags = 2;
-constexpr std::uint16_t kKeyNameIsLatin1 = 0x20;
+constexpr NameField kKeyName{72, 2, 0x20, 76};
 constexpr std::size_t kParent = 16;
 constexpr std::size_t kSubkeyCount = 20;
 constexpr std::size_t kSubkeyList = 28;
 constexpr std::size_t kValueCount = 36;
 constexpr std::size_t kValueList = 40;
-constexpr std::size_t kKeyNameLength = 72;
-constexpr std::size_t kKeyName = 76;
 
 // Of a list of subkeys ("lf", "lh", "li", "ri").
 constexpr std::size_t kListCount = 2;
 constexpr std::size_t kListItems = 4;
 
 // Of a value ("vk").
-constexpr std::size_t kValueNameLength = 2;
+constexpr NameField kValueName{2, 16, 1, 20};
 constexpr std::size_t kDataLength = 4;
 constexpr std::uint32_t kDataIsInline = 0x80000000;
 constexpr std::size_t kDataCell = 8;
-constexpr std::size_t kValueFlags = 16;
-constexpr std::uint16_t kValueNameIsLatin1 = 1;
-constexpr std::size_t kValueName = 20;
 
 // Of data in segments ("db").
 constexpr std::size_t kSegmentCount = 2;
@@ -78,6 +81,23 @@ std::wstring Text(std::span<const std::byte> bytes, bool isLatin1)
         AppendWideFromUtf16Le(bytes, text);
     }
     return text;
+}
+
+bool IsLatin1(std::span<const std::byte> cell, const NameField& name)
+{
+    return (Number16(cell, name.flags) & name.isLatin1) != 0;
+}
+
+// Of a cell that is large enough for the fields before the name.
+bool HasName(std::span<const std::byte> cell, const NameField& name)
+{
+    const auto length = Number16(cell, name.length);
+    return length <= cell.size() - name.text && (IsLatin1(cell, name) || length % 2 == 0);
+}
+
+std::wstring NameIn(std::span<const std::byte> cell, const NameField& name)
+{
+    return Text(cell.subspan(name.text, Number16(cell, name.length)), IsLatin1(cell, name));
 }
 
 // What is wrong with the header of a file that has so many bytes, or null.
@@ -229,15 +249,10 @@ HiveImage::Bytes HiveImage::CellOfId(std::size_t at, const char* id) const
 const char* HiveImage::KeyFault(std::size_t key) const
 {
     const auto cell = CellOfId(key, "nk");
-    if (cell.size() < kKeyName) {
+    if (cell.size() < kKeyName.text) {
         return "there is no key where one should be";
     }
-    const auto length = Number16(cell, kKeyNameLength);
-    const bool isLatin1 = (Number16(cell, kKeyFlags) & kKeyNameIsLatin1) != 0;
-    if (length > cell.size() - kKeyName || (!isLatin1 && length % 2 != 0)) {
-        return "the name of a key has an impossible length";
-    }
-    return nullptr;
+    return HasName(cell, kKeyName) ? nullptr : "the name of a key has an impossible length";
 }
 
 const char* HiveImage::SubkeysFault(std::size_t key) const
@@ -312,12 +327,10 @@ const char* HiveImage::ValuesFault(std::size_t key) const
     }
     for (std::size_t i = 0; i < count; ++i) {
         const auto value = CellOfId(PositionOf(Number32(list, i * 4)), "vk");
-        if (value.size() < kValueName) {
+        if (value.size() < kValueName.text) {
             return "there is no value where one should be";
         }
-        const auto length = Number16(value, kValueNameLength);
-        const bool isLatin1 = (Number16(value, kValueFlags) & kValueNameIsLatin1) != 0;
-        if (length > value.size() - kValueName || (!isLatin1 && length % 2 != 0)) {
+        if (!HasName(value, kValueName)) {
             return "the name of a value has an impossible length";
         }
     }
@@ -353,16 +366,12 @@ const char* HiveImage::DataFault(std::size_t value) const
 
 std::wstring HiveImage::KeyName(std::size_t key) const
 {
-    const auto cell = Cell(key);
-    return Text(cell.subspan(kKeyName, Number16(cell, kKeyNameLength)),
-                (Number16(cell, kKeyFlags) & kKeyNameIsLatin1) != 0);
+    return NameIn(Cell(key), kKeyName);
 }
 
 std::wstring HiveImage::ValueName(std::size_t value) const
 {
-    const auto cell = Cell(value);
-    return Text(cell.subspan(kValueName, Number16(cell, kValueNameLength)),
-                (Number16(cell, kValueFlags) & kValueNameIsLatin1) != 0);
+    return NameIn(Cell(value), kValueName);
 }
 
 } // namespace wqspcfg
