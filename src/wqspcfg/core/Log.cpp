@@ -7,14 +7,10 @@
 #include "wqspcfg/platform/store/PosixFile.h"
 #endif
 
-#include <cerrno>
 #include <chrono>
 #include <ctime>
 #include <fstream>
 #include <ostream>
-#if !defined(_WIN32)
-#include <unistd.h>
-#endif
 
 namespace wqspcfg {
 
@@ -69,17 +65,7 @@ bool Append(const std::string& path, std::string_view text)
 bool Append(const std::string& path, std::string_view text)
 {
     const auto file = OpenFile(path, O_WRONLY | O_APPEND | O_CREAT, 0666);
-    while (file && !text.empty()) {
-        const auto written = write(file.Get(), text.data(), text.size());
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written <= 0) {
-            return false;
-        }
-        text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return static_cast<bool>(file);
+    return file && WriteAll(file, text) == 0;
 }
 #endif
 

@@ -4,6 +4,7 @@
 #include "wqspcfg/platform/base/Export.h"
 
 #include <cstdint>
+#include <string_view>
 
 namespace wqspcfg {
 
@@ -22,5 +23,8 @@ enum class SavePolicy : std::uint8_t
 // WQSPCFG_SAVE_POLICY decides: "own-changes" is OwnChanges, anything else All.
 WQSPCFG_API void SetSavePolicy(SavePolicy policy) noexcept;
 WQSPCFG_API SavePolicy GetSavePolicy() noexcept;
+// The policy that a text stands for as the value of that variable: "own-changes"; "all" or an empty one. False, and
+// nothing is changed, for any other, which is taken for All.
+WQSPCFG_API bool ParseSavePolicy(std::string_view text, SavePolicy& policy) noexcept;
 
 } // namespace wqspcfg

@@ -4,6 +4,7 @@
 #include "wqspcfg/diagnosis/NameIndex.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/platform/store/RegistryPath.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/platform/text/Utf.h"

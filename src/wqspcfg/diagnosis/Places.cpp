@@ -1,6 +1,7 @@
 #include "wqspcfg/diagnosis/Places.h"
 
 #include "wqspcfg/diagnosis/SettingText.h"
+#include "wqspcfg/platform/store/RegistryPath.h"
 #include "wqspcfg/platform/store/regfile/RegFile.h"
 #include "wqspcfg/platform/store/regfile/View32.h"
 #include "wqspcfg/platform/text/CaseFold.h"

@@ -2,6 +2,7 @@
 
 #include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/diagnosis/StoredText.h"
+#include "wqspcfg/platform/store/RegistryPath.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/platform/text/Utf.h"
@@ -273,11 +274,6 @@ std::string NearestSetting(const Examination& examination, std::wstring_view tex
         }
     }
     return NearestNoCase(wanted, likelier.empty() ? names : likelier);
-}
-
-Hive HiveOf(std::wstring_view path)
-{
-    return EqualNoCase(path.substr(0, path.find(L'\\')), L".DEFAULT") ? Hive::Users : Hive::LocalMachine;
 }
 
 std::string FullPath(std::wstring_view path)

@@ -74,8 +74,6 @@ std::string FullNameOf(const ExaminedSetting& setting);
 // The setting that was probably meant by a text that names none: "Port", or "Comm\Port" where the text has a key.
 std::string NearestSetting(const Examination& examination, std::wstring_view text);
 
-// The hive that the first component of a path names.
-Hive HiveOf(std::wstring_view path);
 // A path as the messages show it, with its hive: "HKLM\SOFTWARE\XFS".
 std::string FullPath(std::wstring_view path);
 

@@ -1,5 +1,6 @@
 #include "wqspcfg/tools/CommandLine.h"
 
+#include "wqspcfg/core/SavePolicy.h"
 #include "wqspcfg/diagnosis/Nearest.h"
 #include "wqspcfg/platform/store/LockWait.h"
 #include "wqspcfg/tools/ChangeCommand.h"
@@ -49,11 +50,9 @@ void NoteVariables(const Console& console)
     if (const auto* text = std::getenv(kTimeout); text != nullptr && !ParseLockTimeout(text, timeout)) {
         note(kTimeout, text, "a number of seconds from 0 to 1000000");
     }
-    if (const auto* text = std::getenv(kPolicy); text != nullptr) {
-        const std::string_view policy = text;
-        if (!policy.empty() && policy != "own-changes" && policy != "all") {
-            note(kPolicy, text, "own-changes or all");
-        }
+    SavePolicy policy{};
+    if (const auto* text = std::getenv(kPolicy); text != nullptr && !ParseSavePolicy(text, policy)) {
+        note(kPolicy, text, "own-changes or all");
     }
 }
 

@@ -7,9 +7,6 @@
 #include <fstream>
 #else
 #include "wqspcfg/platform/store/PosixTarget.h"
-
-#include <cerrno>
-#include <unistd.h>
 #endif
 
 #include <streambuf>
@@ -75,18 +72,8 @@ int WriteDevice(const PosixTarget& target, const std::string& file, const std::f
     }
     int failure = 0;
     SinkBuffer buffer([&](std::string_view bytes) {
-        while (!bytes.empty()) {
-            const auto written = ::write(device.Get(), bytes.data(), bytes.size());
-            if (written < 0 && errno == EINTR) {
-                continue;
-            }
-            if (written < 0) {
-                failure = errno;
-                return false;
-            }
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-        return true;
+        failure = WriteAll(device, bytes);
+        return failure == 0;
     });
     std::ostream output(&buffer);
     const int result = write(output);

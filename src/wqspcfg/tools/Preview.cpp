@@ -2,6 +2,7 @@
 
 #include "wqspcfg/diagnosis/Difference.h"
 #include "wqspcfg/diagnosis/SettingText.h"
+#include "wqspcfg/platform/store/RegistryPath.h"
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
 #include "wqspcfg/platform/text/CaseFold.h"
 #include "wqspcfg/tools/JsonText.h"
@@ -194,7 +195,7 @@ class Comparison
     {
         (sign == '+' ? m_added : sign == '~' ? m_changed : m_deleted) += 1;
         const auto* value = before != nullptr ? before : after;
-        const bool isPlaced = sign != '+' && key.hive == diagnosis::HiveOf(key.path);
+        const bool isPlaced = sign != '+' && key.hive == HiveOf(key.path);
         const auto place = isPlaced ? m_places.Of(key.path, value != nullptr ? &value->name : nullptr) : std::string();
         if (m_options.json) {
             TellJson(sign, key, before, after, place);

@@ -83,27 +83,6 @@ std::string KindOf(bool physical)
     return physical ? "physical" : "logical";
 }
 
-// A word of a command line, as a shell takes it.
-std::string ShellWord(const std::string& text)
-{
-    const auto isPlain = [](char ch) {
-        return (ch >= '0' && ch <= '9') || (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z') || ch == '_' ||
-               ch == '-' || ch == '.';
-    };
-    if (!text.empty() && std::all_of(text.begin(), text.end(), isPlain)) {
-        return text;
-    }
-#if defined(_WIN32)
-    return '"' + text + '"';
-#else
-    std::string quoted = "'";
-    for (const char ch : text) {
-        quoted += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
-    }
-    return quoted + '\'';
-#endif
-}
-
 // How many findings a check of the service has.
 void NoteFindings(const StoreChoice& choice, const ServiceChoice& service, const Console& console)
 {

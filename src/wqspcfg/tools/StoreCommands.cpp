@@ -5,6 +5,7 @@
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/platform/store/Backup.h"
 #include "wqspcfg/platform/store/Maintenance.h"
+#include "wqspcfg/platform/store/RegistryPath.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
 #include "wqspcfg/platform/store/memory/MemoryStore.h"
 #include "wqspcfg/tools/JsonText.h"
@@ -484,7 +485,7 @@ namespace {
 // What the services of the store make of a value, which is about to be set.
 diagnosis::Reading ReadingOf(const std::shared_ptr<Store>& store, const FullKey& which, std::wstring_view name)
 {
-    if (which.hive != diagnosis::HiveOf(which.path)) {
+    if (which.hive != HiveOf(which.path)) {
         return {};
     }
     const CurrentStoreScope current(std::make_shared<ScratchStore>(store));

@@ -16,8 +16,10 @@ namespace {
 
 SavePolicy PolicyOfEnvironment() noexcept
 {
-    const char* policy = std::getenv("WQSPCFG_SAVE_POLICY");
-    return policy != nullptr && std::string_view(policy) == "own-changes" ? SavePolicy::OwnChanges : SavePolicy::All;
+    const char* text = std::getenv("WQSPCFG_SAVE_POLICY");
+    auto policy = SavePolicy::All;
+    (void)(text != nullptr && ParseSavePolicy(text, policy));
+    return policy;
 }
 
 std::atomic<SavePolicy>& Policy() noexcept
@@ -65,6 +67,18 @@ LoadedObject& ObjectOf(const CRegKeyEx& object)
 }
 
 } // namespace
+
+bool ParseSavePolicy(std::string_view text, SavePolicy& policy) noexcept
+{
+    if (text == "own-changes") {
+        policy = SavePolicy::OwnChanges;
+    } else if (text.empty() || text == "all") {
+        policy = SavePolicy::All;
+    } else {
+        return false;
+    }
+    return true;
+}
 
 void SetSavePolicy(SavePolicy policy) noexcept
 {

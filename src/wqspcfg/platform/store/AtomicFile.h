@@ -33,8 +33,8 @@ class WQSPCFG_API AtomicFile
         Backups, // of an embedded store, too
     };
 
-    // Begins to write the file `path` (UTF-8). `sources` are the files that the content comes from;
-    // empty ones are none.
+    // Begins to write the file `path` (UTF-8). `sources` are the files that the content comes from; empty ones are
+    // none.
     //
     // Nobody may read the new file who could not read every source, with the rights of its directory, and the file that
     // is replaced: it gets the rights that all of them grant, less the process's umask where there is no old file. It

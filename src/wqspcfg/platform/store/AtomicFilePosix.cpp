@@ -3,12 +3,9 @@
 #include "wqspcfg/platform/store/PosixFile.h"
 #include "wqspcfg/platform/store/PosixTarget.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
-#include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <random>
@@ -123,16 +120,10 @@ bool AtomicFile::State::Find(const std::vector<Source>& sources, Replaces replac
 // What file of an embedded store stands in the target's place; empty for none.
 std::string AtomicFile::State::StoreFileAt(Replaces replaces) const
 {
-    const auto old = OpenAt(directory.Get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
-    std::array<std::uint32_t, 5> head{};
-    if (!old || pread(old.Get(), head.data(), sizeof head, 0) != static_cast<ssize_t>(sizeof head)) {
-        return {};
-    }
-    if (head[0] == lmdb::kMagic) {
-        return "the lock file of an embedded store";
-    }
-    if (head[sizeof(lmdb::PageHeader) / sizeof head[0]] != lmdb::kMagic) {
-        return {};
+    const auto kind =
+        KindOfStoreFile(OpenAt(directory.Get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    if (kind != StoreFile::Data) {
+        return kind == StoreFile::Lock ? "the lock file of an embedded store" : "";
     }
     const bool isInUse = name == kDataName && faccessat(directory.Get(), kLockName, F_OK, AT_SYMLINK_NOFOLLOW) == 0;
     return isInUse                         ? "the data file of an embedded store"
@@ -218,15 +209,11 @@ int AtomicFile::State::Restrict(const std::vector<Source>& sources, const std::o
 // An errno value, or 0.
 int AtomicFile::State::Flush()
 {
-    for (std::string_view rest = buffer; !rest.empty();) {
-        const auto written = write(file.Get(), rest.data(), rest.size());
-        if (written < 0 && errno != EINTR) {
-            return errno;
-        }
-        rest.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
+    const auto status = WriteAll(file, buffer);
+    if (status == 0) {
+        buffer.clear();
     }
-    buffer.clear();
-    return 0;
+    return status;
 }
 
 // An errno value, or 0.

@@ -3,6 +3,9 @@
 #include "wqspcfg/platform/store/ForkSafe.h"
 #include "wqspcfg/platform/store/RegistryPath.h"
 #include "wqspcfg/platform/store/RegistryValue.h"
+#if defined(_WIN32)
+#include "wqspcfg/platform/store/windows/WindowsStore.h"
+#endif
 
 #include <mutex>
 #include <string>
@@ -48,12 +51,8 @@ std::optional<REGSAM> AccessToRegistry()
 {
     Error error;
     const auto store = CurrentStore(error);
-    const auto address = store ? store->Address() : std::string();
-    if (!address.starts_with("windows:")) {
-        return std::nullopt;
-    }
-    constexpr REGSAM kAccess = KEY_READ | KEY_WRITE;
-    return kAccess | (address == "windows:32" ? KEY_WOW64_32KEY : address == "windows:64" ? KEY_WOW64_64KEY : 0);
+    const auto* registry = dynamic_cast<const WindowsStore*>(store.get());
+    return registry != nullptr ? std::optional(REGSAM{KEY_READ | KEY_WRITE} | registry->View()) : std::nullopt;
 }
 #endif
 

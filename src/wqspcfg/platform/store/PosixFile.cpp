@@ -30,6 +30,18 @@ FileDescriptor OpenAt(int directory, const char* name, int flags, unsigned mode)
     return file;
 }
 
+int WriteAll(const FileDescriptor& file, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const auto written = write(file.Get(), bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) {
+            return errno;
+        }
+        bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
+    }
+    return 0;
+}
+
 int FillStandardDescriptors()
 {
     for (int fd = 0; fd < kLeastDescriptor; ++fd) {

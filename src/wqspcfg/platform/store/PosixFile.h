@@ -49,6 +49,9 @@ inline FileDescriptor OpenFile(const std::string& path, int flags, unsigned mode
     return OpenAt(AT_FDCWD, path.c_str(), flags, mode);
 }
 
+// Writes all of it, however often that takes. An errno value, or 0.
+int WriteAll(const FileDescriptor& file, std::string_view bytes);
+
 // Opens /dev/null as each of 0, 1 and 2 that is not open, for good: code that opens files of its own (LMDB) gets none
 // of them then. An errno value, or 0.
 int FillStandardDescriptors();

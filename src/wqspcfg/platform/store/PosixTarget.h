@@ -25,9 +25,9 @@ struct PosixTarget
 };
 
 // Nobody may lead a process to a file of his choice: a symbolic link, at any place of the path, is followed only when
-// it and its directory belong to this user or to the superuser, and was not made by somebody else in a directory that
-// others can write. Nor may he read along: a special file and its directory belong to one of the two, too. A terminal,
-// /dev/null, a pipe of this user and what this process has open already are taken wherever they are.
+// it and its directory belong to this user or to the superuser. Nobody may read along: a special file and its directory
+// must belong to one of the two as well. A terminal, /dev/null, a pipe of this user and what this process has open
+// already are taken wherever they are.
 bool FindTarget(const std::string& path, PosixTarget& target, Error& error);
 
 } // namespace wqspcfg

@@ -69,4 +69,24 @@ std::string DisplayText(std::string_view utf8)
     return out;
 }
 
+std::string ShellWord(std::string_view word)
+{
+    const auto isPlain = [](char ch) {
+        return (ch >= '0' && ch <= '9') || (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z') || ch == '_' ||
+               ch == '-' || ch == '.';
+    };
+    if (!word.empty() && std::all_of(word.begin(), word.end(), isPlain)) {
+        return std::string(word);
+    }
+#if defined(_WIN32)
+    return '"' + std::string(word) + '"';
+#else
+    std::string quoted = "'";
+    for (const char ch : word) {
+        quoted += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
+    }
+    return quoted + '\'';
+#endif
+}
+
 } // namespace wqspcfg

@@ -16,4 +16,7 @@ WQSPCFG_API std::string DisplayText(std::wstring_view text);
 // Of UTF-8; a byte that is no part of it is written as "<0xE9>".
 WQSPCFG_API std::string DisplayText(std::string_view utf8);
 
+// A word of a command line (UTF-8), as the shell of the platform takes it.
+WQSPCFG_API std::string ShellWord(std::string_view word);
+
 } // namespace wqspcfg

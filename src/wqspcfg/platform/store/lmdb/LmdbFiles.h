@@ -64,9 +64,8 @@ LmdbMark MarkOf(const struct stat& data, std::uint64_t transaction);
 bool ReadMark(const FileDescriptor& lockFile, LmdbMark& mark);
 void WriteMark(const FileDescriptor& lockFile, LmdbMark mark);
 
-// Opens the lock file for reading and writing, and makes it where it is missing, for those who can write the data
-// file. All
-// its blocks are reserved: LMDB writes to it through memory, and on a full file system that would end the process.
+// Opens the lock file for reading and writing, and makes it where it is missing, for those who can write the data file.
+// All its blocks are reserved: LMDB writes to it through memory, and on a full file system that would end the process.
 // Only while this process has no environment on it, whose locks closing the file would drop. Without the right to it
 // the result is empty and `status` EACCES, EPERM or EROFS; after another failure, `error` is set.
 FileDescriptor OpenLockFile(const std::string& address, const LmdbFolder& folder, const ActAsOwner& owner,

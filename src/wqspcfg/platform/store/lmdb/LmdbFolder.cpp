@@ -1,9 +1,13 @@
 #include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
 
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
+#include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
+#include "wqspcfg/platform/text/DisplayText.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <grp.h>
@@ -51,19 +55,9 @@ int MakeDirectories(const std::string& path)
     return 0;
 }
 
-// As a shell takes it.
-std::string Quoted(const std::string& path)
-{
-    std::string quoted = "'";
-    for (const auto unit : path) {
-        quoted += unit == '\'' ? "'\\''" : std::string(1, unit);
-    }
-    return quoted + '\'';
-}
-
 std::string ChownCommand(uid_t owner, const std::string& path)
 {
-    return "chown " + std::to_string(owner) + ' ' + Quoted(path);
+    return "chown " + std::to_string(owner) + ' ' + ShellWord(path);
 }
 
 // The group to act with in a directory: never the superuser's, which the directory may have kept.
@@ -84,6 +78,18 @@ int SetGroupsOfThread(const std::vector<gid_t>& groups)
 }
 
 } // namespace
+
+StoreFile KindOfStoreFile(const FileDescriptor& file)
+{
+    std::array<std::uint32_t, 5> head{};
+    if (!file || pread(file.Get(), head.data(), sizeof head, 0) != static_cast<ssize_t>(sizeof head)) {
+        return StoreFile::None;
+    }
+    if (head[0] == lmdb::kMagic) {
+        return StoreFile::Lock;
+    }
+    return head[sizeof(lmdb::PageHeader) / sizeof head[0]] == lmdb::kMagic ? StoreFile::Data : StoreFile::None;
+}
 
 bool LmdbFolder::Open(const std::string& address, const std::string& path, bool create, Error& error)
 {
@@ -118,7 +124,7 @@ bool LmdbFolder::Open(const std::string& address, const std::string& path, bool 
     if ((m_status.st_mode & (S_IWGRP | S_IWOTH)) != 0) {
         return refuse("can be written by other users, as older versions allowed, and they could have any file of yours "
                       "written to; take that right away (chmod go-w " +
-                      Quoted(path) + ')');
+                      ShellWord(path) + ')');
     }
     return true;
 }

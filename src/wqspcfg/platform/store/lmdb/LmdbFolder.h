@@ -21,6 +21,15 @@ constexpr char kDataName[] = "data.mdb";
 constexpr char kLockName[] = "lock.mdb";
 constexpr char kKeptSuffix[] = ".damaged"; // of the file that a restore has replaced
 
+enum class StoreFile : unsigned char
+{
+    None,
+    Lock,
+    Data, // or a backup
+};
+// What file of an embedded store this is, by its beginning.
+StoreFile KindOfStoreFile(const FileDescriptor& file);
+
 class LmdbFolder
 {
   public:

@@ -57,7 +57,7 @@ class CheckingVisitor final : public RegFileVisitor
                                                  std::to_string(kMaxKeyName) + " characters"};
                 return false;
             }
-            if (std::any_of(name.begin(), name.end(), [](wchar_t ch) { return ch < 0x20 || ch == 0x7F; })) {
+            if (HasControlCharacter(name)) {
                 error = {ErrorKind::BadText, "the key name " + Shown(name) + " has a control character"};
                 return false;
             }

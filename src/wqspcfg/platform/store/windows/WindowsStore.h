@@ -29,6 +29,9 @@ class WindowsStore final : public Store
     const std::string& Address() const noexcept override { return m_address; }
     bool RollsBack() const noexcept override { return false; }
 
+    // What a call that opens a key adds to its access rights, so that it sees what this store does.
+    REGSAM View() const noexcept { return m_view; }
+
   private:
     std::string m_address;
     REGSAM m_view;
