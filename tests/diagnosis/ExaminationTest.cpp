@@ -40,6 +40,15 @@ class ExaminationTest : public CatalogueTest
     }
 };
 
+Examination ExaminationOf(const ClassEntry& entry)
+{
+    ServiceIdentity service;
+    service.logicalName = L"Svc";
+    service.physicalName = L"Phys";
+    service.deviceKey = L"Dev";
+    return Examine(service, entry);
+}
+
 TEST_F(ExaminationTest, TellsWhatALoadGivesEachMember)
 {
     std::minstd_rand random(7); // NOLINT(bugprone-random-generator-seed): the same values in every run
@@ -47,11 +56,7 @@ TEST_F(ExaminationTest, TellsWhatALoadGivesEachMember)
         SCOPED_TRACE(NameOfClass(*entry));
         for (int round = 0; round < 3; ++round) {
             FillAtRandom(*entry, random);
-            ServiceIdentity service;
-            service.logicalName = L"Svc";
-            service.physicalName = L"Phys";
-            service.deviceKey = L"Dev";
-            const auto examination = Examine(service, *entry);
+            const auto examination = ExaminationOf(*entry);
             ResetProcess();
             const auto object = Make(*entry);
             EXPECT_EQ(object->Load(nullptr), examination.isLoaded);
@@ -115,11 +120,7 @@ TEST_F(ExaminationTest, TellsEveryValueThatALoadLogs)
     for (const auto* entry : Concrete()) {
         SCOPED_TRACE(NameOfClass(*entry));
         FillAtRandom(*entry, random);
-        ServiceIdentity service;
-        service.logicalName = L"Svc";
-        service.physicalName = L"Phys";
-        service.deviceKey = L"Dev";
-        const auto examination = Examine(service, *entry);
+        const auto examination = ExaminationOf(*entry);
         ResetProcess();
         const auto object = Make(*entry);
         m_log.Clear();

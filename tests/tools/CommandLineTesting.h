@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -16,6 +17,13 @@ namespace wqspcfg::tools {
 inline constexpr char kService[] = "HKLM\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Phys";
 inline constexpr char kLogical[] = "HKEY_USERS\\.DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc";
 inline constexpr char kComm[] = "HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm";
+
+inline constexpr char kHead[] = "Windows Registry Editor Version 5.00\n\n"
+                                "[HKEY_USERS\\.DEFAULT\\XFS\\LOGICAL_SERVICES\\CardDispenser]\n"
+                                "\"Class\"=\"CRD\"\n\"Provider\"=\"WQSpCRDWQTYM1200\"\n\n"
+                                "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\WQSpCRDWQTYM1200]\n"
+                                "\"ExeDllMother\"=\"WQSpCRDWQTYM1200.exe\"\n\n"
+                                "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm]\n";
 
 // Each test has a directory of its own. On Windows, which has no embedded store, the file that the commands work on is
 // a registry export.
@@ -36,6 +44,14 @@ class CommandLineTest : public test::ConfigTest
     }
 
     std::string File(const std::string& name) const { return (m_directory / name).string(); }
+    // The address of a registry export of a terminal with a card dispenser, whose key Comm and what stands behind it
+    // are given.
+    std::string Export(const std::string& name, const std::string& comm) const
+    {
+        std::ofstream(File(name), std::ios::binary) << kHead << comm;
+        return "reg:" + File(name);
+    }
+    std::string Place(const std::string& name, int line) const { return File(name) + ':' + std::to_string(line); }
     std::string StoreAddress() const { return "lmdb:" + File("store"); }
 
     int RunOn(const std::string& store, std::vector<std::string> arguments, const std::string& input = {})

@@ -4,7 +4,6 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <fstream>
 
 namespace wqspcfg::tools {
 
@@ -13,24 +12,10 @@ namespace {
 using nlohmann::json;
 
 constexpr char kDevice[] = "HKLM\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200";
-constexpr char kHead[] = "Windows Registry Editor Version 5.00\n\n"
-                         "[HKEY_USERS\\.DEFAULT\\XFS\\LOGICAL_SERVICES\\CardDispenser]\n"
-                         "\"Class\"=\"CRD\"\n\"Provider\"=\"WQSpCRDWQTYM1200\"\n\n"
-                         "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\WQSpCRDWQTYM1200]\n"
-                         "\"ExeDllMother\"=\"WQSpCRDWQTYM1200.exe\"\n\n"
-                         "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm]\n";
 
 class DiffAndChangeTest : public CommandLineTest
 {
   protected:
-    // An export of a terminal with a card dispenser, whose key Comm and what stands behind it are given.
-    std::string Export(const std::string& name, const std::string& comm) const
-    {
-        std::ofstream(File(name), std::ios::binary) << kHead << comm;
-        return "reg:" + File(name);
-    }
-    std::string Place(const std::string& name, int line) const { return File(name) + ':' + std::to_string(line); }
-
     int Diff(const std::string& left, const std::string& right, std::vector<std::string> options = {})
     {
         options.insert(options.begin(), {"diff", left, right});

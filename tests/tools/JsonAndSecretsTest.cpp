@@ -13,24 +13,10 @@ namespace {
 using nlohmann::json;
 
 constexpr char kPath[] = "HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200";
-constexpr char kHead[] = "Windows Registry Editor Version 5.00\n\n"
-                         "[HKEY_USERS\\.DEFAULT\\XFS\\LOGICAL_SERVICES\\CardDispenser]\n"
-                         "\"Class\"=\"CRD\"\n\"Provider\"=\"WQSpCRDWQTYM1200\"\n\n"
-                         "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\SERVICE_PROVIDERS\\WQSpCRDWQTYM1200]\n"
-                         "\"ExeDllMother\"=\"WQSpCRDWQTYM1200.exe\"\n\n"
-                         "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\Comm]\n";
 
 class JsonAndSecretsTest : public CommandLineTest
 {
   protected:
-    // A registry export of a terminal with a card dispenser, whose key Comm is given.
-    std::string Export(const std::string& name, const std::string& comm) const
-    {
-        std::ofstream(File(name), std::ios::binary) << kHead << comm;
-        return "reg:" + File(name);
-    }
-    std::string Place(const std::string& name, int line) const { return File(name) + ':' + std::to_string(line); }
-
     json Parsed(const std::string& store, std::vector<std::string> command, const std::string& input = {})
     {
         const auto name = command.front();
