@@ -1,18 +1,22 @@
-// Whether a sanitizer watches the program, which makes it ten times slower and larger.
+// Which sanitizers watch the program. They make it ten times slower and larger.
 #pragma once
 
 namespace wqspcfg::test {
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-inline constexpr bool kSanitized = true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-inline constexpr bool kSanitized = true;
-#else
-inline constexpr bool kSanitized = false;
+#ifndef __has_feature
+#define __has_feature(feature) 0
 #endif
+
+#if defined(__SANITIZE_THREAD__) || __has_feature(thread_sanitizer)
+inline constexpr bool kThreadSanitized = true;
 #else
-inline constexpr bool kSanitized = false;
+inline constexpr bool kThreadSanitized = false;
+#endif
+
+#if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer)
+inline constexpr bool kSanitized = true;
+#else
+inline constexpr bool kSanitized = kThreadSanitized;
 #endif
 
 } // namespace wqspcfg::test

@@ -11,7 +11,7 @@ constexpr const wchar_t* kSlots[] = {L"A", L"B", L"C"};
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {kHopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
+    {key::Hopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
     Repeat(kSlots, Rows<kCoinHopper<C>>),
     {key::Comm, L"Port", &C::m_dwPort, 1,
      meaning::kPort, Saved, RefersTo(Reference::SerialPort)},

@@ -1,6 +1,7 @@
 #include "wqspcfg/models/crm/SpCRMSBBHopperRegInfo.h"
 
 #include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/shared/CassetteKeys.h"
 #include "wqspcfg/parts/meanings/CRM.h"
 #include "wqspcfg/parts/meanings/Shared.h"
 
@@ -9,12 +10,11 @@ using C = CSpCRMSBBHopperRegInfo;
 
 namespace {
 
-constexpr Key kHopper = key::Below(L"Cassette\\Hopper");
 constexpr Key kHopperA = key::Below(L"Cassette\\Hopper\\A");
 
 // clang-format off
 constexpr Setting kSettings[] = {
-    {kHopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
+    {key::Hopper, L"UnitPhyPosName", &C::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
     {kHopperA, L"CurrentCasCount", &C::m_dwCurrentCasCount, 0,
      L"coins in the hopper", Saved, Label(L"A.CurrentCasCount")},
     {kHopperA, L"Type", &C::m_dwType, 0,

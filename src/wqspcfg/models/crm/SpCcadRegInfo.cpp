@@ -1,6 +1,7 @@
 #include "wqspcfg/models/crm/SpCcadRegInfo.h"
 
 #include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/shared/CassetteKeys.h"
 #include "wqspcfg/parts/meanings/CRM.h"
 
 using namespace wqspcfg;
@@ -9,10 +10,8 @@ using C = CSpCcadRegInfo;
 namespace {
 
 constexpr Key kCassette = key::Below(L"Cassette");
-constexpr Key kHopper = key::Below(L"Cassette\\Hopper");
 constexpr Key kHopperE = key::Below(L"Cassette\\Hopper\\E");
 constexpr Key kHopperRJ = key::Below(L"Cassette\\Hopper\\RJ");
-constexpr Key kSlot = key::Below(L"Cassette\\Hopper\\%s");
 constexpr Key kCassetteType = key::Absolute(L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\CASHDISPENSER\\COMMON\\CASSETTETYPE");
 
 constexpr const wchar_t* kSlots[] = {L"A", L"B", L"C", L"D", L"E", L"RJ"};
@@ -20,11 +19,11 @@ constexpr DWORD kTypes[] = {0x00040030, 0x00040030, 0x00040030, 0x00040030, 0x40
 
 // clang-format off
 constexpr Setting kSlotRows[] = {
-    {kSlot, L"Type", Element<&C::m_arSlot, &tagCassetteSlot::dwType>,
+    {key::HopperSlot, L"Type", Element<&C::m_arSlot, &tagCassetteSlot::dwType>,
      0, meaning::kSlotType, Saved, PerIteration(kTypes), Format(L"0x%08X"), Label(L"%s.Type")},
-    {kSlot, L"CasFull", Element<&C::m_arSlot, &tagCassetteSlot::dwCasFull>,
+    {key::HopperSlot, L"CasFull", Element<&C::m_arSlot, &tagCassetteSlot::dwCasFull>,
      2, L"distance to full as a code: 0 to 4 mean 100 x (code + 1) notes", Saved, Range(0, 4), Label(L"%s.CasFull")},
-    {kSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCassetteSlot::dwCasNearEmpty>,
+    {key::HopperSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCassetteSlot::dwCasNearEmpty>,
      0, L"distance to nearly empty as a code: 0 to 4 mean 100 x (code + 1) notes", Saved, Range(0, 4),
      Label(L"%s.CasNearEmpty")},
 };
@@ -35,7 +34,7 @@ constexpr Setting kSettings[] = {
     {key::Capabilities, L"RJBillMustStack", &C::m_dwRJBillMustStack, 0,
      L"rejected notes must be stacked", Saved},
     {key::Capabilities, L"HwInitCount", &C::m_dwHwInitCount, 0, meaning::kHwInitCount, Saved},
-    {kHopper, L"CasTypeFollowSlot", &C::m_dwCasTypeFollowSlot, 1,
+    {key::Hopper, L"CasTypeFollowSlot", &C::m_dwCasTypeFollowSlot, 1,
      meaning::kCasTypeFollowSlot, Saved, OneOf},
     {kHopperRJ, L"UseCassetteRJ",       &C::m_dwUseCassetteRJ,       1, L"cassette RJ is used", Saved},
     {kHopperE,  L"UseCassetteEAsRJCAS", &C::m_dwUseCassetteEAsRJCAS, 0, meaning::kUseCassetteE, Saved},

@@ -20,4 +20,4 @@ constexpr Setting kSettings[] = {
 
 } // namespace
 
-WQSPCFG_SETTINGS(CSpMCRCF66RegInfo, CMCRRegInfo, kSettings, {}, {}, nullptr, /*savesBase=*/false)
+WQSPCFG_SETTINGS(CSpMCRCF66RegInfo, CMCRRegInfo, kSettings, {}, {}, nullptr, /*savesBases=*/false)

@@ -2,25 +2,23 @@
 #pragma once
 
 #include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/shared/CassetteKeys.h"
 #include "wqspcfg/models/shared/CoinRecycler.h"
 #include "wqspcfg/parts/meanings/CRM.h"
 #include "wqspcfg/parts/meanings/Shared.h"
 
 namespace wqspcfg {
 
-inline constexpr Key kHopper = key::Below(L"Cassette\\Hopper");
-inline constexpr Key kSlot = key::Below(L"Cassette\\Hopper\\%s");
-
 // clang-format off
 template <class C>
 inline constexpr Setting kCoinHopper[] = {
-    {kSlot, L"CasFull", Element<&C::m_arSlot, &tagCoinHopper::dwCasFull>,
+    {key::HopperSlot, L"CasFull", Element<&C::m_arSlot, &tagCoinHopper::dwCasFull>,
      500, meaning::kCoinCasFull, Saved, Label(L"%s.CasFull")},
-    {kSlot, L"CasNearFull", Element<&C::m_arSlot, &tagCoinHopper::dwCasNearFull>,
+    {key::HopperSlot, L"CasNearFull", Element<&C::m_arSlot, &tagCoinHopper::dwCasNearFull>,
      450, meaning::kCoinCasNearFull, Saved, Label(L"%s.CasNearFull")},
-    {kSlot, L"CasEmpty", Element<&C::m_arSlot, &tagCoinHopper::dwCasEmpty>,
+    {key::HopperSlot, L"CasEmpty", Element<&C::m_arSlot, &tagCoinHopper::dwCasEmpty>,
      0, meaning::kCoinCasEmpty, Saved, Label(L"%s.CasEmpty")},
-    {kSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCoinHopper::dwCasNearEmpty>,
+    {key::HopperSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCoinHopper::dwCasNearEmpty>,
      50, meaning::kCoinCasNearEmpty, Saved, Label(L"%s.CasNearEmpty")},
 };
 
@@ -28,14 +26,14 @@ inline constexpr const wchar_t* kCoinRecyclerSlots[] = {L"A", L"B", L"C", L"R"};
 inline constexpr DWORD kCoinRecyclerTypes[] = {0x100, 0x050, 0x010, 0x000};
 inline constexpr Setting kCoinRecyclerSlot[] = {
     Group(Rows<kCoinHopper<CoinRecycler>>),
-    {kSlot, L"Type", Element<&CoinRecycler::m_arSlot, &tagCoinRecycleHopper::dwType>,
+    {key::HopperSlot, L"Type", Element<&CoinRecycler::m_arSlot, &tagCoinRecycleHopper::dwType>,
      0,
      L"denomination of the hopper: 0x100 recycle for 1 yuan; 0x050 recycle for 5 jiao; 0x010 recycle for 1 jiao; "
      L"0x000 none",
      Saved, OneOf, PerIteration(kCoinRecyclerTypes), Format(L"0x%03X"), Label(L"%s.Type")},
 };
 inline constexpr Setting kCoinRecycler[] = {
-    {kHopper, L"UnitPhyPosName", &CoinRecycler::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
+    {key::Hopper, L"UnitPhyPosName", &CoinRecycler::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
     Repeat(kCoinRecyclerSlots, Rows<kCoinRecyclerSlot>),
 };
 // clang-format on

@@ -2,16 +2,15 @@
 #pragma once
 
 #include "wqspcfg/core/settings/Settings.h"
+#include "wqspcfg/models/shared/CassetteKeys.h"
 #include "wqspcfg/models/shared/NoteRecycler.h"
 #include "wqspcfg/parts/meanings/CRM.h"
 
 namespace wqspcfg {
 
 inline constexpr Key kCassette = key::Below(L"Cassette");
-inline constexpr Key kHopper = key::Below(L"Cassette\\Hopper");
 inline constexpr Key kHopperE = key::Below(L"Cassette\\Hopper\\E");
 inline constexpr Key kHopperF = key::Below(L"Cassette\\Hopper\\F");
-inline constexpr Key kSlot = key::Below(L"Cassette\\Hopper\\%s");
 inline constexpr Key kShutter = key::Below(L"WQShutter");
 inline constexpr Key kReplenish = key::Below(L"REPLENISH");
 
@@ -52,10 +51,11 @@ inline constexpr Setting kNoteRecyclerCassettes[] = {
     {kCassette, L"CollectClose", &NoteRecycler::m_dwCollectClose, 0,
      L"a cassette that is pulled or plugged may close collection physically: 0 no; 1 yes; 2 also when the separation "
      L"of a dispense closes", Saved, OneOf},
-    {kHopper, L"CasTypeFollowSlot", &NoteRecycler::m_dwCasTypeFollowSlot, 1, meaning::kCasTypeFollowSlot, Saved, OneOf},
+    {key::Hopper, L"CasTypeFollowSlot", &NoteRecycler::m_dwCasTypeFollowSlot, 1,
+     meaning::kCasTypeFollowSlot, Saved, OneOf},
 };
 inline constexpr Setting kNoteRecyclerUnitPhyPosName[] = {
-    {kHopper, L"UnitPhyPosName", &NoteRecycler::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
+    {key::Hopper, L"UnitPhyPosName", &NoteRecycler::m_dwUnitPhyPosName, 0, meaning::kUnitPhyPosName, Saved, OneOf},
 };
 inline constexpr Setting kNoteRecyclerUseCassetteE[] = {
     {kHopperE, L"UseCassetteEAsRJCAS", &NoteRecycler::m_dwUseCassetteEAsRJCAS, 0, meaning::kUseCassetteE, Saved},
@@ -63,11 +63,11 @@ inline constexpr Setting kNoteRecyclerUseCassetteE[] = {
 // Of each slot; Types has the cassette type of each.
 template <class C, const DWORD* Types>
 inline constexpr Setting kNoteSlot[] = {
-    {kSlot, L"Type", Element<&C::m_arSlot, &tagCassetteSlot::dwType>,
+    {key::HopperSlot, L"Type", Element<&C::m_arSlot, &tagCassetteSlot::dwType>,
      0, meaning::kSlotType, Saved, PerIteration(Types), Format(L"0x%08X"), Label(L"%s.Type")},
-    {kSlot, L"CasFull", Element<&C::m_arSlot, &tagCassetteSlot::dwCasFull>,
+    {key::HopperSlot, L"CasFull", Element<&C::m_arSlot, &tagCassetteSlot::dwCasFull>,
      2, L"distance to full as a code: 0 to 9 mean 50 x (code + 1) notes", Saved, OneOf, Label(L"%s.CasFull")},
-    {kSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCassetteSlot::dwCasNearEmpty>,
+    {key::HopperSlot, L"CasNearEmpty", Element<&C::m_arSlot, &tagCassetteSlot::dwCasNearEmpty>,
      0, L"distance to nearly empty as a code: 0 to 9 mean 50 x (code + 1) notes; 80 to 89 mean 10 x (code - 79) notes",
      Saved, OneOf, Label(L"%s.CasNearEmpty")},
 };
@@ -115,7 +115,7 @@ inline constexpr Setting kWQNoteRecyclerBeforeSlots[] = {
     {key::Capabilities, L"SetPOSNULLPosition", &WQNoteRecycler::m_dwSetPOSNULLPosition, 0,
      L"what a null position from the application means: 0 the input slot; 1 the output slot; 2 both", Saved, OneOf},
     Group(Rows<kNoteRecyclerCassettes>),
-    {kHopper, L"AddCasDataType", &WQNoteRecycler::m_dwAddCasDataType, 0,
+    {key::Hopper, L"AddCasDataType", &WQNoteRecycler::m_dwAddCasDataType, 0,
      L"additions to the counts of a mixed cassette by denomination: 0 no; 1 yes", Saved},
     Group(Rows<kNoteRecyclerUnitPhyPosName>),
     {kHopperF, L"UseCassetteFAndNotSupportRtract", &WQNoteRecycler::m_dwUseCassetteFAndNotSupportRtract, 0,
