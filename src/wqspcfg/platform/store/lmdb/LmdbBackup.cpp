@@ -171,7 +171,7 @@ bool RestoreWithin(LmdbEnvironment& environment, const std::string& address, Bac
         } else {
             mdb_txn_abort(txn);
         }
-        environment.EndWrite(status);
+        environment.EndWrite(status, true);
         if (status == 0) {
             return true;
         }
@@ -387,7 +387,7 @@ bool CompactLmdb(const std::string& address, const std::string& directory, Compa
     }
     const bool done = CompactWithin(*environment, address, txn, counts, error);
     mdb_txn_abort(txn);
-    environment->EndWrite(0);
+    environment->EndWrite(0, false);
     return done;
 }
 

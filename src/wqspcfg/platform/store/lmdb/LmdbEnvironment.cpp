@@ -620,8 +620,8 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
                               Error& error)
 {
     const auto now = CoarseMilliseconds();
-    if (access == Access::Read && m_env != nullptr && !m_broken && now < m_nextLook) {
-        return true;
+    if (m_env != nullptr && !m_broken && now < m_nextLook && (access == Access::Read || m_whyReadOnly.empty())) {
+        return true; // a writer looks again when it has its turn
     }
     for (bool hasWaited = false;; hasWaited = true) {
         m_nextLook = 0;
@@ -998,6 +998,7 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
             bool isLockGone = false;
             const std::lock_guard lock(m_mutex);
             isThere = IsWhereItWas(address, isLockGone, error);
+            m_nextLook = isThere ? m_nextLook : 0;
         }
         result = isThere ? mdb_txn_begin(m_env, nullptr, 0, &txn) : 0;
         if (txn != nullptr && (result = mdb_dbi_open(txn, nullptr, 0, &m_dbi)) != 0) {
@@ -1022,7 +1023,8 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
     error = {};
     LmdbTree tree;
     const auto last = StateBefore(txn);
-    const bool sound = tree.Open(m_map, m_map.Size(), last) && (IsAsWritten(last) || tree.VerifyStructure());
+    m_isDurable = IsAsWritten(last); // as a mark is written after its transaction
+    const bool sound = tree.Open(m_map, m_map.Size(), last) && (m_isDurable || tree.VerifyStructure());
     if (!sound) {
         error = DescribeDamage(address, tree.Cause());
     }
@@ -1057,13 +1059,23 @@ bool LmdbEnvironment::IsAsWritten(std::uint64_t last) const
            ReadMark(m_lockFile, mark) && mark.IsOf(now);
 }
 
-void LmdbEnvironment::EndWrite(int status) noexcept
+int LmdbEnvironment::MakeDurable() noexcept
+{
+    const auto status = m_isDurable ? 0 : mdb_env_sync(m_env, 1);
+    m_isDurable = status == 0;
+    return status;
+}
+
+void LmdbEnvironment::EndWrite(int status, bool isCommitted) noexcept
 {
     m_writer = std::thread::id();
-    struct stat data = {};
-    if (status == 0 && fstat(m_dataFile.Get(), &data) == 0 && data.st_nlink > 0) {
-        m_ownMark = MarkOf(data, LastTransaction(m_dataFile));
-        WriteMark(m_lockFile, m_ownMark);
+    if (status == 0 && (isCommitted || !m_isDurable)) {
+        m_isDurable = m_isDurable || isCommitted;
+        struct stat data = {};
+        if (MakeDurable() == 0 && fstat(m_dataFile.Get(), &data) == 0 && data.st_nlink > 0) {
+            m_ownMark = MarkOf(data, LastTransaction(m_dataFile));
+            WriteMark(m_lockFile, m_ownMark);
+        }
     }
     EndTurn();
     Release(status);

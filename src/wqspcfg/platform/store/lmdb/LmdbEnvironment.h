@@ -49,8 +49,10 @@ class LmdbEnvironment
     using LookAtState = std::function<void(LmdbTree& tree, std::uint64_t transaction)>;
     bool LookAt(const std::string& address, const LookAtState& look, Error& error);
     MDB_txn* BeginWrite(const std::string& address, Error& error);
-    // After the transaction was committed or aborted with `status`.
-    void EndWrite(int status) noexcept;
+    // Makes the state that BeginWrite has found durable, which a writer that was killed may not have done.
+    int MakeDurable() noexcept;
+    // After the transaction ended with `status`; `isCommitted`: it wrote something.
+    void EndWrite(int status, bool isCommitted) noexcept;
     // Puts the record that ties the transaction's content to its number. Part of every commit that changes anything.
     static int PutState(MDB_txn* txn, MDB_dbi dbi, std::uint64_t number);
     static int PutState(MDB_txn* txn, MDB_dbi dbi) { return PutState(txn, dbi, mdb_txn_id(txn)); }
@@ -167,7 +169,8 @@ class LmdbEnvironment
     bool m_full = false;   // a write found the map full
     bool m_broken = false; // LMDB gave the environment up
     std::atomic<std::thread::id> m_writer{};
-    LmdbMark m_ownMark; // after this process's last write
+    LmdbMark m_ownMark;       // after this process's last write
+    bool m_isDurable = false; // what the writer has found, or has committed
 
     std::mutex m_turnMutex;
     std::condition_variable m_turnEnded;

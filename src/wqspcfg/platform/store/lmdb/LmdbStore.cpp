@@ -47,7 +47,7 @@ class LmdbEngine
         CloseCursor();
         if (m_write) {
             mdb_txn_abort(m_txn);
-            m_environment->EndWrite(m_status);
+            m_environment->EndWrite(m_status, false);
         } else {
             m_environment->EndRead(m_txn);
         }
@@ -158,14 +158,13 @@ class LmdbEngine
         if (m_status != 0) {
             mdb_txn_abort(m_txn);
         } else {
-            // What is there already may be of a writer that was killed before it was durable.
-            m_status = m_changed ? 0 : mdb_env_sync(mdb_txn_env(m_txn), 1);
+            m_status = m_changed ? 0 : m_environment->MakeDurable();
             if (const auto committed = mdb_txn_commit(m_txn); m_status == 0) {
                 m_status = committed;
             }
         }
         m_txn = nullptr;
-        m_environment->EndWrite(m_status);
+        m_environment->EndWrite(m_status, m_changed);
         return Result(m_status, "write");
     }
 
