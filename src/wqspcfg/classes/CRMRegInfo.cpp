@@ -71,17 +71,14 @@ constexpr auto kLoadMixNumbers = LoadedBy([](C& c, Loading& loading) { LoadMixNu
 
 // ---- serial numbers ----
 
-bool OpenSNRData(const C& c, KeyHandle& key)
+bool OpenSNRData(C& c)
 {
-    return key.Open(FormatString(L"%s%s\\%s", kDeviceRoot, c.GetExeDllMother(1, nullptr), kSnrData.subkey));
+    return c.m_keySNRData.Open(FormatString(L"%s%s\\%s", kDeviceRoot, c.GetExeDllMother(1, nullptr), kSnrData.subkey));
 }
 
-// Loads one of the records; false when their key cannot be opened.
+constexpr auto kOpenSNRData = Step([](C& c, Loading&) -> bool { return OpenSNRData(c); });
 template <auto Record>
-constexpr auto kLoadRecord = [](C& c, Loading&) -> bool {
-    KeyHandle key;
-    return OpenSNRData(c, key) && (c.*Record).Load(key.Get());
-};
+constexpr auto kLoadRecord = [](C& c, Loading&) -> bool { return (c.*Record).Load(c.m_keySNRData.Get()); };
 
 // ---- corrections ----
 
@@ -352,6 +349,7 @@ constexpr Setting kSettings[] = {
      L"most rejected notes accumulated in one deposit: 0 the reject count does not tell whether the reject area is "
      L"full"},
     kLoadNoteTypes,
+    kOpenSNRData,
     Step<&C::m_sBillSNRegInfo>(kLoadRecord<&C::m_sBillSNRegInfo>, Rows<kBillSNRows>),
     Step<&C::m_sBillFSNRegInfo>(kLoadRecord<&C::m_sBillFSNRegInfo>, Rows<kBillFSNRows>),
     Step<&C::m_sBillBLRegInfo>(kLoadRecord<&C::m_sBillBLRegInfo>, Rows<kBillBLRows>),
@@ -571,14 +569,14 @@ void CCRMRegInfo::Save()
     WriteNoteTypes(*this, m_arNoteType, [&saving](const Iteration& noteType, DWORD dwConfig) {
         saving.Put(kNoteTypeConfig, noteType, dwConfig);
     });
-    KeyHandle key;
-    if (!OpenSNRData(*this, key)) {
+    if (!OpenSNRData(*this)) {
         return;
     }
-    m_sBillSNRegInfo.Save(key.Get());
-    m_sBillFSNRegInfo.Save(key.Get());
-    m_sBillBLRegInfo.Save(key.Get());
-    m_sBillFAIRegInfo.Save(key.Get());
+    const auto key = m_keySNRData.Get();
+    m_sBillSNRegInfo.Save(key);
+    m_sBillFSNRegInfo.Save(key);
+    m_sBillBLRegInfo.Save(key);
+    m_sBillFAIRegInfo.Save(key);
     const auto last = kLastOrder();
     saving.Write(last.first(last.size() - (m_dwEnableRandSpecMix != 0 ? 0 : 1)));
 }

@@ -7,6 +7,7 @@
 #include "wqspcfg/parts/serial/BillFSNRegInfo.h"
 #include "wqspcfg/parts/serial/BillSNRegInfo.h"
 #include "wqspcfg/platform/framework/FrameworkTypes.h"
+#include "wqspcfg/platform/store/KeyHandle.h"
 #include "wqspcfg/platform/xfs/XfsCim.h"
 
 // One object serves both faces of the module, the dispenser (CDM) and the acceptor (CIM). Values ending in InCDM or
@@ -162,6 +163,7 @@ class WQSPCFG_API CCRMRegInfo : public CRegInfo
     CArray<WORD, WORD> m_arSupportMixNumber;
     NoteTypes m_arNoteType; // as of the last Load or ConfigureNoteTypes
 
+    wqspcfg::KeyHandle m_keySNRData; // of the four records; open after Load has read them
     tagBillSNRegInfo m_sBillSNRegInfo;
     tagBillFSNRegInfo m_sBillFSNRegInfo;
     tagBillBLRegInfo m_sBillBLRegInfo;

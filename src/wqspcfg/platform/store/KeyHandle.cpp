@@ -22,9 +22,10 @@ struct OpenHandles
     std::unordered_map<HKEY, std::wstring> paths;
 };
 
+// Never destroyed: an object that ends with the process may hold a key.
 OpenHandles& Handles()
 {
-    static OpenHandles handles;
+    static auto& handles = *new OpenHandles;
     return handles;
 }
 
