@@ -7,6 +7,7 @@
 #include "wqspcfg/classes/SIURegInfo.h"
 #include "wqspcfg/models/crd/SpCRDWQTYM1200RegInfo.h"
 #include "wqspcfg/models/ptr/SpPTRPrdFPCNormalRegInfo.h"
+#include "wqspcfg/models/siu/SpSIUCABCRegInfo.h"
 #include "wqspcfg/platform/store/Session.h"
 #include "wqspcfg/platform/xfs/XfsResult.h"
 
@@ -190,9 +191,17 @@ TEST_F(SavePolicyTest, WhatASaveCouldNotWriteIsWrittenByTheNext)
     CSpCRDWQTYM1200RegInfo dispenser(L"Svc", false);
     CCRMRegInfo cash(L"Svc", false);
     CSIURegInfo sensors(L"Svc", false);
+    CSpSIUCABCRegInfo board(L"Svc", false);
+    Set(Device(L"Control"), L"XFSIndesOfLight_6", L"3");
     dispenser.Load(&m_log);
     cash.Load(&m_log);
     sensors.Load(&m_log);
+    board.Load(&m_log);
+    for (INT_PTR i = 0; i < board.m_arLightMap.GetSize(); ++i) {
+        if (board.m_arLightMap[i].wPhyLight == 6) {
+            board.m_arLightMap[i].wXFSIndex = 8;
+        }
+    }
     dispenser.m_dwPort = 44;
     cash.m_sBillSNRegInfo.dwAPID = 7;
     sensors.m_mapKeyboardMapping.SetAt(L"1", L"B");
@@ -200,6 +209,7 @@ TEST_F(SavePolicyTest, WhatASaveCouldNotWriteIsWrittenByTheNext)
         dispenser.Save();
         cash.Save();
         sensors.Save();
+        board.Save();
     };
     {
         WriteScope scope;
@@ -211,6 +221,25 @@ TEST_F(SavePolicyTest, WhatASaveCouldNotWriteIsWrittenByTheNext)
     EXPECT_EQ(Number(m_comm, L"Port"), 44U);
     EXPECT_EQ(Number(records, L"dwAPID"), 7U);
     EXPECT_EQ(Text(agent, L"1"), L"B");
+    EXPECT_EQ(Text(Device(L"Control"), L"XFSIndesOfLight_6"), L"8");
+}
+
+TEST_F(SavePolicyTest, WhatItWroteWhereThereWasNothingIsNoChangeOfTheObjectLater)
+{
+    CSpCRDWQTYM1200RegInfo config(L"Svc", false);
+    Set(m_comm, L"BaudRate", L"x");
+    config.Load(&m_log);
+    config.m_dwPort = 9;
+    config.m_dwBaudRate = 38400;
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 9U);
+    EXPECT_EQ(Number(m_comm, L"BaudRate"), 38400U);
+    Set(m_comm, L"Port", 4);
+    Set(m_comm, L"BaudRate", 9600);
+    config.Save();
+    EXPECT_EQ(Number(m_comm, L"Port"), 4U);
+    EXPECT_EQ(Number(m_comm, L"BaudRate"), 9600U);
+    EXPECT_FALSE(HasError({}));
 }
 
 TEST_F(SavePolicyTest, ABackwardChangeBeforeTheCommitIsWritten)

@@ -135,12 +135,21 @@ TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsStatus3AndIsNamed)
     }
     EXPECT_FALSE(std::filesystem::exists(File("store")));
     EXPECT_EQ(RunOn("reg:" + File("none.reg"), {"ls"}), 3);
-    EXPECT_EQ(RunOn("nonsense", {"ls"}), 3);
+    for (const auto* address : {"nonsense", "lmdb:", "reg:", "hive:"}) {
+        EXPECT_EQ(RunOn(address, {"ls"}), 2);
+        EXPECT_NE(m_err.find(address), std::string::npos) << m_err;
+    }
     EXPECT_EQ(Run({"import", File("none.reg")}), 3);
     EXPECT_EQ(RunOn("memory:", {"backup", File("b")}), 3);
     EXPECT_NE(m_err.find("memory:"), std::string::npos) << m_err;
     EXPECT_FALSE(std::filesystem::exists(File("b")));
     EXPECT_EQ(RunOn("memory:", {"restore", File("b")}), 3);
+    for (std::vector<std::string> arguments :
+         {std::vector<std::string>{"status"}, {"compact"}, {"backup", File("b")}, {"restore", File("b")}, {"ls"}}) {
+        arguments.emplace_back("--view32");
+        EXPECT_EQ(Run(arguments), 2) << arguments.front();
+        EXPECT_NE(m_err.find("--view32"), std::string::npos) << m_err;
+    }
 #if !defined(WQSPCFG_WITH_HIVEX)
     EXPECT_EQ(RunOn("hive:" + File("config"), {"services"}), 3);
 #if defined(_WIN32)
@@ -595,7 +604,7 @@ TEST_F(CommandLineTest, AStoreThatIsMadeIsNamed)
     ASSERT_EQ(Run({"import", "-"}, "REGEDIT4\n[HKLM\\a]\n\"x\"=dword:1\n"), 0) << m_err;
     EXPECT_EQ(m_err, "wqspcfg: created the store " + StoreAddress() + "\nstandard input: 1 key, 1 value\n");
     ASSERT_EQ(Run({"import", "-"}, "REGEDIT4\n[HKLM\\a]\n\"x\"=-\n\"y\"=-\n"), 0) << m_err;
-    EXPECT_EQ(m_err, "standard input: 1 key, 0 values, 2 deletions\n");
+    EXPECT_EQ(m_err, "standard input: 1 key, 0 values, 1 deletion\n");
     ASSERT_EQ(Run({"backup", File("b")}), 0) << m_err;
     ASSERT_EQ(RunOn("lmdb:" + File("other"), {"restore", File("b")}), 0);
     EXPECT_NE(m_err.find("created the store lmdb:" + File("other")), std::string::npos) << m_err;

@@ -15,7 +15,8 @@ enum class SavePolicy : std::uint8_t
     // A value that the object changed since it loaded or constructed it, and a value of which the registry has none of
     // the right type. What somebody else changed meanwhile stays. Where both changed one, the object's is written, and
     // an error line says so in the log that Load was given, which must then live as long as the object.
-    // The parts of the serial-number records' names are one list each, which is written as under All.
+    // The serial-number records write under both policies only what the object changed: a value of another type stays.
+    // The parts of their names are one list each, which is written as under All.
     OwnChanges,
 };
 

@@ -415,7 +415,8 @@ class Checker
                     {},
                     key,
                     std::nullopt,
-                    "the keys of 32-bit programs under " + Utf8(key) + " are not read; give --view32 to read them",
+                    "the keys of 32-bit programs under " + Utf8(key) +
+                        " are not read; --view32 reads them, and `import --view32` brings them into an embedded store",
                     {}});
         }
     }

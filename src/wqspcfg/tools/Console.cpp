@@ -14,6 +14,7 @@ namespace wqspcfg::tools {
 namespace {
 
 constexpr std::string_view kEmbedded = "lmdb:";
+constexpr std::string_view kFile = "reg:";
 constexpr std::string_view kDisk = "hive:";
 
 } // namespace
@@ -40,7 +41,7 @@ StoreChoice StoreChoice::At(const std::string& other, const std::string& option)
     }
     auto choice = *this;
     choice.address = other;
-    const bool isFile = other.starts_with("reg:");
+    const bool isFile = other.starts_with(kFile);
     choice.view32 =
         view32 && other != "windows:64" && (isFile || other.starts_with(kDisk) || other.starts_with("windows:"));
     choice.codePage = isFile ? codePage : 0;
@@ -50,8 +51,21 @@ StoreChoice StoreChoice::At(const std::string& other, const std::string& option)
 void StoreChoice::Check(bool isImport) const
 {
     const auto store = Address();
-    const bool isFile = store.starts_with("reg:");
+    const bool isFile = store.starts_with(kFile);
     const bool isDisk = store.starts_with(kDisk);
+    for (const auto kind : {kEmbedded, kFile, kDisk}) {
+        if (store == kind) {
+            throw UsageError(store + " is to be followed by " +
+                             (kind == kEmbedded ? "a directory"
+                              : kind == kFile   ? "a file"
+                                                : "a directory or a file"));
+        }
+    }
+    if (!isFile && !isDisk && !store.starts_with(kEmbedded) && !store.starts_with("windows:") && store != "memory:") {
+        throw UsageError("unknown store address \"" + store +
+                         "\"; expected windows:, windows:32, windows:64, lmdb:DIRECTORY, reg:FILE, hive:DIRECTORY, "
+                         "hive:FILE or memory:");
+    }
     if (view32 && store == "windows:64") {
         throw UsageError("--view32 contradicts windows:64, which is the view of 64-bit programs");
     }
@@ -98,9 +112,6 @@ std::shared_ptr<Store> StoreChoice::OpenAddress(const OpenOptions& options, Erro
         return opened;
     }
     const auto path = store.substr(kDisk.size());
-    if (path.empty()) {
-        throw UsageError("hive: is to be followed by a directory or a file");
-    }
 #if defined(WQSPCFG_WITH_HIVEX)
     auto hives = HiveStore::Open(store, path, options.view32, error);
     if (hives && note) {

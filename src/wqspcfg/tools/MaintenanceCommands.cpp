@@ -68,6 +68,7 @@ std::string Printable(const std::string& text)
 
 int Compact(const StoreChoice& choice, const Console& console)
 {
+    choice.Check(false);
     Error error;
     CompactCounts counts;
     const auto address = choice.Address();
@@ -81,6 +82,7 @@ int Compact(const StoreChoice& choice, const Console& console)
 
 int ShowStatus(const StoreChoice& choice, const StatusOptions& options, const Console& console)
 {
+    choice.Check(false);
     Error error;
     StoreStatus status;
     if (!GetStoreStatus(choice.Address(), options.verify, status, error)) {

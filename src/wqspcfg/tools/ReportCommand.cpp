@@ -42,7 +42,7 @@ int Report(const StoreChoice& choice, const ReportCommandOptions& options, const
     if (!store) {
         return console.Fail(error);
     }
-    std::vector<std::string> sources{store->FilePath()};
+    auto sources = store->Files();
     diagnosis::Places places(SourceOf(choice));
     diagnosis::Checkup checkup;
     {
@@ -59,7 +59,8 @@ int Report(const StoreChoice& choice, const ReportCommandOptions& options, const
         if (!(store = OpenForExamination(*other, error))) {
             return console.Fail(error);
         }
-        sources.push_back(store->FilePath());
+        const auto others = store->Files();
+        sources.insert(sources.end(), others.begin(), others.end());
         const CurrentStoreScope current(std::move(store));
         otherTerminal = diagnosis::ExamineTerminal({});
         if (otherTerminal.failure) {

@@ -21,6 +21,7 @@ class ScratchStore final : public Store
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_base->Address(); }
     std::string FilePath() const override { return m_base->FilePath(); }
+    std::vector<std::string> Files() const override { return m_base->Files(); }
     std::size_t NameRoom() const noexcept override { return m_base->NameRoom(); }
 
     // Tells what was written, key by key.

@@ -403,11 +403,12 @@ int Export(const StoreChoice& choice, const std::string& key, const std::string&
         return done || !output ? int{kDone}
                                : console.Fail(error.kind == ErrorKind::NotFound ? kNegative : kFailed, error.message);
     };
-    return file.empty() ? write(console.out) : WriteOutputFile(file, {store->FilePath()}, write, console);
+    return file.empty() ? write(console.out) : WriteOutputFile(file, store->Files(), write, console);
 }
 
 int BackUp(const StoreChoice& choice, const std::string& file, const Console& console)
 {
+    choice.Check(false);
     BackupCounts counts;
     Error error;
     if (!BackUpStore(choice.Address(), file, counts, error)) {
@@ -420,6 +421,7 @@ int BackUp(const StoreChoice& choice, const std::string& file, const Console& co
 int Restore(const StoreChoice& choice, const std::string& file, const std::optional<PreviewOptions>& preview,
             const Console& console)
 {
+    choice.Check(false);
     if (preview) {
         return PreviewRestore(choice, file, *preview, console);
     }

@@ -67,8 +67,25 @@ TEST_F(HiveCommandsTest, WriteNothingAndSayWhatIsNotThere)
         EXPECT_EQ(RunOn(m_disk, arguments), 3) << arguments.front();
         EXPECT_THAT(m_err, HasSubstr(m_disk)) << arguments.front();
     }
+    // Nor does another command replace a file of the disk, logs and hives that are not read included.
+    for (const auto* name : {"DEFAULT.LOG1", "SYSTEM"}) {
+        std::filesystem::copy_file(File("DEFAULT"), File(name));
+    }
+    for (const auto* name : {"SOFTWARE", "DEFAULT", "DEFAULT.LOG1", "SYSTEM"}) {
+        EXPECT_EQ(RunOn(m_disk, {"export", "-o", File(name)}), 3) << name;
+        EXPECT_EQ(RunOn(m_disk, {"report", "-o", File(name)}), 3) << name;
+        EXPECT_EQ(RunOn(m_export, {"report", "--against", m_disk, "-o", File(name)}), 3) << name;
+        EXPECT_THAT(m_err, HasSubstr(File(name)));
+    }
     EXPECT_EQ(test::ReadFile(File("SOFTWARE")) + test::ReadFile(File("DEFAULT")), before);
-    EXPECT_EQ(RunOn("hive:", {"services"}), 2);
+    EXPECT_EQ(test::ReadFile(File("SYSTEM")), test::ReadFile(File("DEFAULT.LOG1")));
+    // What comes from a file that only its owner may read is only for him.
+    namespace fs = std::filesystem;
+    fs::permissions(File("DEFAULT"), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(RunOn(m_disk, {"export", "-o", File("all.reg")}), 0) << m_err;
+    EXPECT_EQ(fs::status(File("all.reg")).permissions() & (fs::perms::group_all | fs::perms::others_all),
+              fs::perms::none);
+    fs::remove(File("DEFAULT.LOG1"));
     EXPECT_EQ(RunOn(m_disk, {"services", "--codepage", "936"}), 2);
 
     auto image = test::ReadFile(File("SOFTWARE"));

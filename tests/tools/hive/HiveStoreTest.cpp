@@ -233,8 +233,8 @@ TEST_F(HiveStoreTest, FindsTheHivesOnADisk)
     std::filesystem::create_directory(directory.Path() / "disk/Software");
     const std::wstring provider = L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\P";
     const std::wstring service = L".DEFAULT\\XFS\\LOGICAL_SERVICES\\L";
-    for (const auto* from :
-         {"disk", "disk/", "disk/WINDOWS", "disk/WINDOWS/system32", "disk/WINDOWS/system32/Config"}) {
+    for (const auto* from : {"disk", "disk/", "disk/WINDOWS", "disk/WINDOWS/system32", "disk/WINDOWS/system32/Config",
+                             "Disk/windows/System32", "disk/windows//SYSTEM32/config/"}) {
         const auto store = OpenHive(File(from));
         EXPECT_EQ(Get(*store, provider, L"n"), "4:01000000") << from;
         EXPECT_EQ(Get(*store, service, L"n", Hive::Users), "4:02000000") << from;
@@ -242,6 +242,8 @@ TEST_F(HiveStoreTest, FindsTheHivesOnADisk)
 
     // A file by its name, or else by the name that Windows gave it, or else by its keys.
     auto store = OpenHive((config / "software").string());
+    EXPECT_EQ(Get(*store, provider, L"n"), "4:01000000");
+    store = OpenHive((config / "SOFTWARE").string());
     EXPECT_EQ(Get(*store, provider, L"n"), "4:01000000");
     EXPECT_EQ(Subkeys(*store, L"", Hive::Users), std::vector<std::wstring>{});
     EXPECT_THAT(Notes(*store), HasSubstr("only the hive SOFTWARE is read; HKEY_USERS is empty"));

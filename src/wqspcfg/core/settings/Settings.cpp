@@ -782,11 +782,9 @@ bool Saving::IsToBeWritten(const Setting& row, unsigned index, Session::Key key,
     }
     T current{};
     ValueView view;
-    if (m_scope->Query(key, name, view) != Outcome::Found || !ToValue(view, current)) {
-        return true;
-    }
-    if (!IsOwnChange(m_object, row, index, ContentOf(held), ContentOf(ConstructedOf<T>(row, index)), ContentOf(current),
-                     name)) {
+    const bool isThere = m_scope->Query(key, name, view) == Outcome::Found && ToValue(view, current);
+    if (isThere && !IsOwnChange(m_object, row, index, ContentOf(held), ContentOf(ConstructedOf<T>(row, index)),
+                                ContentOf(current), name)) {
         return false;
     }
     RememberAtEnd(row, index, {ContentOf(written), ContentOf(held)});

@@ -68,11 +68,17 @@ constexpr auto kIfMappedAnew = SavedIf([](C& c, unsigned n) {
             strIndexes.AppendFormat(strIndexes.IsEmpty() ? L"%d" : L",%d", +mapping.wXFSIndex);
         }
     }
-    CString& strRead = kTextOfLight<First>(c, n);
-    if ((c.m_bCashModuleLight && light == kFirstLight) || indexes == IndexesIn(strRead)) {
+    CString& strStored = (*c.m_pStoredLightTexts)[First - kFirstLight + n];
+    if ((c.m_bCashModuleLight && light == kFirstLight) || indexes == IndexesIn(strStored)) {
         return false;
     }
-    strRead = strIndexes;
+    kTextOfLight<First>(c, n) = strIndexes;
+    const WriteScope scope;
+    scope->AtEnd([texts = c.m_pStoredLightTexts, &strStored, strIndexes](bool committed) {
+        if (committed) {
+            strStored = strIndexes;
+        }
+    });
     return true;
 });
 
@@ -198,6 +204,8 @@ const Table& CSpSIUCABCRegInfo::Settings() noexcept
 
 void CSpSIUCABCRegInfo::MapLights(CLog* pLog)
 {
+    m_pStoredLightTexts = std::make_shared<LightTexts>();
+    std::copy(std::begin(m_strLightIndexes), std::end(m_strLightIndexes), m_pStoredLightTexts->begin());
     m_arLightMap.RemoveAll();
     m_arCashModuleLightMap.RemoveAll();
     if (!m_bCashModuleLight) {

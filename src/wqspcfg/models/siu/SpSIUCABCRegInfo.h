@@ -3,6 +3,9 @@
 #include "wqspcfg/classes/SIURegInfo.h"
 #include "wqspcfg/parts/SafeAgent.h"
 
+#include <array>
+#include <memory>
+
 // One use of a light output of the controller board: the guidance light of the XFS capabilities that it stands for.
 struct tagPhyLightToXFSIndex
 {
@@ -81,7 +84,11 @@ class WQSPCFG_API CSpSIUCABCRegInfo : public CSIURegInfo, public wqspcfg::SafeAg
     LightMap m_arLightMap;           // filled afresh by Load
     LightMap m_arCashModuleLightMap;
     DWORD m_dwProximityPresentWaitTime{}; // milliseconds
-    CString m_strLightIndexes[kLights];   // as Load read them or Save wrote them, light 5 first
+    CString m_strLightIndexes[kLights];   // as Load read them or Save writes them, light 5 first
+
+    // The same as the registry has them: a Save counts once it is committed.
+    using LightTexts = std::array<CString, kLights>;
+    std::shared_ptr<LightTexts> m_pStoredLightTexts = std::make_shared<LightTexts>();
 
   private:
     void MapLights(CLog* pLog);

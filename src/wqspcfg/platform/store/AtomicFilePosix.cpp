@@ -32,6 +32,14 @@ mode_t OtherRights(const struct stat& file, gid_t group)
     return file.st_mode & (file.st_gid == group ? 7U : (file.st_mode >> 3) & 7U);
 }
 
+bool IsHiveFile(const FileDescriptor& file)
+{
+    constexpr std::string_view kSignature = "regf";
+    char head[kSignature.size()];
+    return file && pread(file.Get(), &head[0], sizeof head, 0) == static_cast<ssize_t>(sizeof head) &&
+           std::string_view(&head[0], sizeof head) == kSignature;
+}
+
 std::string RandomName(const std::string& name)
 {
     constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz0123456789";
@@ -117,11 +125,14 @@ bool AtomicFile::State::Find(const std::vector<Source>& sources, Replaces replac
     return what.empty();
 }
 
-// What file of an embedded store stands in the target's place; empty for none.
+// What file of a registry stands in the target's place; empty for none.
 std::string AtomicFile::State::StoreFileAt(Replaces replaces) const
 {
-    const auto kind =
-        KindOfStoreFile(OpenAt(directory.Get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    const auto there = OpenAt(directory.Get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+    if (IsHiveFile(there)) {
+        return "a file of the Windows registry"; // a hive or its transaction log
+    }
+    const auto kind = KindOfStoreFile(there);
     if (kind != StoreFile::Data) {
         return kind == StoreFile::Lock ? "the lock file of an embedded store" : "";
     }

@@ -16,6 +16,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace wqspcfg {
 
@@ -145,6 +146,12 @@ class Store
     virtual const std::string& Address() const noexcept = 0;
     // The file that holds the content, whose rights tell who may see it; empty where there is none.
     virtual std::string FilePath() const { return {}; }
+    // That file and all others which are part of the content.
+    virtual std::vector<std::string> Files() const
+    {
+        auto path = FilePath();
+        return path.empty() ? std::vector<std::string>() : std::vector{std::move(path)};
+    }
     // How many bytes the name of a key or value may have together with the path to it, as the store keeps them.
     virtual std::size_t NameRoom() const noexcept { return static_cast<std::size_t>(-1); }
     // Whether a write transaction that is not committed leaves no trace.

@@ -100,9 +100,10 @@ bool OpenIn(const Place& directory, std::wstring_view name, std::optional<Place>
     return true;
 }
 
-// Names the transaction logs of a hive that hold what it lacks. `file` is its name in the directory.
+// Names the transaction logs of a hive that hold what it lacks. `file` is its name in the directory. All of its logs
+// are added to `files`.
 std::string NewerLogs(const Place& directory, const std::string& file, std::uint32_t sequence,
-                      std::vector<std::string>& notes)
+                      std::vector<std::string>& files, std::vector<std::string>& notes)
 {
     std::string logs;
     std::wstring name;
@@ -115,22 +116,27 @@ std::string NewerLogs(const Place& directory, const std::string& file, std::uint
         Error error;
         if (!OpenIn(directory, name + extension, log, error)) {
             notes.push_back(error.message + "; whether this log holds changes is not known");
-        } else if (log && HasNewerChanges(log->file, sequence)) {
-            logs += (logs.empty() ? "" : " and ") + log->path;
+        } else if (log) {
+            files.push_back(log->path);
+            if (HasNewerChanges(log->file, sequence)) {
+                logs += (logs.empty() ? "" : " and ") + log->path;
+            }
         }
     }
     return logs;
 }
 
-std::shared_ptr<const HiveFile> OpenHive(const Place& directory, const Place& place, std::vector<std::string>& notes,
-                                         Error& error)
+std::shared_ptr<const HiveFile> OpenHive(const Place& directory, const Place& place, std::vector<std::string>& files,
+                                         std::vector<std::string>& notes, Error& error)
 {
     std::shared_ptr<const HiveFile> hive = HiveFile::Open(place.file, place.path, error);
     if (!hive) {
         return nullptr;
     }
     const auto& image = hive->Image();
-    const auto logs = NewerLogs(directory, place.path.substr(place.path.rfind('/') + 1), image.Sequence(), notes);
+    files.push_back(place.path);
+    const auto logs =
+        NewerLogs(directory, place.path.substr(place.path.rfind('/') + 1), image.Sequence(), files, notes);
     if (image.IsDirty() || !logs.empty()) {
         notes.push_back(place.path + ": Windows did not finish writing to this hive. " +
                         (logs.empty() ? "Its last changes are in none of its transaction logs"
@@ -148,10 +154,10 @@ bool OpenBoth(const Place& directory, HiveSet& hives, std::vector<std::string>& 
         return false;
     }
     if (software) {
-        hives.software = OpenHive(directory, *software, notes, error);
+        hives.software = OpenHive(directory, *software, hives.files, notes, error);
     }
     if (standard && !error) {
-        hives.standard = OpenHive(directory, *standard, notes, error);
+        hives.standard = OpenHive(directory, *standard, hives.files, notes, error);
     }
     return !error;
 }
@@ -230,22 +236,53 @@ Which Tell(const HiveFile& hive)
                                                                                   : Which::Unknown;
 }
 
+// The path with each name of it that is not there as it is given replaced by the one that is there in another case.
+std::string InOtherCase(const std::string& path)
+{
+    std::string found = path.starts_with('/') ? "/" : "";
+    for (std::size_t begin = 0; begin < path.size();) {
+        const auto end = std::min(path.find('/', begin), path.size());
+        auto name = path.substr(begin, end - begin);
+        begin = end + 1;
+        if (name.empty()) {
+            continue;
+        }
+        const auto parent = found.empty() ? "." : found;
+        if (!OpenFile(found + name, kReadOnly) && errno == ENOENT) {
+            const Place directory{OpenFile(parent, O_RDONLY | O_DIRECTORY), parent};
+            std::wstring wide;
+            std::optional<std::string> other;
+            Error error;
+            if (!directory.file || !AppendWideFromUtf8(name, wide) || !FindName(directory, wide, other, error) ||
+                !other) {
+                return path;
+            }
+            name = *other;
+        }
+        found += name + (end < path.size() ? "/" : "");
+    }
+    return found;
+}
+
 // As OpenHives.
 bool FindHives(const std::string& path, HiveSet& hives, std::vector<std::string>& notes, Error& error)
 {
     Place place{OpenFile(path, kReadOnly), path};
-    struct stat status = {};
-    if (!place.file || fstat(place.file.Get(), &status) != 0) {
-        error = SystemError("open", path, errno);
+    struct stat file = {};
+    if (const auto status = place.file && fstat(place.file.Get(), &file) == 0 ? 0 : errno; status != 0) {
+        if (const auto other = status == ENOENT ? InOtherCase(path) : path; other != path) {
+            return FindHives(other, hives, notes, error);
+        }
+        error = SystemError("open", path, status);
         return false;
     }
-    if (S_ISDIR(status.st_mode)) {
+    if (S_ISDIR(file.st_mode)) {
         return OpenBelow(std::move(place), hives, notes, error);
     }
     const auto parent = path.substr(0, path.rfind('/') + 1);
     const Place directory{OpenFile(parent.empty() ? "." : parent, O_RDONLY | O_DIRECTORY),
                           parent.empty() ? "." : parent};
-    auto hive = OpenHive(directory, place, notes, error);
+    auto hive = OpenHive(directory, place, hives.files, notes, error);
     if (!hive) {
         return false;
     }

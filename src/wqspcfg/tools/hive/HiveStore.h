@@ -16,6 +16,7 @@ struct HiveSet
 {
     std::shared_ptr<const HiveFile> software; // HKEY_LOCAL_MACHINE\SOFTWARE
     std::shared_ptr<const HiveFile> standard; // HKEY_USERS\.DEFAULT
+    std::vector<std::string> files;           // the paths of both and of their transaction logs
 };
 
 class HiveStore final : public Store
@@ -30,6 +31,7 @@ class HiveStore final : public Store
 
     std::unique_ptr<Transaction> Begin(Access access, Error& error) override;
     const std::string& Address() const noexcept override { return m_address; }
+    std::vector<std::string> Files() const override { return m_hives.files; }
     std::string FilePath() const override { return (m_hives.software ? m_hives.software : m_hives.standard)->Path(); }
 
   private:

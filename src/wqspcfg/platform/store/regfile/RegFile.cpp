@@ -80,6 +80,12 @@ std::string Shown(std::u16string_view text)
     return '"' + Utf8ForMessage(wide) + '"';
 }
 
+// A line up to a value's data.
+std::string ShownName(std::u16string_view line)
+{
+    return Shown(line.substr(0, line.find(u'=')));
+}
+
 } // namespace
 
 bool SplitHive(std::wstring_view fullPath, Hive& hive, std::wstring_view& path)
@@ -175,6 +181,14 @@ class RegFileParser::Impl
         const auto passed = std::u16string_view(m_text).substr(m_start, at);
         m_line += static_cast<std::size_t>(std::count(passed.begin(), passed.end(), u'\n'));
         return Fail(ErrorKind::Damaged, cause);
+    }
+
+    // Of a value's data, which is not shown: it may be a key or a password.
+    bool FailAtData(std::size_t at, const std::string& cause)
+    {
+        const auto passed = std::u16string_view(m_text).substr(m_start, at);
+        const auto begin = passed.rfind(u'\n') + 1; // 0 where there is none
+        return FailAt(at, cause + ", at column " + std::to_string(passed.size() - begin + 1));
     }
 
     bool Fail(ErrorKind kind, std::string_view cause)
@@ -467,7 +481,7 @@ class RegFileParser::Impl
         case u'@':
             return ParseValue(line, at);
         default:
-            return FailAt(at, "expected a key in brackets, a value or a comment, not " + Shown(line.substr(at)));
+            return FailAt(at, "expected a key in brackets, a value or a comment, not " + ShownName(line.substr(at)));
         }
     }
 
@@ -528,11 +542,11 @@ class RegFileParser::Impl
             AppendWide(m_units, m_wide);
         }
         if (!m_hasKey) {
-            return FailAt(start, "a value without a key: " + Shown(line.substr(start)));
+            return FailAt(start, "a value without a key: " + ShownName(line.substr(start)));
         }
         SkipBlanks(line, at);
         if (at == line.size() || line[at] != u'=') {
-            return FailAt(start, "'=' is missing after the value's name: " + Shown(line.substr(start)));
+            return FailAt(start, "'=' is missing after the value's name: " + Shown(line.substr(start, at - start)));
         }
         SkipBlanks(line, ++at);
         if (at == line.size()) {
@@ -618,12 +632,12 @@ class RegFileParser::Impl
             at += 4;
             const auto digits = ParseNumber(line, at, type);
             if (digits == 0 || digits > 8 || line.substr(at, 2) != u"):") {
-                return FailAt(start, "the type is not written as hex(NUMBER): in " + Shown(rest));
+                return FailAtData(start, "the type is not written as hex(NUMBER):");
             }
             at += 2;
             return ParseHex(line, at) && ConvertAnsi(type);
         }
-        return FailAt(at, "unknown kind of data: " + Shown(rest));
+        return FailAtData(at, "unknown kind of data; expected a quoted text, dword:, hex: or hex(NUMBER):");
     }
 
     // Without regard to case, as regedit reads it.
@@ -650,7 +664,7 @@ class RegFileParser::Impl
         std::uint32_t number = 0;
         const auto digits = ParseNumber(line, at, number);
         if (digits == 0 || digits > 8) {
-            return FailAt(start, "a dword has 1 to 8 hexadecimal digits, not " + Shown(line.substr(start)));
+            return FailAtData(start, "a dword has 1 to 8 hexadecimal digits");
         }
         const auto bytes = std::as_bytes(std::span(&number, 1));
         m_data.assign(bytes.begin(), bytes.end());
@@ -663,7 +677,7 @@ class RegFileParser::Impl
         while (SkipHexBlanks(line, at), at < line.size() && line[at] != u';') {
             const auto high = HexDigit(line[at]);
             if (high < 0) {
-                return FailAt(at, "not a hexadecimal byte: " + Shown(line.substr(at)));
+                return FailAtData(at, "not a hexadecimal byte");
             }
             auto value = high;
             if (++at < line.size() && HexDigit(line[at]) >= 0) {
@@ -675,7 +689,7 @@ class RegFileParser::Impl
             if (needsByte) {
                 ++at;
             } else if (at < line.size() && line[at] != u';') {
-                return FailAt(at, "',' is missing between hexadecimal bytes before " + Shown(line.substr(at)));
+                return FailAtData(at, "',' is missing between hexadecimal bytes");
             }
         }
         return !needsByte || FailAt(line.size(), "the hexadecimal bytes end with a ','");
@@ -706,8 +720,7 @@ class RegFileParser::Impl
     bool AtEnd(std::u16string_view line, std::size_t at)
     {
         SkipBlanks(line, at);
-        return at == line.size() || line[at] == u';' ||
-               FailAt(at, "text after the value's data: " + Shown(line.substr(at)));
+        return at == line.size() || line[at] == u';' || FailAtData(at, "text after the value's data");
     }
 
     // A REGEDIT4 file holds the bytes of texts in its own encoding.

@@ -119,6 +119,7 @@ class WQSPCFG_API RegFileWriter final : public RegFileVisitor
 
   private:
     bool Done(Outcome outcome, Error& error);
+    bool Deleted(Outcome outcome, Error& error);
     void Close();
 
     Transaction& m_transaction;

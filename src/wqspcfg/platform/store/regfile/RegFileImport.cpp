@@ -438,8 +438,7 @@ bool RegFileWriter::Key(Hive hive, std::wstring_view path, Error& error)
 bool RegFileWriter::DeleteKey(Hive hive, std::wstring_view path, Error& error)
 {
     Close();
-    ++m_counts.deletions;
-    return Done(m_transaction.DeleteKey(hive, path), error);
+    return Deleted(m_transaction.DeleteKey(hive, path), error);
 }
 
 bool RegFileWriter::Value(std::wstring_view name, const ValueView& value, Error& error)
@@ -450,11 +449,16 @@ bool RegFileWriter::Value(std::wstring_view name, const ValueView& value, Error&
 
 bool RegFileWriter::DeleteValue(std::wstring_view name, Error& error)
 {
-    ++m_counts.deletions;
-    return Done(m_transaction.DeleteValue(m_key, name), error);
+    return Deleted(m_transaction.DeleteValue(m_key, name), error);
 }
 
-// Deleting what is not there is no failure.
+// Deleting what is not there is no failure, and does not count.
+bool RegFileWriter::Deleted(Outcome outcome, Error& error)
+{
+    m_counts.deletions += outcome == Outcome::Found ? 1 : 0;
+    return Done(outcome, error);
+}
+
 bool RegFileWriter::Done(Outcome outcome, Error& error)
 {
     if (outcome == Outcome::Failed) {
