@@ -137,6 +137,20 @@ const Model kModels[] = {
      {{{L"Comm"}, L"Port BaudRate"}, {{L"Control"}, L"DevType StExtraRetFacInfo"}},
      {}},
     {L"CSpDEPWQEnvelopeRegInfo", L"CDEPRegInfo", {}, {}},
+    // A dispenser that is a reader, whose base reads NeedSupportMediaLatched, and a reader that is a dispenser.
+    {L"CSpCRDSankyo3A7230RegInfo",
+     L"CIDCRegInfo",
+     {{{L"Comm", L"Control"},
+       L"Type Port BaudRate PowerOffOption PowerOnOption SkimOfInsertCard IDCRetainBinStatus "
+       L"ISCRetainBinStatus ISCPowerOffOption ISCPowerOnOption InitBeforeDispenseCard InitBeforeReadCard DevType"}},
+     {}},
+    {L"CSpIDCpPrdIDCMotorRegInfo",
+     L"CCRDRegInfo",
+     {{{L"Control", L"TansPort"},
+       L"Adaptor PowerOnOption PowerOffOption MoveTansPortCardOptionWhenRest MoveTansPortCardOptionWhenDispense "
+       L"StatusOptionWhenCardInTansPort StatusOptionWhenDispenserStop ISCDispenseCardParam"},
+      {{L""}, L"DN.IDC_MOTOR DN.CRD_MOTOR"}},
+     {}},
     {L"CDEPRegInfo", L"CRegInfo", {}, {}},
     {L"CBCRRegInfo", L"CRegInfo", {}, {}},
 };
@@ -173,6 +187,8 @@ const Defaults kDefaults[] = {
      L"AtivePageUpPageDownInGetData 1 EarlyTerminateEnterToMaxLen 0 PageUpToFDK 0 PageDownToFDK 0 "
      L"LoadKeyEncKeyOfCryptCmd 0 ReadOneKeyToMaxForceEnter 0 PageUpToXFSKey 0 PageDownToXFSKey 0 CBHBSM 0",
      {}},
+    {L"CSpPINJstdE6060RegInfo", L"MacType 0 Port 0 BaudRate 57600", {}},
+    {L"CSpPINJstdE6020K02EASRegInfo", L"MacType 0 Port 1 BaudRate 9600", {}},
     {L"CTTURegInfo", L"IsUseInitialValue 0", {}},
 };
 
