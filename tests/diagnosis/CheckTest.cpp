@@ -7,6 +7,7 @@
 
 #include <array>
 #include <optional>
+#include <random>
 
 namespace wqspcfg::diagnosis {
 
@@ -236,6 +237,42 @@ TEST_F(FaultTest, FindsAndNamesEveryFault)
     }
     EXPECT_GT(faults, 20000U);
     EXPECT_LE(misses * 100, faults) << faults << " faults, " << misses << " missed:\n" << missed;
+}
+
+// What explain shows as corrected, check tells.
+TEST_F(FaultTest, TellsOfEveryStoredValueThatIsCorrected)
+{
+    std::minstd_rand random(5); // NOLINT(bugprone-random-generator-seed): the same values in every run
+    std::size_t corrected = 0;
+    for (const auto* entry : Concrete()) {
+        SCOPED_TRACE(NameOfClass(*entry));
+        if (!Install(*entry)) {
+            continue;
+        }
+        for (const auto& each : SettingsOf(*entry).All()) {
+            const auto& setting = each.setting;
+            if (random() % 2 == 0 || each.isPattern || setting.wholeKey || setting.root != Root::Device) {
+                continue;
+            }
+            const auto number = random() % 2 == 0 ? static_cast<DWORD>(random()) : static_cast<DWORD>(random() % 100);
+            Put(PathIn(setting), setting.readAs.empty() ? setting.name : setting.readAs, setting,
+                {number, std::to_wstring(number)});
+        }
+        ResetProcess();
+        Places places({});
+        const auto checkup = Check({}, places);
+        for (const auto& setting : checkup.services.at(0).settings) {
+            if (setting.isCorrected && setting.source == Source::Key) {
+                ++corrected;
+                EXPECT_TRUE(std::any_of(checkup.findings.begin(), checkup.findings.end(), [&](const Finding& finding) {
+                    return EqualNoCase(finding.path, setting.path) && finding.name &&
+                           EqualNoCase(*finding.name, setting.name) &&
+                           (finding.kind == FindingKind::Corrected || finding.kind == FindingKind::NotAllowed);
+                })) << FullNameOf(setting);
+            }
+        }
+    }
+    EXPECT_GT(corrected, 100U);
 }
 
 // A terminal with two services, each fault of it in turn.
@@ -488,6 +525,20 @@ TEST_F(TerminalTest, FindsCardUnitsThatDoNotAddUp)
               "inconsistent: WQSpCRDWQTYM1200\\CardUnit\\CardUnitInfo2\\Count is 101, more than MaxCount 100\n"
               "inconsistent: WQSpCRDWQTYM1200\\CardUnit\\CardUnitInfo3 has no Number: the card unit is not loaded\n"
               "inconsistent: WQSpCRDWQTYM1200\\CardUnit\\CurNumber is 2, and no card unit has that number\n");
+}
+
+TEST_F(TerminalTest, TellsOfValuesThatTheClassReplaces)
+{
+    AddService(L"Unit", L"SIU", L"WQSpSIUJMBT");
+    AddService(L"Printer", L"PTR", L"WQSpPTRRID100");
+    Set(kDeviceRoot + std::wstring(L"WQSpSIUJMBT\\Switches\\Index"), L"Switch1", 5U);
+    Set(kDeviceRoot + std::wstring(L"WQSpPTRRID100"), L"ReadFormFieldDivCharLeft", L"abc");
+    EXPECT_EQ(Found({.services = {L"Printer"}}),
+              "corrected: WQSpPTRRID100\\ReadFormFieldDivCharLeft is \"abc\"; CSpPTRRID100RegInfo takes \"a\" "
+              "instead\n");
+    EXPECT_NE(Found({.services = {L"Unit"}})
+                  .find("corrected: WQSpSIUJMBT\\Switches\\Index\\Switch1 is 5; CSpSIUJMBTRegInfo takes 0 instead\n"),
+              std::string::npos);
 }
 
 TEST_F(TerminalTest, FindsNoteTypesThatDoNotAddUp)

@@ -268,6 +268,35 @@ TEST_F(SourceTest, TellsOfAPortThatIsNotUsed)
     EXPECT_EQ(Find(ExamineAs(L"CSpCRDWQTYM1200RegInfo"), L"Port").refersTo, Reference::None);
 }
 
+// The number is read between rows, and held in 16 bits.
+TEST_F(SourceTest, TellsOfANumberThatTheClassCuts)
+{
+    Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Provider", L"Phys");
+    Set(L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Phys", L"ExeDllMother", L"Dev.exe");
+    const std::wstring device = L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\Dev";
+    const auto noteOn = [](const ExaminedSetting& setting) {
+        return std::to_string(setting.value.number) + ' ' +
+               NoteOn(
+                   setting, [](const AskedKey&) { return std::string(); }, false);
+    };
+    Set(device + L"\\CardUnit\\CardUnitInfo2", L"Number", 65538U);
+    Set(device + L"\\CardUnit\\CardUnitInfo2", L"Status", 65635U);
+    Set(device + L"\\CardUnit\\CardUnitInfo2", L"Count", 65636U);
+    const auto dispenser = ExamineAs(L"CCRDRegInfo");
+    EXPECT_EQ(noteOn(Find(dispenser, L"Number")), "2 corrected from 65538");
+    EXPECT_EQ(noteOn(Find(dispenser, L"Status")), "99 corrected from 65635");
+    EXPECT_EQ(noteOn(Find(dispenser, L"Count")), "65636 ");
+
+    Set(device + L"\\NoteType", L"Count", 1U);
+    for (const auto* name : {L"NoteID", L"Value", L"Release", L"Config"}) {
+        Set(device + L"\\NoteType\\NoteType1", name, 65537U);
+    }
+    Set(device + L"\\NoteType\\NoteType1", L"CurrencyID", L"CNY");
+    const auto recycler = ExamineAs(L"CCRMRegInfo");
+    EXPECT_EQ(noteOn(Find(recycler, L"NoteID")), "1 corrected from 65537");
+    EXPECT_EQ(noteOn(Find(recycler, L"Value")), "65537 ");
+}
+
 TEST_F(SourceTest, NamesTheSettingThatWasMeant)
 {
     Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Provider", L"Phys");

@@ -403,10 +403,10 @@ constexpr Setting kNoteTypeCount{
     kNoteTypes, L"Count", DwordValue, 0, L"number of note types, whose subkeys are numbered from 1"};
 // In the order of reading.
 constexpr Setting kNoteType[] = {
-    {kNoteTypeOf, L"NoteID",     DwordValue,  0,   L"note ID, the low 16 bits"},
+    {kNoteTypeOf, L"NoteID",     DwordValue,  0,   L"note ID, the low 16 bits", AsWord},
     {kNoteTypeOf, L"CurrencyID", StringValue, L"", L"currency of the note, exactly 3 characters"},
     {kNoteTypeOf, L"Value",      DwordValue,  0,   L"denomination"},
-    {kNoteTypeOf, L"Release",    DwordValue,  0,   L"release of the note, the low 16 bits"},
+    {kNoteTypeOf, L"Release",    DwordValue,  0,   L"release of the note, the low 16 bits", AsWord},
 };
 constexpr Setting kNoteTypeConfig{kNoteTypeOf, L"Config", DwordValue, 0, L"the note is accepted: 0 no; nonzero yes"};
 constexpr OperationSettings kOperations[] = {

@@ -18,10 +18,14 @@ struct CardUnitField
     void (tagCardUnitEx::*setText)(const char*) = nullptr;
 
     constexpr CardUnitField(const wchar_t* name, const wchar_t* meaning, DWORD (*get)(const tagCardUnitEx&),
-                            void (*set)(tagCardUnitEx&, DWORD), bool again = false)
+                            void (*set)(tagCardUnitEx&, DWORD), bool isWord, bool again = false)
         : row(kKey, name, DwordValue, 0, meaning, NotLogged, Saved), column(name), number(get), setNumber(set),
           writtenAgain(again)
-    {}
+    {
+        if (isWord) {
+            row.flags |= static_cast<std::uint32_t>(Flags::AsWord);
+        }
+    }
     constexpr CardUnitField(const wchar_t* name, const wchar_t* meaning, const char* (*get)(const tagCardUnitEx&),
                             void (tagCardUnitEx::*set)(const char*), const wchar_t* heading = nullptr)
         : row(kKey, name, StringValue, L"", meaning, NotLogged, Saved), column(heading != nullptr ? heading : name),
@@ -36,7 +40,8 @@ struct CardUnitField
 // Members of a packed record have no references; a number keeps the bits that its field has.
 #define WQSPCFG_NUMBER(field)                                                                                          \
     [](const tagCardUnitEx& unit) { return static_cast<DWORD>(unit.field); },                                          \
-        [](tagCardUnitEx& unit, DWORD value) { unit.field = static_cast<decltype(unit.field)>(value); }
+        [](tagCardUnitEx& unit, DWORD value) { unit.field = static_cast<decltype(unit.field)>(value); },               \
+        sizeof(tagCardUnitEx::field) == sizeof(WORD)
 #define WQSPCFG_TEXT(field, set)                                                                                       \
     [](const tagCardUnitEx& unit) -> const char* { return unit.field; }, &tagCardUnitEx::set
 

@@ -516,7 +516,7 @@ class Checker
                    full() + " is " + (isMasked ? kMasked : std::to_string(number)) +
                        "; allowed: " + AllowedText(described) +
                        (setting.isCorrected ? "; " + ValueText(described, setting.value) + " is in effect" : ""));
-        } else if (setting.isCorrected && (described.corrected || described.row->scale != 1)) {
+        } else if (setting.isCorrected) {
             Report(Severity::Warning, FindingKind::Corrected, examination, key->path, key->name,
                    full() + " is " + (isMasked ? kMasked : ValueText(described, setting.read)) + "; " +
                        ClassOf(examination) + " takes " + (isMasked ? kMasked : ValueText(described, setting.value)) +
@@ -561,7 +561,7 @@ class Checker
                 const auto* setting = index.Find(key, name);
                 return setting != nullptr ? setting->value.number : 0;
             };
-            const auto number = numberOf(L"Number") & 0xFFFF;
+            const auto number = numberOf(L"Number");
             if (number == 0) {
                 report(std::nullopt, " has no Number: the card unit is not loaded");
                 continue;

@@ -74,21 +74,26 @@ bool ToDescribed(const DescribedSetting& setting, const AskedKey& key, Described
     return true;
 }
 
-// What the member of a row holds after `read` was taken without a correction.
+// What the member of a row holds after `read` was taken as it is: only a switch holds another number, which means the
+// same.
 DescribedValue Taken(const DescribedSetting& setting, const DescribedValue& read)
 {
-    switch (setting.type) {
-    case Type::Flag:
+    if (setting.type == Type::Flag || setting.row->Has(Flags::AsSwitch)) {
         return {read.number != 0 ? 1U : 0U, {}};
-    case Type::Char:
-        return {0, read.text.substr(0, 1)};
-    case Type::Dword:
-        return {setting.row->Has(Flags::AsSwitch) ? (read.number != 0 ? 1U : 0U) : read.number, {}};
-    case Type::String:
-    case Type::None:
-        break;
     }
     return read;
+}
+
+// What a member of the row's type can hold of it.
+DescribedValue Fitting(const DescribedSetting& setting, DescribedValue read)
+{
+    if (setting.type == Type::Char) {
+        read.text.resize(std::min<std::size_t>(read.text.size(), 1));
+    }
+    if (setting.row->Has(Flags::AsWord)) {
+        read.number = LOWORD(read.number);
+    }
+    return Taken(setting, read);
 }
 
 Source SourceOf(Origin origin)
@@ -427,7 +432,9 @@ class Examiner
             auto out = Begin(*declared, false);
             out.source = SourceOf(event->origin);
             out.asked = event->asked;
-            out.read = out.value = event->held;
+            out.read = event->read;
+            out.value = event->held;
+            Judge(out);
             m_out.found.push_back(std::move(declared));
             m_out.settings.push_back(std::move(out));
         }
@@ -466,7 +473,8 @@ class Examiner
             out.source = !key.found                            ? Source::Missing
                          : ToDescribed(setting, key, out.read) ? Source::Key
                                                                : Source::WrongType;
-            out.value = Taken(setting, out.read);
+            out.value = Fitting(setting, out.read);
+            Judge(out);
             m_out.found.push_back(std::move(declared));
             m_out.settings.push_back(std::move(out));
         }

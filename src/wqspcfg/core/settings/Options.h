@@ -82,6 +82,7 @@ enum class Flags : std::uint32_t
     SubkeyNames = 1U << 10,    // a whole key: its subkeys' names are entries too, with an empty text
     DefaultByClass = 1U << 11, // the class makes the default of a missing value
     Needed = 1U << 12,         // where it is missing, Load goes on and returns false
+    AsWord = 1U << 13,         // code that takes the number holds its low 16 bits
 };
 template <Flags Flag>
 struct FlagOption
@@ -99,6 +100,7 @@ inline constexpr FlagOption<Flags::Computed> Computed{};
 inline constexpr FlagOption<Flags::SubkeyNames> SubkeyNames{};
 inline constexpr FlagOption<Flags::DefaultByClass> DefaultByClass{};
 inline constexpr FlagOption<Flags::Needed> Needed{};
+inline constexpr FlagOption<Flags::AsWord> AsWord{};
 
 template <auto Which, class T>
 struct TextOption

@@ -136,7 +136,7 @@ DescribedSetting Describe(const Setting& row, const Iteration* iteration)
     }
     described.secret = row.Has(Flags::Secret);
     described.required = row.requiredLine != 0;
-    described.corrected = row.normalize != nullptr || row.normalizeText != nullptr;
+    described.corrected = row.normalize != nullptr || row.normalizeText != nullptr || row.Has(Flags::AsWord);
     described.computed = row.Has(Flags::Computed);
     described.computedDefault = row.Has(Flags::DefaultByClass);
     described.refersTo = row.reference;

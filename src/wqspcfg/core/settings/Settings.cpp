@@ -561,7 +561,8 @@ bool Loading::QueryIteration(const Setting& row, const Iteration& iteration, T& 
     const bool found = loaded.origin == Origin::Key;
     if (m_observer != nullptr) {
         if constexpr (std::is_same_v<T, DWORD>) {
-            loaded.read = loaded.corrected = loaded.held = value;
+            loaded.read = loaded.corrected = value;
+            loaded.held = row.Has(Flags::AsWord) ? value & 0xFFFF : value;
         } else {
             loaded.textRead = loaded.textHeld = &value;
         }
