@@ -205,13 +205,13 @@ class Comparison
             return side;
         }
         side.value = ValueOf(setting, setting.value);
-        if (setting.source == Source::Missing || setting.source == Source::WrongType) {
+        if ((setting.source == Source::Missing || setting.source == Source::WrongType) && !setting.isCorrected) {
             side.note = "the default is in effect";
         } else if (setting.source == Source::Kept || setting.source == Source::NotRead) {
             side.note = setting.source == Source::Kept ? "what the class begins with is kept" : "it is not read";
         }
         if (setting.isCorrected) {
-            side.note += (side.note.empty() ? "" : ", ") + ("corrected from " + ValueOf(setting, setting.read));
+            side.note = IsMasked(setting) ? "corrected" : CorrectionText(setting);
         }
         return side;
     }

@@ -149,7 +149,12 @@ bool IsChanged(const ExaminedSetting& setting)
     const bool isIgnored = std::any_of(setting.asked.begin(), setting.asked.end(), [&](const AskedKey& key) {
         return key.found && !described.wholeKey && !IsRightType(described, key);
     });
-    return !setting.IsDefault() || isIgnored || setting.isCorrected;
+    // What a class makes of nothing, it makes on every terminal.
+    const bool isOfNothing =
+        setting.source == Source::NotRead || (setting.source == Source::Missing && setting.isCorrected);
+    const bool isStored =
+        std::any_of(setting.asked.begin(), setting.asked.end(), [](const AskedKey& key) { return key.found; });
+    return isIgnored || (!(isOfNothing && !isStored) && (!setting.IsDefault() || setting.isCorrected));
 }
 
 std::string SourceText(const ExaminedSetting& setting)
@@ -162,7 +167,7 @@ std::string SourceText(const ExaminedSetting& setting)
         return "fallback: " + RootText(described.fallback ? described.fallback->root : Root::Common);
     case Source::Missing:
     case Source::WrongType:
-        return "default";
+        return setting.isCorrected ? "class" : "default";
     case Source::Kept:
         return "kept";
     case Source::Code:
@@ -171,6 +176,12 @@ std::string SourceText(const ExaminedSetting& setting)
         break;
     }
     return "not read";
+}
+
+std::string CorrectionText(const ExaminedSetting& setting)
+{
+    const bool isDefault = setting.source == Source::Missing || setting.source == Source::WrongType;
+    return (isDefault ? "made of the default " : "corrected from ") + ValueText(setting.Setting(), setting.read);
 }
 
 const char* NameOf(Source source) noexcept
@@ -213,7 +224,7 @@ std::string NoteOn(const ExaminedSetting& setting, const std::function<std::stri
         note("not allowed: " + AllowedText(described));
     }
     if (setting.isCorrected) {
-        note(isMasked ? "corrected" : "corrected from " + ValueText(described, setting.read));
+        note(isMasked ? "corrected" : CorrectionText(setting));
     }
     return notes;
 }

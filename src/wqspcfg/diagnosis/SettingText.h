@@ -50,7 +50,9 @@ bool IsChanged(const ExaminedSetting& setting);
 
 // "device key", "common key", "default", ...: where the value in effect comes from.
 std::string SourceText(const ExaminedSetting& setting);
-// The stable name of it for other programs: "key", "fallback", "missing", "wrongType", "kept", "code", "notRead".
+// "corrected from 5", "made of the default 5": of a value that the class has replaced.
+std::string CorrectionText(const ExaminedSetting& setting);
+// The stable name of a source for other programs: "key", "fallback", "missing", "wrongType", "kept", "code", "notRead".
 const char* NameOf(Source source) noexcept;
 // What a person should know of the value in effect: that it is not allowed, corrected, or that a stored one is ignored.
 // Empty where there is nothing. `place` gives "FILE:LINE" of a key that was asked, or nothing; a secret is not shown.
