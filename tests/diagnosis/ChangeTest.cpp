@@ -137,6 +137,10 @@ TEST_F(ChangeTest, EverySettingTakesItsDefaultAndEachAllowedValue)
             ASSERT_NO_FATAL_FAILURE(Carry(plan));
             const auto after = ExamineAs(*entry);
             std::size_t read = 0;
+            // One value of a unit's capabilities may switch off nearly all others.
+            const auto ports = static_cast<std::size_t>(
+                std::count_if(plan.changes.begin(), plan.changes.end(),
+                              [](const PlannedChange& change) { return change.setting->heldAs != nullptr; }));
             for (const auto& change : plan.changes) {
                 const auto found =
                     std::find_if(after.settings.begin(), after.settings.end(), [&](const ExaminedSetting& each) {
@@ -150,7 +154,7 @@ TEST_F(ChangeTest, EverySettingTakesItsDefaultAndEachAllowedValue)
                 EXPECT_EQ(found->source, Source::Key) << FullNameOf(*found);
                 EXPECT_EQ(found->read, change.value) << FullNameOf(*found);
             }
-            EXPECT_GT(read, plan.changes.size() / 2);
+            EXPECT_GT(read, (plan.changes.size() - ports) / 2);
             if (number == 1) {
                 ExpectUndone(std::move(before), std::move(round), *entry);
             }

@@ -527,6 +527,39 @@ TEST_F(TerminalTest, FindsCardUnitsThatDoNotAddUp)
               "inconsistent: WQSpCRDWQTYM1200\\CardUnit\\CurNumber is 2, and no card unit has that number\n");
 }
 
+TEST_F(TerminalTest, FindsDoorsWhoseStatesAreNotRead)
+{
+    AddService(L"Unit", L"SIU", L"WQSpSIUPrdSIUNormal");
+    const auto capabilities = kDeviceRoot + std::wstring(L"WQSpSIUPrdSIUNormal\\CAPABILITIES");
+    Set(capabilities, L"WFS_SIU_DOORS", 1U);
+    Set(capabilities + L"\\fwDoors\\SAFE", L"WFS_SIU_OPEN", 0U);
+    EXPECT_EQ(Found(), "");
+    Set(capabilities + L"\\fwDoors\\SAFE", L"WFS_SIU_LOCKED", 1U);
+    EXPECT_EQ(Found(), "missingValue: WQSpSIUPrdSIUNormal\\CAPABILITIES\\fwDoors\\SAFE\\WFS_SIU_NOT_AVAILABLE is "
+                       "missing, which CSpSIUPrdSIUNormalRegInfo needs beside the others\n"
+                       "corrected: WQSpSIUPrdSIUNormal\\CAPABILITIES\\fwDoors\\SAFE\\WFS_SIU_LOCKED is 1; "
+                       "CSpSIUPrdSIUNormalRegInfo takes 0 instead\n");
+    Set(capabilities + L"\\fwDoors\\SAFE", L"WFS_SIU_NOT_AVAILABLE", 0U);
+    EXPECT_EQ(Found(), "");
+    Set(capabilities, L"WFS_SIU_DOORS", 0U);
+    EXPECT_EQ(Found(), "") << "there are no doors";
+}
+
+// A Save writes that a UPS which was not said to be there is not there, with its states.
+TEST_F(TerminalTest, TellsOfAPortThatASaveHasSwitchedOff)
+{
+    AddService(L"Unit", L"SIU", L"WQSpSIUPrdSIUNormal");
+    const auto device = kDeviceRoot + std::wstring(L"WQSpSIUPrdSIUNormal");
+    Set(device + L"\\CAPABILITIES", L"WFS_SIU_AUXILIARIES", 1U);
+    Set(device + L"\\CAPABILITIES\\fwAuxiliaries\\UPS", L"WFS_SIU_LOW", 1U);
+    EXPECT_EQ(Found(), "");
+    const auto object = Create(*FindClass(L"CSpSIUPrdSIUNormalRegInfo"), L"Unit", false);
+    object->Load(nullptr);
+    object->Save();
+    EXPECT_EQ(Found(), "corrected: WQSpSIUPrdSIUNormal\\CAPABILITIES\\fwAuxiliaries\\UPS\\WFS_SIU_LOW is 1; "
+                       "CSpSIUPrdSIUNormalRegInfo takes 0 instead\n");
+}
+
 TEST_F(TerminalTest, TellsOfValuesThatTheClassReplaces)
 {
     AddService(L"Unit", L"SIU", L"WQSpSIUJMBT");

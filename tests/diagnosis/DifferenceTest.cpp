@@ -158,6 +158,19 @@ TEST_F(ServiceDifferenceTest, TellsFallbacksSecretsEntriesAndLongTexts)
     EXPECT_NE(Text(Compare(left, right, true)).find("\"hunter2\""), std::string::npos);
 }
 
+TEST_F(ServiceDifferenceTest, TellsWhatAValueBesideAnotherDecides)
+{
+    const auto& entry = *FindClass(L"CSIURegInfo");
+    Set(Device(L"CAPABILITIES"), L"WFS_SIU_DOORS", 1U);
+    Set(Device(L"CAPABILITIES\\fwDoors\\SAFE"), L"WFS_SIU_LOCKED", 1U);
+    const auto left = ExaminedBy(entry);
+    Set(Device(L"CAPABILITIES\\fwDoors\\SAFE"), L"WFS_SIU_NOT_AVAILABLE", 0U);
+    const auto right = ExaminedBy(entry);
+    EXPECT_EQ(Text(Compare(left, right, false)),
+              "setting Svc CAPABILITIES\\fwDoors\\SAFE\\WFS_SIU_NOT_AVAILABLE: 1 (missing) -> 0 (REG_DWORD 0)\n"
+              "setting Svc CAPABILITIES\\fwDoors\\SAFE\\WFS_SIU_LOCKED: 0 (REG_DWORD 1) -> 1 (REG_DWORD 1)\n");
+}
+
 TEST_F(ServiceDifferenceTest, TellsWhatOnlyALoadFindsAndWhatOneSideLacks)
 {
     const auto& entry = *FindClass(kModel);

@@ -2,7 +2,9 @@
 
 #include "catalogue/CatalogueTesting.h"
 #include "support/StoreTesting.h"
+#include "wqspcfg/classes/SIURegInfo.h"
 #include "wqspcfg/diagnosis/SettingText.h"
+#include "wqspcfg/parts/SIUPorts.h"
 
 #include <random>
 
@@ -139,9 +141,10 @@ TEST_F(ExaminationTest, TellsEveryValueThatALoadLogs)
                 }
             }
             // Not by the clock, by chance, or by what is read after the line: a switch without a polarity becomes 0.
+            // The line of a port shows a value as it was read.
             const bool isDecided = std::none_of(meant.begin(), meant.end(), [](const ExaminedSetting* each) {
                 return each->source == Source::Code || each->Setting().computedDefault ||
-                       each->Setting().key == L"Switches\\Index";
+                       each->Setting().heldAs != nullptr || each->Setting().key == L"Switches\\Index";
             });
             if (!meant.empty() && isDecided) {
                 ++compared;
@@ -295,6 +298,70 @@ TEST_F(SourceTest, TellsOfANumberThatTheClassCuts)
     const auto recycler = ExamineAs(L"CCRMRegInfo");
     EXPECT_EQ(noteOn(Find(recycler, L"NoteID")), "1 corrected from 65537");
     EXPECT_EQ(noteOn(Find(recycler, L"Value")), "65537 ");
+}
+
+// What a port's values say all together is in one word: a value is in effect where its bit is set there.
+TEST_F(ExaminationTest, TellsWhatTheCapabilitiesHoldOfEachPort)
+{
+    std::minstd_rand random(3); // NOLINT(bugprone-random-generator-seed): the same values in every run
+    const auto& entry = *FindClass(L"CSIURegInfo");
+    std::size_t differing = 0;
+    for (int round = 0; round < 30; ++round) {
+        FillAtRandom(entry, random);
+        const auto examination = ExaminationOf(entry);
+        CSIURegInfo object(L"Svc", false);
+        object.Load(nullptr);
+        const auto compare = [&](const siu::PortArray& array, const WORD* words) {
+            for (const auto& port : array.ports) {
+                const auto key = L"CAPABILITIES\\" + std::wstring(array.name) + L'\\' + port.name;
+                for (const auto& state : port.form.states) {
+                    const auto found =
+                        std::find_if(examination.settings.begin(), examination.settings.end(), [&](const auto& each) {
+                            return each.Setting().key == key && each.name == state.name;
+                        });
+                    ASSERT_NE(found, examination.settings.end()) << Narrow(key);
+                    SCOPED_TRACE(Narrow(key + L'\\' + state.name));
+                    if (state.name != siu::kNotAvailable) {
+                        EXPECT_EQ(found->value.number != 0,
+                                  (words[port.index] & (state.isCount ? 0xFFFF : state.bit)) != 0);
+                    } else if (found->value.number != 0 && found->source != Source::NotRead) {
+                        EXPECT_EQ(words[port.index], 0);
+                    }
+                    differing += found->isCorrected && found->source == Source::Key ? 1U : 0U;
+                }
+            }
+        };
+        compare(siu::kSensors, object.m_stSiuCaps.fwSensors);
+        compare(siu::kDoors, object.m_stSiuCaps.fwDoors);
+        compare(siu::kIndicators, object.m_stSiuCaps.fwIndicators);
+        compare(siu::kAuxiliaries, object.m_stSiuCaps.fwAuxiliaries);
+        compare(siu::kGuidLights, object.m_stSiuCaps.fwGuidLights);
+    }
+    EXPECT_GT(differing, 20U);
+}
+
+TEST_F(SourceTest, TellsWhatADoorWithoutItsValueIsTakenFor)
+{
+    Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Svc", L"Provider", L"Phys");
+    Set(L"SOFTWARE\\XFS\\SERVICE_PROVIDERS\\Phys", L"ExeDllMother", L"Dev.exe");
+    const std::wstring capabilities = L"SOFTWARE\\XFS\\PHYSICAL_SERVICES\\Dev\\CAPABILITIES";
+    Set(capabilities + L"\\fwDoors\\CABINET", L"WFS_SIU_LOCKED", 1U);
+    EXPECT_EQ(Find(ExamineAs(L"CSIURegInfo"), L"WFS_SIU_LOCKED").source, Source::NotRead) << "there are no doors";
+    Set(capabilities, L"WFS_SIU_DOORS", 1U);
+    const auto before = ExamineAs(L"CSIURegInfo");
+    const auto& locked = Find(before, L"WFS_SIU_LOCKED");
+    EXPECT_EQ(locked.value.number, 0U);
+    EXPECT_TRUE(locked.isCorrected);
+    EXPECT_TRUE(IsChanged(locked));
+    const auto missing = std::find_if(before.settings.begin(), before.settings.end(), [&](const auto& each) {
+        return each.path == locked.path && each.name == L"WFS_SIU_NOT_AVAILABLE";
+    });
+    ASSERT_NE(missing, before.settings.end());
+    EXPECT_EQ(missing->value.number, 1U);
+    EXPECT_EQ(SourceText(*missing), "class");
+    EXPECT_FALSE(IsChanged(*missing)) << "nobody has set it";
+    Set(capabilities + L"\\fwDoors\\CABINET", L"WFS_SIU_NOT_AVAILABLE", 0U);
+    EXPECT_EQ(Find(ExamineAs(L"CSIURegInfo"), L"WFS_SIU_LOCKED").value.number, 1U);
 }
 
 TEST_F(SourceTest, NamesTheSettingThatWasMeant)

@@ -35,23 +35,48 @@ constexpr auto kSplitWindowNames = Normalize([](C& c, CString& strNames, bool) {
     }
 });
 
+// A state is in effect where its bit is set in the word of the port, whatever its own value says.
+DWORD HeldNumberOf(const siu::PortArray& array, const WORD* words, const NumberRead& read)
+{
+    const auto portName = read.key.substr(read.key.rfind(L'\\') + 1);
+    const auto port = std::find_if(array.ports.begin(), array.ports.end(),
+                                   [&](const siu::Port& each) { return each.name == portName; });
+    const WORD word = words[port->index];
+    if (read.name == siu::kNotAvailable) {
+        // A door whose states are not read, as the value is missing, is as one that is not there.
+        return !read.found && array.needsNotAvailable && word == 0 ? 1 : read.number;
+    }
+    const auto& states = port->form.states;
+    const auto state =
+        std::find_if(states.begin(), states.end(), [&](const siu::State& each) { return each.name == read.name; });
+    if (state->isCount) {
+        return word;
+    }
+    const bool isSet = (word & state->bit) != 0;
+    return isSet == (read.number != 0) ? read.number : isSet ? 1 : 0;
+}
+template <const siu::PortArray& Array, auto Words>
+constexpr Setting kPorts = Group(Rows<siu::kPortRows<Array>>, HeldAs([](C& c, const NumberRead& read) -> DWORD {
+                                     return HeldNumberOf(Array, c.m_stSiuCaps.*Words, read);
+                                 }));
+
 // clang-format off
 constexpr Setting kCapabilities[] = {
     {key::Capabilities, L"WFS_SIU_SENSORS", DwordValue, 0,
      L"the sensors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(Rows<siu::kPortRows<siu::kSensors>>),
+    kPorts<siu::kSensors, &_wfs_siu_caps::fwSensors>,
     {key::Capabilities, L"WFS_SIU_DOORS", DwordValue, 0,
      L"the doors are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(Rows<siu::kPortRows<siu::kDoors>>),
+    kPorts<siu::kDoors, &_wfs_siu_caps::fwDoors>,
     {key::Capabilities, L"WFS_SIU_INDICATORS", DwordValue, 0,
      L"the indicators are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(Rows<siu::kPortRows<siu::kIndicators>>),
+    kPorts<siu::kIndicators, &_wfs_siu_caps::fwIndicators>,
     {key::Capabilities, L"WFS_SIU_AUXILIARIES", DwordValue, 0,
      L"the auxiliaries are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(Rows<siu::kPortRows<siu::kAuxiliaries>>),
+    kPorts<siu::kAuxiliaries, &_wfs_siu_caps::fwAuxiliaries>,
     {key::Capabilities, L"WFS_SIU_GUIDLIGHTS", DwordValue, 0,
     L"the guidance lights are configured one by one: 0 there is none; nonzero read them", NotLogged, Documented, Saved},
-    Group(Rows<siu::kPortRows<siu::kGuidLights>>),
+    kPorts<siu::kGuidLights, &_wfs_siu_caps::fwGuidLights>,
 };
 constexpr Setting kEvents[] = {
     {kKeyboardMapping, L"%s", Map<&C::m_mapKeyboardMapping>, L"",

@@ -13,9 +13,9 @@
 // - of the operator switch and the UPS, WFS_SIU_AVAILABLE is not, and of all other sensors and auxiliaries
 //   WFS_SIU_NOT_AVAILABLE is not; the cabinet and the safe lose their keyboard and service states, the vandal shield
 //   its bolted state;
-// - the volume steps are written as their lowest bit.
+// - the volume steps are written as their lowest bit: 1000 steps are 0 after the next Load.
 // So what is loaded next may differ: a UPS 0x1F without WFS_SIU_AVAILABLE in the registry comes back as 0x1E, and the
-// next Save writes it as not available.
+// next Save writes it as not available, so that the Load after that gives 0 whatever its states are.
 class WQSPCFG_API CSIURegInfo : public CRegInfo
 {
   public:

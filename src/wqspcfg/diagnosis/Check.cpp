@@ -501,7 +501,10 @@ class Checker
         // One that is not read now may be read when another setting is changed.
         const auto* key = setting.source == Source::NotRead ? FirstOfRightType(setting) : setting.KeyInEffect();
         if (key == nullptr || described.wholeKey) {
-            if (described.required && setting.source == Source::Missing && HasValues(setting.path)) {
+            const bool isNeeded =
+                (described.required && HasValues(setting.path)) ||
+                (described.heldAs != nullptr && setting.isCorrected && HasUnused(examination, setting.path));
+            if (isNeeded && setting.source == Source::Missing) {
                 Report(Severity::Error, FindingKind::MissingValue, examination, setting.path, std::nullopt,
                        FullName(setting) + " is missing, which " + ClassOf(examination) + " needs beside the others");
             }
@@ -527,6 +530,14 @@ class Checker
             Report(Severity::Error, FindingKind::NoSuchService, examination, key->path, key->name,
                    full() + " names the service " + Quoted(setting.value.text) + ", which is not there");
         }
+    }
+
+    // A value of the key that is stored and not in effect.
+    static bool HasUnused(const Examination& examination, const std::wstring& path)
+    {
+        return std::any_of(examination.settings.begin(), examination.settings.end(), [&](const ExaminedSetting& each) {
+            return each.isCorrected && each.source == Source::Key && each.path == path;
+        });
     }
 
     static bool HasValues(const std::wstring& path)

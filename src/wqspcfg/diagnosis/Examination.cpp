@@ -345,7 +345,26 @@ class Examiner
             out.source = Source::NotRead;
             out.read = setting.defaultValue;
         }
-        out.value = Taken(setting, out.read);
+        out.value = Fitting(setting, out.read);
+        if (setting.heldAs != nullptr) {
+            FindHeld(out);
+        }
+    }
+
+    // What code made of the values of a key all together.
+    void FindHeld(ExaminedSetting& out)
+    {
+        const auto& setting = out.Setting();
+        if (m_keysOfCode.empty()) {
+            for (const auto& key : m_recorder.byCode) {
+                m_keysOfCode.insert(key.path);
+            }
+        }
+        const bool isFound = out.source == Source::Key;
+        out.value.number = setting.heldAs(*m_object, {setting.key, setting.name, isFound, out.read.number});
+        if (m_keysOfCode.find(out.path) == m_keysOfCode.end()) {
+            out.source = Source::NotRead;
+        }
     }
 
     static AskedKey Ask(const std::wstring& path, const std::wstring& name)
@@ -488,6 +507,7 @@ class Examiner
     std::vector<Event*> m_byIndex;     // null where there is none
     std::vector<std::pair<Event*, std::size_t>> m_foundEvents;
     std::unordered_map<Place, const AskedKey*, HashPlace> m_byPlace;
+    NameSet m_keysOfCode; // paths of the keys that code asked; filled when it is needed
 };
 
 } // namespace

@@ -18,7 +18,8 @@ struct State
     WORD bit;         // in the port's word of the capabilities
     unsigned written; // its place among the values that Save writes for the port, from 1; 0: it is not written
     const wchar_t* meaning;
-    DWORD standard = 0; // what a missing value means
+    DWORD standard = 0;   // what a missing value means
+    bool isCount = false; // the word holds the number itself
 };
 
 // The values that the keys of like ports hold, in the order in which they are read, and the rows that document them.
@@ -53,6 +54,7 @@ struct PortArray
     const wchar_t* gate;    // the value that tells whether the ports are configured
     const wchar_t* gateKey; // where the gate is written, below the device key
     std::span<const Port> ports;
+    bool needsNotAvailable = false; // without WFS_SIU_NOT_AVAILABLE the states may not be read
 };
 
 inline constexpr wchar_t kAvailable[] = L"WFS_SIU_AVAILABLE";
@@ -65,6 +67,11 @@ inline constexpr wchar_t kMissing[] = L"the port is not there, whatever else is 
 inline constexpr wchar_t kDoorMissing[] =
     L"the door is not there, whatever else is set: 0 no; nonzero yes; a door that is there "
     L"needs the value 0, for without it the value read before stands in its place";
+inline constexpr wchar_t kUpsMissing[] =
+    L"the UPS is not there, whatever else is set: 0 no; nonzero yes; saved as 1 where WFS_SIU_AVAILABLE is not in "
+    L"effect, whatever the states are";
+inline constexpr wchar_t kVolumeSteps[] =
+    L"number of volume steps: 0 the volume cannot be set; saved as its lowest bit";
 inline constexpr wchar_t kReports[] = L"the port can report or take this state: 0 no; nonzero yes";
 
 inline constexpr Key kSensor = key::Below(L"CAPABILITIES\\fwSensors\\%s");
@@ -111,12 +118,12 @@ inline constexpr State kSavedLightStates[] = {{kAvailable, WFS_SIU_AVAILABLE, 1,
 inline constexpr State kReadLightStates[] = {{kAvailable, WFS_SIU_AVAILABLE, 0, kThere}};
 inline constexpr State kScreenStates[] = {{kAvailable, WFS_SIU_AVAILABLE, 0, kThere, 1}};
 inline constexpr State kVolumeStates[] = {
-    {kAvailable,    WFS_SIU_AVAILABLE, 1, L"number of volume steps: 0 the volume cannot be set"},
+    {kAvailable,    WFS_SIU_AVAILABLE, 1, kVolumeSteps, 0, true},
     {kNotAvailable, WFS_SIU_AVAILABLE, 0, kMissing},
 };
 inline constexpr State kUpsStates[] = {
     {kAvailable,           WFS_SIU_AVAILABLE, 0, kThere},
-    {kNotAvailable,        WFS_SIU_AVAILABLE, 1, kMissing},
+    {kNotAvailable,        WFS_SIU_AVAILABLE, 1, kUpsMissing},
     {L"WFS_SIU_ENGAGED",   WFS_SIU_ENGAGED,   2, kReports},
     {L"WFS_SIU_LOW",       WFS_SIU_LOW,       3, kReports},
     {L"WFS_SIU_POWERING",  WFS_SIU_POWERING,  4, kReports},
@@ -213,8 +220,8 @@ inline constexpr Port kGuidLightPorts[] = {
 // The gates are read from "CAPABILITIES"; all but the first are written with a trailing backslash.
 inline constexpr PortArray kSensors{L"fwSensors", WFS_SIU_SENSORS_SIZE, L"WFS_SIU_SENSORS", L"\\CAPABILITIES",
                                     detail::kSensorPorts};
-inline constexpr PortArray kDoors{L"fwDoors", WFS_SIU_DOORS_SIZE, L"WFS_SIU_DOORS", L"\\CAPABILITIES\\",
-                                  detail::kDoorPorts};
+inline constexpr PortArray kDoors{L"fwDoors",          WFS_SIU_DOORS_SIZE, L"WFS_SIU_DOORS",
+                                  L"\\CAPABILITIES\\", detail::kDoorPorts, true};
 inline constexpr PortArray kIndicators{L"fwIndicators", WFS_SIU_INDICATORS_SIZE, L"WFS_SIU_INDICATORS",
                                        L"\\CAPABILITIES\\", detail::kIndicatorPorts};
 inline constexpr PortArray kAuxiliaries{L"fwAuxiliaries", WFS_SIU_AUXILIARIES_SIZE, L"WFS_SIU_AUXILIARIES",

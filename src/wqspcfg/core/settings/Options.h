@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <type_traits>
 
 namespace wqspcfg {
@@ -243,7 +244,8 @@ enum class Hook : std::uint8_t
     LogAs,
     LoadedBy,
     SavedIf,
-    RefersIf
+    RefersIf,
+    HeldAs
 };
 template <Hook Which, class F>
 struct HookOption
@@ -270,6 +272,20 @@ constexpr HookOption<Hook::LoadedBy, F> LoadedBy(F)
 // Asked by Save before it takes the member: bool(Owner&, unsigned iteration). False: the setting is not written.
 template <class F>
 constexpr HookOption<Hook::SavedIf, F> SavedIf(F)
+{
+    return {};
+}
+// A number that code of the class read for a Documented row.
+struct NumberRead
+{
+    std::wstring_view key; // below the root
+    std::wstring_view name;
+    bool found = false;
+    DWORD number = 0; // where it is missing, the default
+};
+// The number that is in effect, as the object holds it after a Load: DWORD(Owner&, const NumberRead&).
+template <class F>
+constexpr HookOption<Hook::HeldAs, F> HeldAs(F)
 {
     return {};
 }

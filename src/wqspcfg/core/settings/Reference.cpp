@@ -76,8 +76,9 @@ void Append(std::span<const Setting> rows, std::vector<DescribedSetting>& out, b
         const auto first = out.size();
         if (row.kind == Kind::Group || row.kind == Kind::Step) {
             Append(row.rows, out, conditional || row.condition != nullptr);
-            for (auto i = first; i < out.size() && row.part != nullptr; ++i) {
-                out[i].part = row.part;
+            for (auto i = first; i < out.size(); ++i) {
+                out[i].part = row.part != nullptr ? row.part : out[i].part;
+                out[i].heldAs = row.heldAs != nullptr ? row.heldAs : out[i].heldAs;
             }
             continue;
         }
@@ -140,6 +141,7 @@ DescribedSetting Describe(const Setting& row, const Iteration* iteration)
     described.computed = row.Has(Flags::Computed);
     described.computedDefault = row.Has(Flags::DefaultByClass);
     described.refersTo = row.reference;
+    described.heldAs = row.heldAs;
     described.row = &row;
     described.iteration = iteration != nullptr ? iteration->index : 0;
     return described;

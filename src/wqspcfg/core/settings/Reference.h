@@ -67,6 +67,8 @@ struct DescribedSetting
     std::wstring_view readBy;    // the operation that reads it in place of Load
     std::wstring_view writtenBy; // the operation that writes it in place of Save
 
+    DWORD (*heldAs)(CRegKeyEx& owner, const NumberRead& read) = nullptr; // what is in effect, where code reads it
+
     const Setting* row = nullptr;
     unsigned iteration = 0; // the index to give to the row's member or accessor
 };

@@ -186,6 +186,7 @@ struct Setting
     // Whether the rows of a group are read; whether a value refers to what `reference` says.
     bool (*condition)(CRegKeyEx& object) = nullptr;
     bool (*savedIf)(CRegKeyEx& object, unsigned iteration) = nullptr;
+    DWORD (*heldAs)(CRegKeyEx& object, const NumberRead& read) = nullptr; // of a group: of its rows
 
     // A whole key.
     const MapAccess* map = nullptr;
@@ -348,6 +349,11 @@ struct Setting
         condition = [](CRegKeyEx& object) -> bool { return F{}(OwnerOf<F>(object)); };
     }
     template <class F>
+    constexpr void Apply(HookOption<Hook::HeldAs, F>)
+    {
+        heldAs = [](CRegKeyEx& object, const NumberRead& read) -> DWORD { return F{}(OwnerOf<F>(object), read); };
+    }
+    template <class F>
     constexpr void Apply(HookOption<Hook::LogAs, F>)
     {
         logAs = [](CRegKeyEx& object, DWORD value) -> DWORD { return F{}(OwnerOf<F>(object), value); };
@@ -393,8 +399,8 @@ namespace detail {
     const auto& [kind, type, fallbackRoot, reference, bound, saved, savedAsSwitch, hasConstructed, hasRange, flags,
                  requiredLine, scale, key, name, meaning, defaultValue, constructed, member, locate, conversion, line,
                  label, savedName, emptySavedAs, fallbackSubkey, fallbackName, perIteration, low, high, normalize,
-                 normalizeText, logAs, step, condition, savedIf, map, entries, rows, iterationNames, firstIteration,
-                 iterations, part] = from;
+                 normalizeText, logAs, step, condition, savedIf, heldAs, map, entries, rows, iterationNames,
+                 firstIteration, iterations, part] = from;
     to.kind = kind;
     to.type = type;
     to.fallbackRoot = fallbackRoot;
@@ -433,6 +439,7 @@ namespace detail {
     to.step = step;
     to.condition = condition;
     to.savedIf = savedIf;
+    to.heldAs = heldAs;
     to.map = map;
     to.entries = {entries.data(), entries.size()};
     to.rows = RowList(rows.Source());
@@ -498,6 +505,15 @@ constexpr Setting Group(RowList rows)
     Setting group;
     group.kind = Kind::Group;
     group.rows = rows;
+    return group;
+}
+
+// The same, where code reads them: what is in effect of them, as HeldAs has it.
+template <class F>
+constexpr Setting Group(RowList rows, HookOption<Hook::HeldAs, F>)
+{
+    Setting group = Group(rows);
+    group.heldAs = [](CRegKeyEx& object, const NumberRead& read) -> DWORD { return F{}(OwnerOf<F>(object), read); };
     return group;
 }
 
