@@ -74,6 +74,26 @@ TEST_F(CatalogueTest, TablesAreSound)
     }
 }
 
+TEST_F(CatalogueTest, WhatIsANumberOfSomethingRefersToIt)
+{
+    std::size_t ports = 0;
+    std::size_t units = 0;
+    for (const auto* entry : AllClasses()) {
+        for (const auto& setting : Describe(entry->table())) {
+            const Owned owned{&entry->table(), setting};
+            if (setting.meaning.starts_with(L"serial port number")) {
+                ++ports;
+                EXPECT_EQ(setting.refersTo, Reference::SerialPort) << owned.Name();
+            } else if (setting.meaning.starts_with(L"card-unit number")) {
+                ++units;
+                EXPECT_EQ(setting.refersTo, Reference::CardUnit) << owned.Name();
+            }
+        }
+    }
+    EXPECT_GT(ports, 50U);
+    EXPECT_GT(units, 5U);
+}
+
 TEST_F(CatalogueTest, AnEmptyRegistryGivesEveryDefault)
 {
     for (const auto* entry : Concrete()) {

@@ -527,6 +527,22 @@ TEST_F(TerminalTest, FindsCardUnitsThatDoNotAddUp)
               "inconsistent: WQSpCRDWQTYM1200\\CardUnit\\CurNumber is 2, and no card unit has that number\n");
 }
 
+TEST_F(TerminalTest, FindsBinsThatAreNoCardUnits)
+{
+    Set(kDispenser + L"\\Control", L"RetainBin", 7U);
+    EXPECT_EQ(Found(), "") << "the dispenser has no card units yet";
+    for (const auto number : {1U, 2U}) {
+        Set(kDispenser + L"\\CardUnit\\CardUnitInfo" + std::to_wstring(number), L"Number", number);
+    }
+    Set(kDispenser + L"\\Control", L"DispenseBin1", 2U);
+    Set(kDispenser + L"\\Control", L"DispenseBin2", 3U); // as a Save leaves it where the device has one bin
+    EXPECT_EQ(Found(), "inconsistent: WQSpCRDWQTYM1200\\Control\\RetainBin is 7, and no card unit has that number\n");
+    Set(kDispenser + L"\\CardUnit\\CardUnitInfo2", L"Number", 65538U);
+    Set(kDispenser + L"\\Control", L"RetainBin", 1U);
+    EXPECT_EQ(Found(), "corrected: WQSpCRDWQTYM1200\\CardUnit\\CardUnitInfo2\\Number is 65538; "
+                       "CSpCRDWQTYM1200RegInfo takes 2 instead\n");
+}
+
 TEST_F(TerminalTest, FindsDoorsWhoseStatesAreNotRead)
 {
     AddService(L"Unit", L"SIU", L"WQSpSIUPrdSIUNormal");

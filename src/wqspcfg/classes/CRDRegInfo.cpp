@@ -36,7 +36,7 @@ constexpr Setting kControl[] = {
      Saved, Line(L"[CFG] %40s : %d[%s")},
 };
 constexpr Setting kCurNumber{kCardUnits, L"CurNumber", &C::m_dwCurNumber, 0,
-                             L"number of the current card unit", NotLogged, Saved};
+                             L"number of the current card unit", NotLogged, Saved, RefersTo(Reference::CardUnit)};
 constexpr Setting kSettings[] = {
     Group(Rows<kControl>),
     kCurNumber,

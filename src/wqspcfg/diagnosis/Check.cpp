@@ -588,10 +588,21 @@ class Checker
                        "\\Count is " + std::to_string(count) + ", more than MaxCount " + std::to_string(most));
             }
         }
-        const auto number = current->value.number;
-        if (current->source == Source::Key && number != 0 && !byNumber.contains(number)) {
-            Report(Severity::Error, FindingKind::Inconsistent, examination, current->path, current->name,
-                   FullName(*current) + " is " + std::to_string(number) + ", and no card unit has that number");
+        for (const auto& setting : examination.settings) {
+            if (setting.refersTo == Reference::CardUnit && setting.source == Source::Key) {
+                CheckCardUnitNumber(examination, setting, byNumber, &setting == current);
+            }
+        }
+    }
+
+    // A default is no bin that somebody meant: a Save writes those of bins that the device does not have.
+    void CheckCardUnitNumber(const Examination& examination, const ExaminedSetting& setting,
+                             const std::map<DWORD, std::wstring>& units, bool isOfUnits)
+    {
+        const auto number = setting.value.number;
+        if (number != 0 && !units.contains(number) && !setting.IsDefault() && (isOfUnits || !units.empty())) {
+            Report(Severity::Error, FindingKind::Inconsistent, examination, setting.path, setting.name,
+                   FullName(setting) + " is " + std::to_string(number) + ", and no card unit has that number");
         }
     }
 

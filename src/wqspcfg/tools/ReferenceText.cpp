@@ -89,6 +89,8 @@ const char* NameOf(Reference reference) noexcept
     switch (reference) {
     case Reference::SerialPort:
         return "serialPort";
+    case Reference::CardUnit:
+        return "cardUnit";
     case Reference::LogicalService:
         return "logicalService";
     case Reference::File:

@@ -41,6 +41,7 @@ enum class Reference : std::uint8_t
 {
     None,
     SerialPort,     // the number of a serial port; 0 is none
+    CardUnit,       // the number of a card unit; 0 is none
     LogicalService, // the name of a logical service; empty is none
     File,           // the path of a file; empty is none
     Directory,

@@ -36,7 +36,8 @@ inline constexpr Setting kPagePrinterRows[] = {Group(Rows<kPageCheckRows>), Grou
 consteval std::array<Setting, 9> StampRows(Key key)
 {
     return {{
-        {key, L"StampPort", &PagePrinter::m_dwStampPort, 1, L"serial port number of the stamping unit", Saved},
+        {key, L"StampPort", &PagePrinter::m_dwStampPort, 1, L"serial port number of the stamping unit", Saved,
+         RefersTo(Reference::SerialPort), RefersIf([](const PagePrinter& c) -> bool { return c.m_bIsStamp; })},
         {key, L"StampBaudRate", &PagePrinter::m_dwStampBaudRate, 9600,
          L"serial speed of the stamping unit in baud", Saved},
         {key, L"PosYOfFirstStamp", &PagePrinter::m_dwPosYOfFirstStamp, 0,
@@ -54,7 +55,8 @@ inline constexpr Setting kPaperOutRows[] = {
     {kPaperOutTransport, L"OpenPaperOut", &PagePrinter::m_bOpenPaperOut, 0,
      L"the paper output transport is used: 0 no; nonzero yes", Saved},
     {kPaperOutTransport, L"PaperOutPort", &PagePrinter::m_dwPaperOutPort, 1,
-     L"serial port number of the paper output transport", Saved},
+     L"serial port number of the paper output transport", Saved, RefersTo(Reference::SerialPort),
+     RefersIf([](const PagePrinter& c) -> bool { return c.m_bOpenPaperOut; })},
 };
 inline constexpr Setting kStampingUnitRows[] = {
     {kStamp, L"IsStamp", &PagePrinter::m_bIsStamp, 0, meaning::printer::kIsStamp, Saved},
