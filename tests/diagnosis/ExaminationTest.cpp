@@ -372,8 +372,17 @@ TEST_F(SourceTest, NamesTheSettingThatWasMeant)
     EXPECT_EQ(NearestSetting(dispenser, L"BuadRate"), "BaudRate");
     EXPECT_EQ(NearestSetting(dispenser, L"Control\\Port"), "Comm\\Port");
     EXPECT_EQ(NearestSetting(dispenser, L"Comm\\Prot"), "Comm\\Port");
-    EXPECT_EQ(NearestSetting(ExamineAs(L"CSpPINXZSE8098BRegInfo"), L"KeyboardMapping\\4"),
-              "KeybordInfo\\KeyboardMapping\\4");
+    const auto pinpad = ExamineAs(L"CSpPINXZSE8098BRegInfo");
+    EXPECT_EQ(NearestSetting(pinpad, L"KeyboardMapping\\4"), "KeybordInfo\\KeyboardMapping\\4");
+    for (const auto& examination : {&dispenser, &pinpad}) {
+        for (const auto* text : {L"1", L"a", L"CheckErrorHandler\\X", L"checkerrorhandler\\x", L"port"}) {
+            const auto nearest = NearestSetting(*examination, text);
+            EXPECT_FALSE(nearest.ends_with('*')) << nearest;
+            std::wstring wide;
+            AppendWideFromUtf8(nearest, wide);
+            EXPECT_FALSE(EqualNoCase(wide, text)) << nearest;
+        }
+    }
 }
 
 // What one registry left in the process does not reach the next.

@@ -133,6 +133,31 @@ TEST_F(DiagnosisCommandsTest, ExplainTellsValueOriginAndKeys)
     EXPECT_EQ(RunOn(store, {"explain", "Nobody"}), 1);
 }
 
+TEST_F(DiagnosisCommandsTest, ExplainTellsOfOneEntryOfAKeyThatIsReadWhole)
+{
+    const auto store = Export("\"Port\"=dword:4\n\n"
+                              "[HKEY_LOCAL_MACHINE\\SOFTWARE\\XFS\\PHYSICAL_SERVICES\\WQSpCRDWQTYM1200\\"
+                              "CheckErrorHandler]\n\"WFS_CMD_CRD_EJECT\"=\"SafeDoor=1\"\n\"Other\"=\"x\"\n");
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "CheckErrorHandler\\WFS_CMD_CRD_EJECT"}), 0) << m_err;
+    EXPECT_EQ(m_out.substr(0, m_out.find("    default")),
+              "CheckErrorHandler: every value of the key   device key\n  WFS_CMD_CRD_EJECT = \"SafeDoor=1\"   device "
+              "key, " +
+                  Place(16) + '\n');
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "wfs_cmd_crd_eject", "--changed"}), 0) << m_err;
+    EXPECT_NE(m_out.find("\"SafeDoor=1\"           device key, " + Place(16)), std::string::npos) << m_out;
+    EXPECT_EQ(m_out.find("Other"), std::string::npos) << m_out;
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "CheckErrorHandler\\WFS_CMD_CRD_EJECT", "--json"}), 0);
+    const auto settings = json::parse(m_out)["settings"];
+    ASSERT_EQ(settings.size(), 1U);
+    EXPECT_EQ(settings[0]["entries"], json({{"WFS_CMD_CRD_EJECT", "SafeDoor=1"}}));
+    EXPECT_EQ(settings[0]["asked"][0]["inEffect"], true);
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "CheckErrorHandler\\WFS_CMD_CRD_RESET"}), 0);
+    EXPECT_NE(m_out.find("WFS_CMD_CRD_RESET  missing"), std::string::npos) << m_out;
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", "CheckErrorHandler\\CheckLevl"}), 1);
+    EXPECT_NE(m_err.find("did you mean \"CheckErrorHandler\\CheckLevel\"?"), std::string::npos) << m_err;
+    EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", ""}), 2);
+}
+
 // A terminal is shown what it can show; JSON is well-formed whatever is stored.
 TEST_F(DiagnosisCommandsTest, HostileTextStaysText)
 {

@@ -156,9 +156,7 @@ class Planner
             targets = FindBelow(text);
         }
         if (targets.empty()) {
-            Refuse(ClassName() + " has no setting " + Quoted(text) + "; did you mean \"" +
-                       NearestSetting(m_examination, text) + "\"?",
-                   true);
+            Refuse(ClassName() + " has no setting " + Quoted(text) + DidYouMean(m_examination, text), true);
             return std::nullopt;
         }
         if (targets.size() > 1) {
@@ -215,13 +213,9 @@ class Planner
             if (!setting.Setting().wholeKey) {
                 continue;
             }
-            std::wstring shown;
-            AppendWideFromUtf8(KeyText(setting.Setting().root, setting.Setting().key), shown);
-            for (const auto& key : {shown, setting.Setting().key, setting.path}) {
-                if (text.size() > key.size() + 1 && text[key.size()] == L'\\' &&
-                    EqualNoCase(std::wstring_view(text).substr(0, key.size()), key)) {
-                    return {{&setting.Setting(), &setting, setting.path, text.substr(key.size() + 1)}};
-                }
+            const auto entry = EntryNamedBy(setting, text);
+            if (entry && text.size() > entry->size()) {
+                return {{&setting.Setting(), &setting, setting.path, *entry}};
             }
         }
         const auto split = text.find_last_of(L'\\');

@@ -533,6 +533,15 @@ const AskedKey* ExaminedSetting::KeyInEffect() const noexcept
     return found != asked.end() ? &*found : nullptr;
 }
 
+bool ExaminedSetting::IsInEffect(const AskedKey& key) const noexcept
+{
+    if (!Setting().wholeKey) {
+        return &key == KeyInEffect();
+    }
+    return source == Source::Key && key.found &&
+           std::any_of(entries.begin(), entries.end(), [&](const auto& entry) { return entry.first == key.name; });
+}
+
 Examination Examine(const ServiceIdentity& service, const ClassEntry& entry)
 {
     return Examiner(service, entry).Run();

@@ -54,6 +54,8 @@ struct ExaminedSetting
     bool IsDefault() const;
     // The key that the value in effect comes from; null where none has it.
     const AskedKey* KeyInEffect() const noexcept;
+    // Whether this one of `asked` is in effect; of a key that is read whole, several may be.
+    bool IsInEffect(const AskedKey& key) const noexcept;
 };
 
 struct Examination

@@ -57,6 +57,11 @@ std::string NearestBy(const std::vector<std::string>& candidates, Measure distan
 
 } // namespace
 
+std::size_t DistanceNoCase(std::string_view left, std::string_view right)
+{
+    return Distance(LowerCase(left), LowerCase(right));
+}
+
 std::string Nearest(std::string_view name, const std::vector<std::string>& candidates)
 {
     return NearestBy(candidates, [&](const std::string& candidate) { return Distance(name, candidate); });
@@ -64,8 +69,7 @@ std::string Nearest(std::string_view name, const std::vector<std::string>& candi
 
 std::string NearestNoCase(std::string_view name, const std::vector<std::string>& candidates)
 {
-    const auto lower = LowerCase(name);
-    return NearestBy(candidates, [&](const std::string& candidate) { return Distance(lower, LowerCase(candidate)); });
+    return NearestBy(candidates, [&](const std::string& candidate) { return DistanceNoCase(name, candidate); });
 }
 
 } // namespace wqspcfg::diagnosis

@@ -254,6 +254,40 @@ Naming NamingOf(const ExaminedSetting& setting, std::wstring_view text)
     return !described.label.empty() && EqualNoCase(text, described.label) ? Naming::Label : Naming::None;
 }
 
+std::optional<std::wstring> EntryNamedBy(const ExaminedSetting& setting, std::wstring_view text)
+{
+    const auto& described = setting.Setting();
+    if (!described.wholeKey || setting.name != L"*") {
+        return std::nullopt;
+    }
+    std::wstring shown;
+    AppendWideFromUtf8(KeyText(described.root, described.key), shown);
+    for (const auto& key : {shown, described.key, setting.path}) {
+        if (text.size() > key.size() + 1 && text[key.size()] == L'\\' && EqualNoCase(text.substr(0, key.size()), key)) {
+            return std::wstring(text.substr(key.size() + 1));
+        }
+    }
+    const bool isThere = std::any_of(setting.entries.begin(), setting.entries.end(),
+                                     [&](const auto& entry) { return EqualNoCase(entry.first, text); }) ||
+                         std::any_of(setting.asked.begin(), setting.asked.end(),
+                                     [&](const AskedKey& key) { return EqualNoCase(key.name, text); });
+    return isThere ? std::optional(std::wstring(text)) : std::nullopt;
+}
+
+ExaminedSetting OneEntry(const ExaminedSetting& setting, const std::wstring& name)
+{
+    auto one = setting;
+    std::erase_if(one.entries, [&](const auto& entry) { return !EqualNoCase(entry.first, name); });
+    std::erase_if(one.asked, [&](const AskedKey& key) { return !EqualNoCase(key.name, name); });
+    if (one.asked.empty()) {
+        one.asked.push_back({setting.path, name, false, ValueType::None, {}});
+    }
+    if (setting.source == Source::Key && one.entries.empty()) {
+        one.source = one.asked.front().found ? Source::WrongType : Source::Missing;
+    }
+    return one;
+}
+
 std::string FullNameOf(const ExaminedSetting& setting)
 {
     return KeyText(setting.Setting().root, setting.Setting().key) + '\\' + Utf8ForMessage(setting.name);
@@ -263,28 +297,46 @@ std::string NearestSetting(const Examination& examination, std::wstring_view tex
 {
     const auto wanted = Utf8ForMessage(text);
     const auto split = text.find_last_of(L'\\');
-    std::vector<std::string> names;
-    if (split == std::wstring_view::npos) {
-        for (const auto& setting : examination.settings) {
-            names.push_back(Utf8ForMessage(setting.name));
-        }
-        return NearestNoCase(wanted, names);
-    }
-    const auto key = text.substr(0, split);
-    const auto name = text.substr(split + 1);
+    const bool hasKey = split != std::wstring_view::npos;
+    const auto key = text.substr(0, hasKey ? split : 0);
+    const auto name = text.substr(hasKey ? split + 1 : 0);
     // The same name in another key, or another key of this name, is likelier than a name that is written alike.
+    std::vector<std::string> names;
     std::vector<std::string> likelier;
+    const auto add = [&](const ExaminedSetting& setting, std::wstring_view own, bool isLikelier) {
+        auto shown =
+            (hasKey ? KeyText(setting.Setting().root, setting.Setting().key) + '\\' : "") + Utf8ForMessage(own);
+        if (EqualNoCase(own, name) && (!hasKey || EqualNoCase(key, setting.Setting().key))) {
+            return; // what was asked for is not what was meant
+        }
+        if (hasKey && isLikelier) {
+            likelier.push_back(shown);
+        }
+        names.push_back(std::move(shown));
+    };
     for (const auto& setting : examination.settings) {
         const auto& described = setting.Setting();
-        const bool isWhole = described.wholeKey && setting.name == L"*";
-        names.push_back(isWhole ? KeyText(described.root, described.key) + '\\' + Utf8ForMessage(name)
-                                : FullNameOf(setting));
+        if (!described.wholeKey || setting.name != L"*") {
+            add(setting, setting.name, EqualNoCase(setting.name, name));
+            continue;
+        }
         const auto last = std::wstring_view(described.key).substr(described.key.find_last_of(L'\\') + 1);
-        if (isWhole ? EqualNoCase(last, key) : EqualNoCase(setting.name, name)) {
-            likelier.push_back(names.back());
+        if (hasKey) {
+            add(setting, name, EqualNoCase(last, key));
+        }
+        for (const auto& entry : setting.entries) {
+            add(setting, entry.first, false);
         }
     }
-    return NearestNoCase(wanted, likelier.empty() ? names : likelier);
+    auto nearest = NearestNoCase(wanted, likelier.empty() ? names : likelier);
+    // One that has not a character in common was not meant.
+    return DistanceNoCase(wanted, nearest) < std::max(wanted.size(), nearest.size()) ? nearest : std::string();
+}
+
+std::string DidYouMean(const Examination& examination, std::wstring_view text)
+{
+    const auto nearest = NearestSetting(examination, text);
+    return nearest.empty() ? std::string() : "; did you mean \"" + nearest + "\"?";
 }
 
 std::string FullPath(std::wstring_view path)

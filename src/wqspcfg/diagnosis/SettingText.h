@@ -6,6 +6,7 @@
 #include "wqspcfg/diagnosis/Examination.h"
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -73,8 +74,18 @@ Naming NamingOf(const ExaminedSetting& setting, std::wstring_view text);
 // KeyText and its name: "Comm\Port".
 std::string FullNameOf(const ExaminedSetting& setting);
 
-// The setting that was probably meant by a text that names none: "Port", or "Comm\Port" where the text has a key.
+// The name of the entry of a key that is read whole, which the text means: "Key\Name", or the name of one that is
+// there.
+std::optional<std::wstring> EntryNamedBy(const ExaminedSetting& setting, std::wstring_view text);
+// What is told of that entry alone, also where it is missing.
+ExaminedSetting OneEntry(const ExaminedSetting& setting, const std::wstring& name);
+
+// The setting that was probably meant by a text that names none: "Port", or "Comm\Port" where the text has a key; empty
+// where there is none.
 std::string NearestSetting(const Examination& examination, std::wstring_view text);
+
+// The same as the end of a message: "; did you mean "Comm\Port"?".
+std::string DidYouMean(const Examination& examination, std::wstring_view text);
 
 // A path as the messages show it, with its hive: "HKLM\SOFTWARE\XFS".
 std::string FullPath(std::wstring_view path);

@@ -1,6 +1,7 @@
 #include "wqspcfg/tools/ExplainCommand.h"
 
 #include "wqspcfg/diagnosis/Examination.h"
+#include "wqspcfg/diagnosis/NameIndex.h"
 #include "wqspcfg/diagnosis/SettingText.h"
 #include "wqspcfg/diagnosis/StoredText.h"
 #include "wqspcfg/tools/JsonText.h"
@@ -27,7 +28,8 @@ class Explanation
             const auto key = diagnosis::KeyText(setting->Setting().root, setting->Setting().key);
             if (setting->Setting().wholeKey) {
                 for (const auto& [name, text] : setting->entries) {
-                    table.Add({key, Utf8(name), Shown(*setting, '"' + Utf8(text) + '"'), "", Origin(*setting), ""});
+                    table.Add(
+                        {key, Utf8(name), Shown(*setting, '"' + Utf8(text) + '"'), "", Origin(*setting, name), ""});
                 }
                 continue;
             }
@@ -46,15 +48,21 @@ class Explanation
         if (described.wholeKey) {
             line(key + ": every value of the key   " + Origin(setting));
             for (const auto& [name, text] : setting.entries) {
-                line("  " + Utf8(name) + " = " + Shown(setting, '"' + Utf8(text) + '"'));
+                line("  " + Utf8(name) + " = " + Shown(setting, '"' + Utf8(text) + '"') + "   " +
+                     Origin(setting, name));
+            }
+            for (const auto& asked : setting.asked) {
+                if (!setting.IsInEffect(asked)) {
+                    line("    " + diagnosis::FullPath(asked.path) + '\\' + Utf8(asked.name) + "  " +
+                         Stood(setting, asked));
+                }
             }
         } else {
             line(key + " : " + Utf8(setting.name) + " = " + Value(setting) + "   " + Origin(setting) +
                  (note.empty() ? "" : " (" + note + ")"));
-            const auto* inEffect = setting.KeyInEffect();
             for (const auto& asked : setting.asked) {
                 line("    " + diagnosis::FullPath(asked.path) + '\\' + Utf8(asked.name) + "  " + Stood(setting, asked) +
-                     (&asked == inEffect ? "  <- in effect" : ""));
+                     (setting.IsInEffect(asked) ? "  <- in effect" : ""));
             }
         }
         line("    default " + Default(setting) + ", " + diagnosis::SavedText(described, setting.declared->isSaved) +
@@ -101,7 +109,6 @@ class Explanation
             put("correctedFrom", "correctedFromWord", setting.read);
         }
         auto keys = ordered_json::array();
-        const auto* inEffect = setting.KeyInEffect();
         for (const auto& asked : setting.asked) {
             ordered_json key;
             key["path"] = diagnosis::FullPath(asked.path);
@@ -114,7 +121,7 @@ class Explanation
                     key["place"] = place;
                 }
             }
-            key["inEffect"] = &asked == inEffect;
+            key["inEffect"] = setting.IsInEffect(asked);
             keys.push_back(std::move(key));
         }
         out["asked"] = std::move(keys);
@@ -161,6 +168,14 @@ class Explanation
         return text;
     }
 
+    // Of an entry of a key that is read whole.
+    std::string Origin(const ExaminedSetting& setting, const std::wstring& entry)
+    {
+        auto text = diagnosis::SourceText(setting);
+        const auto place = setting.source == diagnosis::Source::Key ? m_places.Of(setting.path, &entry) : std::string();
+        return text + (place.empty() ? "" : ", " + place);
+    }
+
     std::string Stood(const ExaminedSetting& setting, const AskedKey& key)
     {
         if (!key.found) {
@@ -189,9 +204,30 @@ bool IsNamed(const ExaminedSetting& setting, std::wstring_view text)
 
 int FailUnknown(const diagnosis::Examination& examination, const std::string& name, const Console& console)
 {
-    return console.Fail(kNegative, Utf8(examination.entry->table().className) + " has no setting \"" + name +
-                                       "\"; did you mean \"" + diagnosis::NearestSetting(examination, Wide(name)) +
-                                       "\"?");
+    return console.Fail(kNegative, Utf8(examination.entry->table().className) + " has no setting \"" + name + '"' +
+                                       diagnosis::DidYouMean(examination, Wide(name)));
+}
+
+// The entries of keys that are read whole which a text names; not one that is missing and looks like a slip.
+std::vector<ExaminedSetting> EntriesNamedBy(const diagnosis::Examination& examination, std::wstring_view text)
+{
+    std::vector<ExaminedSetting> entries;
+    for (const auto& setting : examination.settings) {
+        const auto name = diagnosis::EntryNamedBy(setting, text);
+        if (!name) {
+            continue;
+        }
+        auto one = diagnosis::OneEntry(setting, *name);
+        const auto& described = setting.Setting();
+        const auto isStored = [](const std::wstring&) { return false; };
+        if (one.asked.front().found || !one.entries.empty() ||
+            diagnosis::NameIndex::Of(*examination.entry)
+                .NearestName(described.root, described.key, *name, isStored, false)
+                .empty()) {
+            entries.push_back(std::move(one));
+        }
+    }
+    return entries;
 }
 
 } // namespace
@@ -199,6 +235,9 @@ int FailUnknown(const diagnosis::Examination& examination, const std::string& na
 int Explain(const StoreChoice& choice, const ServiceChoice& service, const ExplainOptions& options,
             const Console& console)
 {
+    if (options.setting && options.setting->empty()) {
+        throw UsageError("SETTING is empty; leave it out for all settings");
+    }
     Error error;
     auto store = OpenForExamination(choice, error);
     if (!store) {
@@ -215,18 +254,26 @@ int Explain(const StoreChoice& choice, const ServiceChoice& service, const Expla
     if (examination.failure) {
         return console.Fail(examination.failure);
     }
-    const auto wanted = Wide(options.setting);
+    const auto wanted = Wide(options.setting.value_or(std::string()));
     std::vector<const ExaminedSetting*> settings;
     for (const auto& setting : examination.settings) {
-        if ((options.setting.empty() || IsNamed(setting, wanted)) &&
-            (!options.changed || diagnosis::IsChanged(setting))) {
+        if ((!options.setting || IsNamed(setting, wanted)) && (!options.changed || diagnosis::IsChanged(setting))) {
             settings.push_back(&setting);
         }
     }
-    if (settings.empty() && !options.setting.empty() &&
+    std::vector<ExaminedSetting> entries;
+    if (settings.empty() && options.setting &&
         std::none_of(examination.settings.begin(), examination.settings.end(),
                      [&](const ExaminedSetting& setting) { return IsNamed(setting, wanted); })) {
-        return FailUnknown(examination, options.setting, console);
+        entries = EntriesNamedBy(examination, wanted);
+        if (entries.empty()) {
+            return FailUnknown(examination, *options.setting, console);
+        }
+        for (const auto& each : entries) {
+            if (!options.changed || diagnosis::IsChanged(each)) {
+                settings.push_back(&each);
+            }
+        }
     }
     Explanation explanation(choice);
     if (options.json) {

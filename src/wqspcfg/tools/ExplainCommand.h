@@ -3,14 +3,15 @@
 
 #include "wqspcfg/tools/ServiceAccess.h"
 
+#include <optional>
 #include <string>
 
 namespace wqspcfg::tools {
 
 struct ExplainOptions
 {
-    std::string setting;  // its name, or "Key\Name"; empty: all
-    bool changed = false; // only what differs from the default
+    std::optional<std::string> setting; // its name, or "Key\Name"; none: all
+    bool changed = false;               // only what differs from the default
     bool json = false;
 };
 
