@@ -590,6 +590,30 @@ TEST_F(TerminalTest, TellsOfValuesThatTheClassReplaces)
               std::string::npos);
 }
 
+TEST_F(TerminalTest, TellsThatNoLogicalServiceIsLeft)
+{
+    const auto foundWith = [&](Hive hive, const std::wstring& key) {
+        Error error;
+        const auto transaction = m_terminal->Begin(Access::Write, error);
+        transaction->DeleteKey(Hive::Users, L".DEFAULT\\XFS");
+        KeyId id = 0;
+        EXPECT_NE(transaction->CreateKey(hive, key, id), Outcome::Failed);
+        EXPECT_NE(transaction->Commit(false), Outcome::Failed);
+        const auto found = Found();
+        const auto at = found.find("noLogicalService: ");
+        return at != std::string::npos ? found.substr(at, found.find('\n', at) - at) : "";
+    };
+    const std::string none = "noLogicalService: there is no logical service: HKU\\.DEFAULT\\XFS\\LOGICAL_SERVICES is ";
+    EXPECT_EQ(foundWith(Hive::Users, L".DEFAULT\\XFS\\LOGICAL_SERVICES"), none + "empty");
+    EXPECT_EQ(foundWith(Hive::Users, L".DEFAULT\\XFS\\LOGICAL_SERVICE\\Reader"),
+              none + "missing; HKU\\.DEFAULT\\XFS\\LOGICAL_SERVICE is not read");
+    EXPECT_EQ(foundWith(Hive::CurrentUser, L"XFS\\LOGICAL_SERVICES\\Reader"),
+              none + "missing; HKCU\\XFS\\LOGICAL_SERVICES is not read");
+    EXPECT_EQ(foundWith(Hive::LocalMachine, L"SOFTWARE\\XFS\\LOGICAL_SERVICES\\Reader"),
+              none + "missing; HKLM\\SOFTWARE\\XFS\\LOGICAL_SERVICES is not read");
+    EXPECT_EQ(foundWith(Hive::Users, L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Reader"), "");
+}
+
 TEST_F(TerminalTest, FindsNoteTypesThatDoNotAddUp)
 {
     AddService(L"Recycler", L"CIM", L"WQC81Driver");

@@ -202,6 +202,37 @@ class SettingIndex
 
 constexpr wchar_t kProviderValue[] = L"Provider";
 
+constexpr wchar_t kLogicalServices[] = L"LOGICAL_SERVICES";
+
+// The key in which somebody has put the logical services in place of the one that is read; empty where none is like it.
+struct MisplacedServices
+{
+    std::wstring path; // empty in a hive that no message about a path can name
+    std::string text;
+};
+MisplacedServices FindMisplacedServices()
+{
+    constexpr std::size_t kMostSlips = 3;
+    const auto wanted = Utf8(kLogicalServices);
+    for (const auto parent : {kUsersXfsKey, kXfsKey}) {
+        for (const auto& name : SubkeysOf(parent)) {
+            const bool isRead = parent == kUsersXfsKey && EqualNoCase(name, kLogicalServices);
+            if (!isRead && Distance(Utf8(UpCase(name)), wanted) <= kMostSlips) {
+                const auto path = std::wstring(parent) + L'\\' + name;
+                return {path, FullPath(path)};
+            }
+        }
+    }
+    Error error;
+    const auto store = CurrentStore(error);
+    const auto transaction = store ? store->Begin(Access::Read, error) : nullptr;
+    KeyId key = 0;
+    const auto own = std::wstring(L"XFS\\") + kLogicalServices;
+    return transaction && transaction->OpenKey(Hive::CurrentUser, own, key) == Outcome::Found
+               ? MisplacedServices{{}, "HKCU\\" + Utf8(own)}
+               : MisplacedServices{};
+}
+
 class Checker
 {
   public:
@@ -221,6 +252,7 @@ class Checker
         CheckPorts();
         CheckNames();
         if (m_options.services.empty()) {
+            CheckLogicalServices();
             CheckDeviceKeys();
             CheckView32();
         }
@@ -382,6 +414,25 @@ class Checker
                            Utf8(NameOf(first.examination->service)) + " uses too (" + FullName(*first.setting) + ")");
             }
         }
+    }
+
+    // Applications open logical services: service providers alone serve nobody.
+    void CheckLogicalServices()
+    {
+        if (!m_logical.empty() || m_out.services.empty()) {
+            return;
+        }
+        std::wstring read(kLogicalRoot);
+        read.pop_back();
+        const auto misplaced = FindMisplacedServices();
+        Report({Severity::Warning,
+                FindingKind::NoLogicalService,
+                {},
+                misplaced.path.empty() ? read : misplaced.path,
+                std::nullopt,
+                "there is no logical service: " + FullPath(read) + (Exists(read) ? " is empty" : " is missing") +
+                    (misplaced.text.empty() ? std::string() : "; " + misplaced.text + " is not read"),
+                {}});
     }
 
     void CheckDeviceKeys()
@@ -961,6 +1012,8 @@ const char* NameOf(FindingKind kind) noexcept
         return "noSuchService";
     case FindingKind::Inconsistent:
         return "inconsistent";
+    case FindingKind::NoLogicalService:
+        return "noLogicalService";
     case FindingKind::View32:
         break;
     }

@@ -27,6 +27,7 @@ enum class FindingKind : std::uint8_t
     UnknownKey,       // a key of which nothing is read
     ReadElsewhere,    // a value that is read from another key
     OtherModel,       // a value that another device model reads
+    NoLogicalService, // service providers, and no logical service for an application to open
     NoProvider,       // a logical service without a service provider
     NoDeviceKey,      // a service provider without a device key
     UnusedDeviceKey,  // a device key without a service
