@@ -614,6 +614,26 @@ TEST_F(TerminalTest, TellsThatNoLogicalServiceIsLeft)
     EXPECT_EQ(foundWith(Hive::Users, L".DEFAULT\\XFS\\LOGICAL_SERVICES\\Reader"), "");
 }
 
+// Installers have values of their own beside those that are read.
+TEST_F(TerminalTest, IsSilentOnTheNamesOfInstallers)
+{
+    AddService(L"Printer", L"PTR", L"WQSpPTRRID100");
+    AddService(L"Camera", L"CAM", L"WQSpCAMPrdMNCCamera");
+    for (const auto* device : {L"WQSpPTRRID100", L"WQSpCAMPrdMNCCamera", L"WQSpIDCTTCEM100"}) {
+        for (const auto* name : {L"Server", L"Path", L"Normal", L"Enabled", L"Timeout", L"Type", L"Mode", L"Count"}) {
+            Set(kServiceRoot + std::wstring(device), name, L"x");
+        }
+    }
+    for (const auto* service : {L"Printer", L"Camera", L"Reader"}) {
+        for (const auto* name : {L"Server", L"Path", L"Normal", L"Enabled", L"Timeout", L"Mode", L"Count"}) {
+            Set(L".DEFAULT\\XFS\\LOGICAL_SERVICES\\" + std::wstring(service), name, 1U);
+        }
+    }
+    EXPECT_EQ(Found(), "");
+    Set(kServiceRoot + std::wstring(L"WQSpIDCTTCEM100"), L"BaudRate", L"fast");
+    EXPECT_EQ(Found(), "") << "a number is read";
+}
+
 TEST_F(TerminalTest, FindsNoteTypesThatDoNotAddUp)
 {
     AddService(L"Recycler", L"CIM", L"WQC81Driver");

@@ -202,6 +202,19 @@ class SettingIndex
 
 constexpr wchar_t kProviderValue[] = L"Provider";
 
+// A name of several words: no other program has it by chance, as it may have "Path" or "Server".
+bool IsSpecific(std::wstring_view name)
+{
+    const auto isLower = [](wchar_t ch) { return ch >= L'a' && ch <= L'z'; };
+    const auto isUpper = [](wchar_t ch) { return ch >= L'A' && ch <= L'Z'; };
+    for (std::size_t i = 1; i < name.size(); ++i) {
+        if (isLower(name[i - 1]) && isUpper(name[i])) {
+            return true;
+        }
+    }
+    return false;
+}
+
 constexpr wchar_t kLogicalServices[] = L"LOGICAL_SERVICES";
 
 // The key in which somebody has put the logical services in place of the one that is read; empty where none is like it.
@@ -916,7 +929,8 @@ class Checker
             Report(Severity::Warning, kind, examination, key.path, name, FullName(key.path, name) + what);
         };
         if (const auto [reader, place] = ReaderInDeviceKey(examination, key, name);
-            reader != nullptr && !NameIndex::All().Has(key.root, key.subkey, name)) {
+            reader != nullptr && IsMeantFor(*reader, place, key, name) &&
+            !NameIndex::All().Has(key.root, key.subkey, name)) {
             report(FindingKind::ReadElsewhere,
                    " is not read: " + ClassOf(*reader) + " reads it from " + FullPath(place) + ", not from here");
         } else if (const auto meant = NearestMissing(examination, key, name);
@@ -924,6 +938,19 @@ class Checker
             report(FindingKind::UnknownName,
                    " is not read by " + ReaderOf(examination, key) + "; did you mean " + meant + "?");
         }
+    }
+
+    // By its type and by its name, or by the subkey that it stands in, as programs do not have the same by chance.
+    static bool IsMeantFor(const Examination& reader, const std::wstring& place, const VisitedKey& key,
+                           const std::wstring& name)
+    {
+        const auto stored = StoredAt(key.path, name);
+        const bool isRightType =
+            std::any_of(reader.settings.begin(), reader.settings.end(), [&](const ExaminedSetting& setting) {
+                return stored && EqualNoCase(setting.path, place) && EqualNoCase(setting.name, name) &&
+                       IsRightType(setting.Setting(), *stored);
+            });
+        return isRightType && (!key.subkey.empty() || IsSpecific(name));
     }
 
     struct Reader
