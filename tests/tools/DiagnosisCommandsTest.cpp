@@ -158,6 +158,20 @@ TEST_F(DiagnosisCommandsTest, ExplainTellsOfOneEntryOfAKeyThatIsReadWhole)
     EXPECT_EQ(RunOn(store, {"explain", "CardDispenser", ""}), 2);
 }
 
+TEST_F(DiagnosisCommandsTest, ALoadCountsTheFindingsOfAClassThatIsGivenToo)
+{
+    const auto store = Export("\"Port\"=\"4\"\n\n"
+                              "[HKEY_USERS\\.DEFAULT\\XFS\\LOGICAL_SERVICES\\-x]\n"
+                              "\"Class\"=\"CRD\"\n\"Provider\"=\"WQSpCRDWQTYM1200\"\n");
+    EXPECT_EQ(RunOn(store, {"load", "CardDispenser", "--model", "CSpCRDWQTYM1200RegInfo"}), 0) << m_err;
+    EXPECT_NE(m_err.find("1 finding; see `wqspcfg check CardDispenser`"), std::string::npos) << m_err;
+    EXPECT_EQ(RunOn(store, {"load", "CardDispenser", "--model", "CCRDRegInfo"}), 0) << m_err;
+    EXPECT_EQ(m_err.find("finding"), std::string::npos) << "check would look at it as another class";
+    EXPECT_EQ(RunOn(store, {"load", "--", "-x"}), 0) << m_err;
+    EXPECT_NE(m_err.find("see `wqspcfg check -- -x`"), std::string::npos) << m_err;
+    EXPECT_EQ(RunOn(store, {"check", "--", "-x"}), 1) << m_err;
+}
+
 // A terminal is shown what it can show; JSON is well-formed whatever is stored.
 TEST_F(DiagnosisCommandsTest, HostileTextStaysText)
 {

@@ -97,7 +97,8 @@ void NoteFindings(const StoreChoice& choice, const ServiceChoice& service, const
     const auto checkup = diagnosis::Check(options, places);
     if (!checkup.findings.empty()) {
         console.Note(Counted(checkup.findings.size(), "finding") + "; see `wqspcfg check " +
-                     (service.physical ? "--physical " : "") + ShellWord(service.name) + '`');
+                     (service.physical ? "--physical " : "") + (service.name.starts_with('-') ? "-- " : "") +
+                     ShellWord(service.name) + '`');
     }
 }
 
@@ -183,7 +184,10 @@ int LoadService(const StoreChoice& choice, const ServiceChoice& service, const L
         console.Note(Utf8(entry->table().className) + "::Load returned false");
     }
     status = Checked(status, console);
-    if (service.model.empty() && status != kFailed) {
+    // check looks at the service as the class that is found for it.
+    const bool isOwnClass =
+        service.model.empty() || entry == SelectModel(IdentifyService(name, service.physical)).entry;
+    if (isOwnClass && status != kFailed) {
         NoteFindings(choice, service, console);
     }
     return status;
