@@ -156,6 +156,16 @@ class LmdbHardeningTest : public testing::Test
     TemporaryDirectory temporary;
 };
 
+// The superuser uses a store that others may write.
+class TrustTheStore
+{
+  public:
+    TrustTheStore() { EXPECT_EQ(setenv("WQSPCFG_TRUST_STORE", "1", 1), 0); }
+    ~TrustTheStore() { unsetenv("WQSPCFG_TRUST_STORE"); }
+    TrustTheStore(const TrustTheStore&) = delete;
+    TrustTheStore& operator=(const TrustTheStore&) = delete;
+};
+
 bool BecomeNobody(gid_t group = kNobody)
 {
     return setgid(group) == 0 && setuid(kNobody) == 0;
@@ -255,6 +265,7 @@ TEST_F(LmdbHardeningTest, PlantedFilesAreRefusedAndWhatTheyLeadToIsLeftAlone)
                 }
                 GiveAway();
             }
+            const TrustTheStore trust; // so that the superuser opens all files
             EXPECT_NE(Refusal({.create = true}), "") << at << isForeign;
             EXPECT_EQ(ReadFile(victim), "untouched");
         }
@@ -271,6 +282,7 @@ TEST_F(LmdbHardeningTest, PlantedFilesAreRefusedAndWhatTheyLeadToIsLeftAlone)
     if (geteuid() == 0) {
         Create();
         ASSERT_EQ(chown(LockFile().c_str(), 1234, 1234), 0);
+        const TrustTheStore trust;
         EXPECT_TRUE(Has(Refusal(), "1234"));
     }
 }
@@ -280,6 +292,7 @@ TEST_F(LmdbHardeningTest, TheSuperuserActsAsTheOwnerOfTheDirectory)
     if (geteuid() != 0) {
         GTEST_SKIP() << "needs the superuser";
     }
+    const TrustTheStore trust;
     fs::create_directory(Directory());
     GiveAway();
     Create();
@@ -320,12 +333,111 @@ TEST_F(LmdbHardeningTest, TheSuperuserActsAsTheOwnerOfTheDirectory)
     EXPECT_EQ(status.st_uid, 0U);
 }
 
+TEST_F(LmdbHardeningTest, TheSuperuserReadsACopyOfAStoreThatOthersMayWrite)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs the superuser";
+    }
+    const auto isUsed = [this] {
+        for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+            std::error_code code;
+            if (Has(fs::read_symlink(entry.path(), code).string(), "lock.mdb")) {
+                return true;
+            }
+        }
+        return Has(ReadFile("/proc/self/maps"), fs::canonical(Directory()).string());
+    };
+    const auto backup = temporary.File("backup");
+    BackupCounts saved;
+    CompactCounts counts;
+    StoreStatus status;
+    std::string kept;
+    Error error;
+    const auto isAdvised = [&error](std::string_view who, const std::string& path) {
+        return error.kind == ErrorKind::AccessDenied && Has(error.message, who) &&
+               Has(error.message, " may write to " + path) && Has(error.message, "runuser -u ") &&
+               Has(error.message, "WQSPCFG_TRUST_STORE=1");
+    };
+    const auto change = [](uid_t owner, mode_t mode) {
+        return [owner, mode](const std::string& path) {
+            return chown(path.c_str(), owner, owner) == 0 && chmod(path.c_str(), mode) == 0;
+        };
+    };
+    const auto giveAllTo = [this](uid_t owner) {
+        return [this, owner](const std::string&) {
+            return chown(Directory().c_str(), owner, owner) == 0 && chown(DataFile().c_str(), owner, owner) == 0 &&
+                   chown(LockFile().c_str(), owner, owner) == 0;
+        };
+    };
+    struct Case
+    {
+        std::string path;
+        std::string who;
+        std::function<bool(const std::string&)> open;
+        std::function<bool(const std::string&)> close;
+    };
+    Create();
+    for (const auto& [path, who, open, close] :
+         {Case{Directory(), "user number 65534", giveAllTo(kNobody), giveAllTo(0)},
+          Case{LockFile(), "group number 0", change(0, 0660), change(0, 0600)},
+          Case{DataFile(), "group number 0", change(0, 0660), change(0, 0600)},
+          Case{LockFile(), "everybody", change(0, 0606), change(0, 0600)}}) {
+        auto store = Open(Address()); // from the time before
+        EXPECT_EQ(WriteRefusal(*store), "");
+        EXPECT_TRUE(isUsed());
+        ASSERT_TRUE(open(path));
+        EXPECT_FALSE(store->Begin(Access::Write, error));
+        EXPECT_TRUE(isAdvised(who, path)) << error.message;
+        EXPECT_FALSE(isUsed()) << path;
+        EXPECT_EQ(Get(*store, kKey, L"n"), "4:01000000");
+        EXPECT_FALSE(isUsed()) << path;
+        EXPECT_TRUE(BackUpStore(Address(), backup, saved, error)) << error.message;
+        EXPECT_TRUE(GetStoreStatus(Address(), true, status, error) && status.isSound && !status.knowsUsers);
+        EXPECT_FALSE(CompactStore(Address(), counts, error));
+        EXPECT_TRUE(isAdvised(who, path)) << error.message;
+        EXPECT_FALSE(RestoreStore(Address(), backup, saved, kept, error));
+        EXPECT_TRUE(isAdvised(who, path)) << error.message;
+        EXPECT_FALSE(isUsed()) << path;
+        store.reset();
+        {
+            const TrustTheStore trust;
+            EXPECT_EQ(WriteRefusal(*Open(Address())), "");
+        }
+        ASSERT_TRUE(close(path));
+        store = Open(Address());
+        EXPECT_EQ(WriteRefusal(*store), "");
+    }
+
+    // A damaged one is not replaced.
+    ASSERT_TRUE(giveAllTo(kNobody)(Directory()));
+    fs::resize_file(DataFile(), 5000);
+    EXPECT_FALSE(RestoreStore(Address(), backup, saved, kept, error));
+    EXPECT_TRUE(Has(error.message, "WQSPCFG_TRUST_STORE=1")) << error.message;
+    fs::remove_all(Directory());
+
+    // Nor is one made that others would be able to write.
+    for (const bool isShared : {false, true}) {
+        fs::create_directory(Directory());
+        ASSERT_EQ(chown(Directory().c_str(), isShared ? 0 : kNobody, 4321), 0);
+        ASSERT_EQ(chmod(Directory().c_str(), isShared ? 02750 : 0755), 0);
+        EXPECT_FALSE(OpenStore(Address(), {.create = true}, error));
+        EXPECT_TRUE(isAdvised(isShared ? "group number 4321" : "user number 65534", "")) << error.message;
+        EXPECT_TRUE(fs::is_empty(Directory()));
+        fs::remove_all(Directory());
+    }
+    fs::create_directory(Directory());
+    ASSERT_EQ(chmod(Directory().c_str(), 02700), 0); // as below a shared one
+    Create();
+    EXPECT_TRUE(Rights(DataFile()).ends_with(" 600") && Rights(LockFile()).ends_with(" 600"));
+}
+
 TEST_F(LmdbHardeningTest, NewFilesKeepAGroupThatTheOwnerIsNotIn)
 {
     if (geteuid() != 0) {
         GTEST_SKIP() << "needs the superuser";
     }
     constexpr gid_t kGroup = 4321;
+    const TrustTheStore trust;
     Create();
     GiveAway();
     ASSERT_EQ(chown(DataFile().c_str(), kNobody, kGroup), 0);
@@ -361,6 +473,7 @@ TEST_F(LmdbHardeningTest, AFileThatTheSuperuserMadeForAnotherUserIsNamedWithTheR
     if (geteuid() != 0) {
         GTEST_SKIP() << "needs the superuser";
     }
+    const TrustTheStore trust;
     const auto command = [](const std::string& path) { return "chown 65534 '" + path + "'"; };
     Create();
     ASSERT_EQ(chown(Directory().c_str(), kNobody, kNobody), 0);
@@ -426,6 +539,7 @@ TEST_F(LmdbHardeningTest, ANewStoreIsItsMakersAloneOrSharedByItsDirectory)
         GTEST_SKIP() << "the rest needs the superuser";
     }
     constexpr gid_t kGroup = 4321;
+    const TrustTheStore trust;
     fs::create_directory(Directory());
     ASSERT_EQ(chown(Directory().c_str(), 0, kGroup), 0);
     ASSERT_EQ(chmod(Directory().c_str(), 02750), 0);
@@ -554,6 +668,7 @@ TEST_F(LmdbHardeningTest, AnotherCopyOfTheLibraryInTheProcessIsNoticed)
 TEST_F(LmdbHardeningTest, WhoMayOnlyReadTheStoreKeepsNobodyFromIt)
 {
     const auto mask = umask(022);
+    const TrustTheStore trust;
     Create();
     ASSERT_EQ(chmod(DataFile().c_str(), 0664), 0);
     fs::remove(LockFile());
@@ -879,6 +994,7 @@ TEST_F(LmdbHardeningTest, TheMarkOfALastWriterIsBelievedWhereNobodyElseCanMakeOn
         }
         ASSERT_EQ(transaction->Commit(true), Outcome::Found);
     }
+    const TrustTheStore trust;
     // A leaf is spoilt, and the mark says that nothing happened.
     auto content = ReadFile(DataFile());
     const auto at = content.rfind("VALUE500");

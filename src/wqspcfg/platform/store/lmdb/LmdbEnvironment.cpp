@@ -396,17 +396,14 @@ bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::
             status = fstat(file, &opened) != 0 ? errno : m_map.Open(file, m_mapSize);
         }
         if (status == 0) {
-            isMoved = !IsSameFile(opened, m_data);
             struct stat lock = {};
-            if (!m_isCopied) {
-                isMoved = isMoved || fstatat(m_folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0 ||
-                          !IsSameFile(lock, m_lock);
-            }
+            isMoved = !IsSameFile(opened, m_data) ||
+                      fstatat(m_folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0 || !IsSameFile(lock, m_lock);
             for (int standard = 0; standard < kLeastDescriptor; ++standard) {
                 // Another thread may have closed one just now.
                 struct stat other = {};
                 isMoved = isMoved || (fstat(standard, &other) == 0 &&
-                                      (IsSameFile(other, m_data) || (!m_isCopied && IsSameFile(other, m_lock))));
+                                      (IsSameFile(other, m_data) || IsSameFile(other, m_lock)));
             }
             if (!isMoved) {
                 return true;
@@ -448,9 +445,10 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     if (!owner.Check(address, m_folder, error)) {
         return false;
     }
-    m_whyReadOnly.clear();
-    m_dataFile = m_folder.OpenFile(kDataName, O_RDWR);
-    if (!m_dataFile && (errno == EACCES || errno == EPERM || errno == EROFS)) {
+    m_whyReadOnly = m_folder.WhoElseWrites();
+    m_isCopied = !m_whyReadOnly.empty();
+    m_dataFile = m_folder.OpenFile(kDataName, m_isCopied ? O_RDONLY : O_RDWR);
+    if (!m_dataFile && !m_isCopied && (errno == EACCES || errno == EPERM || errno == EROFS)) {
         m_whyReadOnly = m_folder.WhyRefused(kDataName, errno);
         m_dataFile = m_folder.OpenFile(kDataName, O_RDONLY);
     }
@@ -472,7 +470,9 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     }
     int result = 0;
     Error failure;
-    m_lockFile = OpenLockFile(address, m_folder, owner, m_data, result, failure);
+    if (!m_isCopied) {
+        m_lockFile = OpenLockFile(address, m_folder, owner, m_data, result, failure);
+    }
     if (failure || (m_lockFile && fstat(m_lockFile.Get(), &m_lock) != 0)) {
         error = failure ? std::move(failure) : LmdbError(address, "open", m_directory + '/' + kLockName, errno);
         CloseFiles();
@@ -483,9 +483,15 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
         m_whyReadOnly =
             std::string(kLockName) + " beside it cannot be opened to write: " + m_folder.WhyRefused(kLockName, result);
     }
-    const auto needed = static_cast<std::size_t>(m_data.st_size) + kLeastMapSize;
-    const unsigned flags = m_isCopied ? MDB_RDONLY | MDB_NOLOCK : m_whyReadOnly.empty() ? 0 : MDB_RDONLY;
-    if (!m_isCopied && Announce(address, failure)) {
+    m_fileSize = static_cast<std::size_t>(m_data.st_size);
+    m_broken = false;
+    m_full = false;
+    if (m_isCopied) {
+        return true;
+    }
+    const auto needed = m_fileSize + kLeastMapSize;
+    const unsigned flags = m_whyReadOnly.empty() ? 0 : MDB_RDONLY;
+    if (Announce(address, failure)) {
         // Nobody takes the files away from now on; LMDB would make an empty one in the place of one that is gone.
         bool isLockGone = false;
         isMoved = !IsWhereItWas(address, isLockGone, failure) && !failure;
@@ -498,10 +504,6 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
         CloseFiles();
         return false;
     }
-    m_fileSize = static_cast<std::size_t>(m_data.st_size);
-    m_broken = false;
-    m_full = false;
-
     int dead = 0;
     (void)mdb_reader_check(m_env, &dead);
     return true;
@@ -596,19 +598,26 @@ bool LmdbEnvironment::IsWhereItWas(const std::string& address, bool& isLockGone,
         error = LmdbError(address, "use", m_dataPath, errno);
         return false;
     }
-    if (!IsSameFile(status, m_data)) {
+    // One that others may write now is not used any longer by the superuser.
+    if (!IsSameFile(status, m_data) || (!m_isCopied && m_folder.IsOfOthers(status))) {
         return false;
     }
     m_fileSize = static_cast<std::size_t>(status.st_size);
     if (!m_isCopied) {
         const auto lockPath = m_directory + '/' + kLockName;
         isLockGone = lstat(lockPath.c_str(), &status) != 0 || !IsSameFile(status, m_lock);
+        if (!isLockGone && m_folder.IsOfOthers(status)) {
+            return false;
+        }
     }
     return !isLockGone;
 }
 
 bool LmdbEnvironment::MayWriteNow() const
 {
+    if (!m_folder.WhoElseWrites().empty()) {
+        return false;
+    }
     const ActAsOwner owner(m_folder);
     // Trying it out is the answer for the rights that the files are opened with. Closing the data file drops no locks;
     // the lock file is opened here only while this process has none on it.
@@ -620,7 +629,8 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
                               Error& error)
 {
     const auto now = CoarseMilliseconds();
-    if (m_env != nullptr && !m_broken && now < m_nextLook && (access == Access::Read || m_whyReadOnly.empty())) {
+    const bool isOpen = static_cast<bool>(m_dataFile);
+    if (isOpen && !m_broken && now < m_nextLook && (access == Access::Read || m_whyReadOnly.empty())) {
         return true; // a writer looks again when it has its turn
     }
     for (bool hasWaited = false;; hasWaited = true) {
@@ -633,7 +643,7 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
             return false;
         }
         const bool isMended = access == Access::Write && !m_whyReadOnly.empty() && m_active == 0 && MayWriteNow();
-        if (m_env != nullptr && isThere && !m_broken && !isMended) {
+        if (isOpen && isThere && !m_broken && !isMended) {
             m_nextLook = now + kLookInterval;
             return true;
         }
@@ -744,6 +754,9 @@ bool LmdbEnvironment::OpenCopy(LmdbTree& tree, std::string& cause)
 // Keeps a read transaction for the next one, or gives its place to others.
 void LmdbEnvironment::Rest(MDB_txn* txn) noexcept
 {
+    if (txn == nullptr) {
+        return; // a copy
+    }
     if (m_idle.size() < kMostIdle) {
         mdb_txn_reset(txn);
         m_idle.push_back(txn);
@@ -752,22 +765,35 @@ void LmdbEnvironment::Rest(MDB_txn* txn) noexcept
     }
 }
 
-MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, Error& error, bool* isFull)
+bool LmdbEnvironment::BeginRead(const std::string& address, MDB_txn*& txn, LmdbTree& tree, Error& error, bool* isFull)
 {
+    txn = nullptr;
     std::unique_lock lock(m_mutex);
     if (!Prepare(address, Access::Read, lock, error)) {
-        return nullptr;
+        return false;
     }
-    MDB_txn* txn = nullptr;
     std::uint64_t number = 0;
     for (int tries = 0;; ++tries) {
+        if (m_isCopied) {
+            txn = nullptr;
+            std::string cause;
+            if (!OpenCopy(tree, cause)) {
+                error = {ErrorKind::Io, address + ": cannot read " + m_dataPath + ": " + cause};
+                return false;
+            }
+            number = m_copyNumber;
+            break;
+        }
         auto result = BeginRenewed(txn);
         if (result == MDB_PANIC || m_broken) {
             // A write failed so badly that LMDB wants its environment opened anew, or there is no room for the map that
             // another process uses.
             m_broken = true;
             if (!Prepare(address, Access::Read, lock, error)) {
-                return nullptr;
+                return false;
+            }
+            if (m_isCopied) {
+                continue;
             }
             result = BeginRenewed(txn);
         }
@@ -776,17 +802,7 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
             if (isFull != nullptr) {
                 *isFull = result == MDB_READERS_FULL;
             }
-            return nullptr;
-        }
-        if (m_isCopied) {
-            std::string cause;
-            if (!OpenCopy(tree, cause)) {
-                Rest(txn);
-                error = {ErrorKind::Io, address + ": cannot read " + m_dataPath + ": " + cause};
-                return nullptr;
-            }
-            number = m_copyNumber;
-            break;
+            return false;
         }
         number = mdb_txn_id(txn);
         if (tree.Open(m_map, m_fileSize, number)) {
@@ -794,27 +810,29 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
         }
         // Writers may have gone on by two transactions between the two steps, or to another file.
         Rest(txn);
-        if (tries == 3) {
+        if (tries >= 3) {
             error = DescribeDamage(address, tree.Cause());
-            return nullptr;
+            return false;
         }
         m_nextLook = 0;
         if (!Prepare(address, Access::Read, lock, error)) {
-            return nullptr;
+            return false;
         }
     }
     if (!CheckState(address, m_dataPath, tree, number, error)) {
         Rest(txn);
-        return nullptr;
+        return false;
     }
     ++m_active;
     ++t_reads;
-    return txn;
+    return true;
 }
 
 void LmdbEnvironment::EndRead(MDB_txn* txn) noexcept
 {
-    mdb_txn_reset(txn);
+    if (txn != nullptr) {
+        mdb_txn_reset(txn);
+    }
     const std::lock_guard lock(m_mutex);
     Rest(txn);
     --t_reads;
@@ -826,9 +844,10 @@ void LmdbEnvironment::EndRead(MDB_txn* txn) noexcept
 bool LmdbEnvironment::LookAt(const std::string& address, const LookAtState& look, Error& error)
 {
     LmdbTree tree;
+    MDB_txn* txn = nullptr;
     bool isFull = false;
-    if (auto* txn = BeginRead(address, tree, error, &isFull)) {
-        look(tree, m_isCopied ? m_copyNumber : static_cast<std::uint64_t>(mdb_txn_id(txn)));
+    if (BeginRead(address, txn, tree, error, &isFull)) {
+        look(tree, txn == nullptr ? m_copyNumber : static_cast<std::uint64_t>(mdb_txn_id(txn)));
         EndRead(txn);
         return true;
     }
@@ -941,8 +960,10 @@ bool LmdbEnvironment::PrepareWrite(const std::string& address, int before, Error
     if (!Prepare(address, Access::Write, lock, error)) {
         return false;
     }
-    int dead = 0;
-    (void)mdb_reader_check(m_env, &dead);
+    if (m_env != nullptr) {
+        int dead = 0;
+        (void)mdb_reader_check(m_env, &dead);
+    }
     if (m_active == 0 && m_whyReadOnly.empty()) {
         MDB_envinfo info{};
         MDB_stat layout{};

@@ -336,7 +336,7 @@ int WriteStore(const FileDescriptor& file, std::size_t mapSize, const FillStore&
 bool CreateStore(const std::string& address, const std::string& directory, Error& error)
 {
     LmdbFolder folder;
-    if (!folder.Open(address, directory, true, error)) {
+    if (!folder.Open(address, directory, true, error) || !folder.CheckMaking(address, error)) {
         return false;
     }
     const ActAsOwner owner(folder);
