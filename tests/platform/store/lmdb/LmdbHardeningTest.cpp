@@ -651,7 +651,12 @@ TEST_F(LmdbHardeningTest, ARemovedLockFileIsNoticed)
 
 TEST_F(LmdbHardeningTest, AnotherCopyOfTheLibraryInTheProcessIsNoticed)
 {
+    const auto backup = temporary.File("backup");
+    BackupCounts counts;
+    std::string kept;
+    Error error;
     Create();
+    ASSERT_TRUE(BackUpStore(Address(), backup, counts, error)) << error.message;
     // What another copy does first: it tells by a lock of its own that this process uses the store.
     for (const auto& path : {LockFile(), DataFile()}) {
         const FileDescriptor other(open(path.c_str(), O_RDWR | O_CLOEXEC));
@@ -660,7 +665,27 @@ TEST_F(LmdbHardeningTest, AnotherCopyOfTheLibraryInTheProcessIsNoticed)
         lock.l_start = (off_t{1} << 50) + 1 + (off_t{1} << 22) + getpid();
         lock.l_len = 1;
         ASSERT_EQ(fcntl(other.Get(), F_OFD_SETLK, &lock), 0);
+        // And LMDB in it by one of this process: by it others know that their readers count.
+        const FileDescriptor lockFile(open(LockFile().c_str(), O_RDWR | O_CLOEXEC));
+        lock.l_type = F_RDLCK;
+        lock.l_start = 0;
+        ASSERT_EQ(fcntl(lockFile.Get(), F_SETLK, &lock), 0);
         EXPECT_TRUE(Has(Refusal(), "another copy of this library")) << path;
+        const auto content = ReadFile(DataFile());
+        fs::resize_file(DataFile(), 5000);
+        EXPECT_FALSE(RestoreStore(Address(), backup, counts, kept, error));
+        EXPECT_TRUE(Has(error.message, "another copy of this library")) << error.message;
+        WriteFile(DataFile(), content);
+        EXPECT_FALSE(RemoveNewStore(Address()));
+        EXPECT_EQ(InChild([&] {
+                      lock.l_type = F_WRLCK;
+                      lock.l_start = 0;
+                      return fcntl(lockFile.Get(), F_GETLK, &lock) == 0 && lock.l_pid == getppid() ? 0 : 1;
+                  }),
+                  0)
+            << "this process's locks are gone: " << path;
+        lock.l_type = F_UNLCK;
+        ASSERT_EQ(fcntl(lockFile.Get(), F_SETLK, &lock), 0);
         EXPECT_EQ(InChild([&] { return Has(Refusal(), "its lock file") == (path == DataFile()) ? 0 : 1; }), 0);
     }
 }

@@ -7,6 +7,7 @@
 #include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -88,6 +89,33 @@ bool IsSameFile(const struct stat& left, const struct stat& right)
     return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
 
+// Whether another copy of this library in this process has the store open. The lock file is not opened for that: closing
+// it would drop all locks that the process has on it, the other copy's too. Where the other copy could leave no mark on
+// the data file, its own descriptor of the lock file shows the one that is there. (A child of a fork inherits such
+// descriptors; the marks behind them are its parent's.)
+bool IsUsedByOtherCopy(const LmdbFolder& folder, const FileDescriptor& dataFile)
+{
+    const auto mark = kUserProcess + getpid();
+    if (FindLock(dataFile, mark, 1) >= 0) {
+        return true;
+    }
+    struct stat lock = {};
+    if (fstatat(folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0) {
+        return false;
+    }
+    bool isUsed = false;
+    VisitNames(OpenFile("/proc/self/fd", O_RDONLY | O_DIRECTORY), [&](const char* name) {
+        const auto number = static_cast<int>(std::strtol(name, nullptr, 10)); // 0 for "." and ".."
+        struct stat status = {};
+        auto search = LockOf(F_RDLCK, mark, 1);
+        // Another thread may close it at any moment, which does no harm.
+        isUsed = number >= kLeastDescriptor && fstat(number, &status) == 0 && IsSameFile(status, lock) &&
+                 fcntl(number, F_OFD_GETLK, &search) == 0 && search.l_type != F_UNLCK;
+        return !isUsed;
+    });
+    return isUsed;
+}
+
 // What this process is still allowed.
 std::size_t FreeAddressSpace()
 {
@@ -102,6 +130,56 @@ std::size_t FreeAddressSpace()
     return limit.rlim_cur - std::min<std::size_t>(used, limit.rlim_cur);
 }
 
+// Lock files that this copy of the library opened at the same time as another copy in this process. They stay open, as
+// closing one would drop the other copy's locks, and are used when the store is opened again.
+class KeptLockFiles
+{
+  public:
+    void Keep(FileDescriptor file)
+    {
+        const auto number = file.Release();
+        for (auto& place : m_files) {
+            auto none = kNone;
+            if (place.compare_exchange_strong(none, number)) {
+                return;
+            }
+        }
+    }
+
+    FileDescriptor Take(const LmdbFolder& folder)
+    {
+        struct stat lock = {};
+        if (fstatat(folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0) {
+            return FileDescriptor();
+        }
+        for (auto& place : m_files) {
+            FileDescriptor file(place.exchange(kNone));
+            struct stat status = {};
+            if (file && fstat(file.Get(), &status) == 0 && IsSameFile(status, lock)) {
+                return file;
+            }
+            if (file) {
+                Keep(std::move(file));
+            }
+        }
+        return FileDescriptor();
+    }
+
+    // In a child of a fork: a lock taken through one of them would be the parent's, too.
+    void Close()
+    {
+        for (auto& place : m_files) {
+            FileDescriptor(place.exchange(kNone)).Close();
+        }
+    }
+
+  private:
+    static constexpr int kNone = -1;
+
+    std::array<std::atomic<int>, 8> m_files{kNone, kNone, kNone, kNone, kNone, kNone, kNone, kNone};
+};
+
+KeptLockFiles g_keptLockFiles;
 std::atomic<unsigned> g_forks{0};
 thread_local int t_reads = 0; // read transactions of this thread
 
@@ -115,7 +193,6 @@ struct EnvironmentRegistry
     std::condition_variable closed;
     std::map<std::string, std::weak_ptr<LmdbEnvironment>> open;
     std::vector<std::shared_ptr<LmdbEnvironment>> forking; // locked while this process forks
-
     EnvironmentRegistry()
     {
         SetForkHandler({&LmdbEnvironment::BeforeFork, &LmdbEnvironment::AfterForkInParent,
@@ -160,6 +237,7 @@ void LmdbEnvironment::AfterForkInChild()
     }
     registry.forking.clear();
     registry.open.clear();
+    g_keptLockFiles.Close();
 }
 
 LmdbEnvironment::LmdbEnvironment(std::string directory, std::size_t mapSize)
@@ -236,6 +314,11 @@ bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& fold
         return false;
     }
     const auto lockPath = folder.PathOf(kLockName);
+    if (IsUsedByOtherCopy(folder, folder.OpenFile(kDataName, O_RDONLY))) {
+        error = {ErrorKind::Io, address + ": another copy of this library in this process has the store open, so that "
+                                          "it cannot be exchanged"};
+        return false;
+    }
     struct stat data = {};
     int result = 0;
     (void)fstat(fresh.Get(), &data);
@@ -310,9 +393,12 @@ bool LmdbEnvironment::RemoveNew(const std::string& address, const std::string& d
         return false;
     }
     const auto data = folder.OpenFile(kDataName, O_RDWR);
-    const auto lock = folder.OpenFile(kLockName, O_RDWR);
     // As long as this mark is on the data file, and the lock file is in nobody's use, nobody opens the store.
-    if (!data || !lock || SetLock(data, F_WRLCK, kUserProcess + getpid()) != 0) {
+    if (!data || SetLock(data, F_WRLCK, kUserProcess + getpid()) != 0 || IsUsedByOtherCopy(folder, data)) {
+        return false;
+    }
+    const auto lock = folder.OpenFile(kLockName, O_RDWR);
+    if (!lock) {
         return false;
     }
     pid_t holder = 0;
@@ -322,11 +408,41 @@ bool LmdbEnvironment::RemoveNew(const std::string& address, const std::string& d
            unlinkat(folder.Get(), kLockName, 0) == 0;
 }
 
+Error LmdbEnvironment::OtherCopy(const std::string& address) const
+{
+    return {ErrorKind::Io, address + ": another copy of this library in this process (number " +
+                               std::to_string(getpid()) + ") has " + m_dataPath +
+                               " open, and two of them would undo each other's writes; build the service providers of "
+                               "one process with one shared library"};
+}
+
+namespace {
+
+constexpr int kLooks = 200; // a process that is just opening or closing the store gets some time
+
+void PauseBetweenLooks(int looks)
+{
+    usleep(static_cast<useconds_t>(2000 + 1000 * ((getpid() * 7 + looks * 13) % 17)));
+}
+
+} // namespace
+
+bool LmdbEnvironment::AwaitOtherCopy(const std::string& address, Error& error)
+{
+    for (int looks = 1; IsUsedByOtherCopy(m_folder, m_dataFile); ++looks) {
+        if (looks == kLooks) {
+            error = OtherCopy(address);
+            return false;
+        }
+        PauseBetweenLooks(looks);
+    }
+    return true;
+}
+
 // Tells other processes that this one uses the store, and finds out whether others use it in a way that LMDB does not
 // know of. Its table of readers and its locks are in the lock file, which it takes for unused when nobody holds it.
 bool LmdbEnvironment::Announce(const std::string& address, Error& error)
 {
-    constexpr int kLooks = 200; // a process that is just opening or closing the store gets some time
     const auto self = static_cast<off_t>(getpid());
     for (int looks = 1;; ++looks) {
         const auto status = SetLock(m_lockFile, F_WRLCK, kUserProcess + self);
@@ -342,20 +458,21 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
         if (!isCopy && (user < 0 || IsLockFileUsed(m_lockFile, holder))) {
             return true;
         }
+        if (looks == kLooks && isCopy) {
+            Unmark();
+            g_keptLockFiles.Keep(std::move(m_lockFile));
+            error = OtherCopy(address);
+            return false;
+        }
         if (looks == kLooks) {
-            error = {ErrorKind::Io,
-                     isCopy ? address + ": another copy of this library in this process (number " +
-                                  std::to_string(self) + ") has " + m_dataPath +
-                                  " open, and two of them would undo each other's writes; build the service providers "
-                                  "of one process with one shared library"
-                            : address + ": process " + std::to_string(user) + " uses " + m_dataPath +
-                                  ", but its lock file " + m_directory + '/' + kLockName +
-                                  " was removed or exchanged; end all processes that use the store, and try again"};
+            error = {ErrorKind::Io, address + ": process " + std::to_string(user) + " uses " + m_dataPath +
+                                        ", but its lock file " + m_directory + '/' + kLockName +
+                                        " was removed or exchanged; end all processes that use the store, and try again"};
             return false;
         }
         // Two that open the store at once must not wait for each other: each takes its mark back for a time of its own.
         Unmark();
-        usleep(static_cast<useconds_t>(2000 + 1000 * ((self * 7 + looks * 13) % 17)));
+        PauseBetweenLooks(looks);
     }
 }
 
@@ -470,8 +587,11 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     }
     int result = 0;
     Error failure;
-    if (!m_isCopied) {
-        m_lockFile = OpenLockFile(address, m_folder, owner, m_data, result, failure);
+    if (!m_isCopied && AwaitOtherCopy(address, failure)) {
+        m_lockFile = g_keptLockFiles.Take(m_folder);
+        if (!m_lockFile) {
+            m_lockFile = OpenLockFile(address, m_folder, owner, m_data, result, failure);
+        }
     }
     if (failure || (m_lockFile && fstat(m_lockFile.Get(), &m_lock) != 0)) {
         error = failure ? std::move(failure) : LmdbError(address, "open", m_directory + '/' + kLockName, errno);
@@ -521,11 +641,15 @@ void LmdbEnvironment::CloseFiles() noexcept
         mdb_env_close(m_env);
         m_env = nullptr;
     }
-    if (IsOurs()) {
-        // A child that was forked meanwhile may have a copy of the descriptors, which would keep this process's mark.
-        Unmark();
+    // A child that was forked meanwhile may have a copy of the descriptors, which would keep this process's mark. The one
+    // on the data file keeps another copy of this library from the lock file until that is closed.
+    if (IsOurs() && m_lockFile) {
+        (void)SetLock(m_lockFile, F_UNLCK, kUserProcess + getpid());
     }
     m_lockFile.Close();
+    if (IsOurs()) {
+        Unmark();
+    }
     m_dataFile.Close();
 }
 
@@ -621,7 +745,8 @@ bool LmdbEnvironment::MayWriteNow() const
     const ActAsOwner owner(m_folder);
     // Trying it out is the answer for the rights that the files are opened with. Closing the data file drops no locks;
     // the lock file is opened here only while this process has none on it.
-    return m_folder.OpenFile(kDataName, O_RDWR) &&
+    const auto data = m_folder.OpenFile(kDataName, O_RDWR);
+    return data && !(m_isCopied && IsUsedByOtherCopy(m_folder, data)) &&
            (!m_isCopied || m_folder.OpenFile(kLockName, O_RDWR) || errno == ENOENT);
 }
 

@@ -115,6 +115,8 @@ class LmdbEnvironment
                   Error& error);
     Error BeingExchanged(const std::string& address) const;
     bool Announce(const std::string& address, Error& error);
+    bool AwaitOtherCopy(const std::string& address, Error& error);
+    Error OtherCopy(const std::string& address) const;
     void Unmark() noexcept;
     // Whether what kept this process from writing is mended; opening the files again finds out all else.
     bool MayWriteNow() const;
