@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <functional>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -69,6 +70,84 @@ TEST_F(AtomicFileTest, AWriterThatIsKilledLeavesNothing)
               -SIGKILL);
     EXPECT_EQ(ReadFile(Path()), "old");
     EXPECT_EQ(std::distance(fs::directory_iterator(temporary.Path()), {}), 1);
+}
+
+TEST_F(AtomicFileTest, TheNextWriterRemovesWhatKilledOnesHaveLeft)
+{
+    const auto temporaryFile = [this](std::string_view letters) {
+        return temporary.File(".file.wqspcfg-") + std::string(letters);
+    };
+    const auto left = temporaryFile("0123456789ab");
+    const auto inWork = temporaryFile("inwork000000");
+    const auto second = temporaryFile("hardlink0000");
+    const auto pipe = temporaryFile("pipe00000000");
+    const auto foreign = temporaryFile("foreign00000");
+    std::vector<std::string> kept{inWork,
+                                  second,
+                                  pipe,
+                                  temporaryFile("link00000000"),
+                                  temporaryFile("short"),
+                                  temporaryFile("UPPERCASE000"),
+                                  temporary.File(".file.20261125"),
+                                  temporary.File(".file2.wqspcfg-0123456789ab"),
+                                  temporary.File(".other.wqspcfg-0123456789ab")};
+    for (const auto& path : {left, inWork, kept[4], kept[5], kept[6], kept[7], kept[8], temporary.File("victim")}) {
+        WriteFile(path, "secret");
+    }
+    fs::create_hard_link(temporary.File("victim"), second);
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    fs::create_symlink("victim", kept[3]);
+    if (geteuid() == 0) {
+        Make(foreign, 0600, 65534, 65534);
+        kept.push_back(foreign);
+    }
+    // As another writer does while it works.
+    const FileDescriptor other(open(inWork.c_str(), O_RDWR | O_CLOEXEC));
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_len = 1;
+    ASSERT_EQ(fcntl(other.Get(), F_OFD_SETLK, &lock), 0);
+    ASSERT_TRUE(Write(Path(), "new")) << error.message;
+    EXPECT_EQ(ReadFile(Path()), "new");
+    EXPECT_FALSE(fs::exists(left));
+    for (const auto& path : kept) {
+        EXPECT_TRUE(fs::exists(fs::symlink_status(path))) << path;
+    }
+    EXPECT_EQ(ReadFile(temporary.File("victim")), "secret");
+}
+
+// Where the target is new there is no moment in which the file has another name.
+TEST_F(AtomicFileTest, AFileIsLockedWhileItHasANameOfItsOwn)
+{
+    const FileDescriptor watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+    ASSERT_GE(inotify_add_watch(watch.Get(), temporary.Path().c_str(), IN_CREATE | IN_MOVED_FROM), 0);
+    const auto names = [&watch] {
+        alignas(inotify_event) char events[4096];
+        std::string text;
+        const auto size = read(watch.Get(), events, sizeof events);
+        for (ssize_t at = 0; at < size;) {
+            const auto* event = reinterpret_cast<const inotify_event*>(events + at);
+            text += std::string(event->name).substr(0, 14) + ' ';
+            at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+        }
+        return text;
+    };
+    ASSERT_TRUE(Write(Path(), "new")) << error.message;
+    const auto created = names();
+    ASSERT_TRUE(Write(Path(), "newer")) << error.message;
+    const auto replaced = names();
+    if (created != "file ") {
+        GTEST_SKIP() << "this file system has no nameless files: " << created;
+    }
+    EXPECT_EQ(replaced, ".file.wqspcfg- .file.wqspcfg- ");
+    // The lock is there before the name.
+    AtomicFile file;
+    ASSERT_TRUE(file.Open(Path(), {}, error)) << error.message;
+    const FileDescriptor again(open(FileDescriptor(dup(file.Descriptor())).Path().c_str(), O_RDWR | O_CLOEXEC));
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_len = 1;
+    EXPECT_NE(fcntl(again.Get(), F_OFD_SETLK, &lock), 0);
 }
 
 TEST_F(AtomicFileTest, FollowsNoLinkThatSomebodyElseCanPlant)

@@ -89,10 +89,10 @@ bool IsSameFile(const struct stat& left, const struct stat& right)
     return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
 
-// Whether another copy of this library in this process has the store open. The lock file is not opened for that: closing
-// it would drop all locks that the process has on it, the other copy's too. Where the other copy could leave no mark on
-// the data file, its own descriptor of the lock file shows the one that is there. (A child of a fork inherits such
-// descriptors; the marks behind them are its parent's.)
+// Whether another copy of this library in this process has the store open. The lock file is not opened for that:
+// closing it would drop all locks that the process has on it, the other copy's too. Where the other copy could leave no
+// mark on the data file, its own descriptor of the lock file shows the one that is there. (A child of a fork inherits
+// such descriptors; the marks behind them are its parent's.)
 bool IsUsedByOtherCopy(const LmdbFolder& folder, const FileDescriptor& dataFile)
 {
     const auto mark = kUserProcess + getpid();
@@ -357,7 +357,7 @@ bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& fold
         kept = folder.PathOf(old.c_str());
     }
     if (result == 0) {
-        result = folder.Place(fresh, name, kDataName, true);
+        result = folder.Place(fresh, name, true);
     }
     if (result == 0) {
         result = folder.Sync();
@@ -465,9 +465,10 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
             return false;
         }
         if (looks == kLooks) {
-            error = {ErrorKind::Io, address + ": process " + std::to_string(user) + " uses " + m_dataPath +
-                                        ", but its lock file " + m_directory + '/' + kLockName +
-                                        " was removed or exchanged; end all processes that use the store, and try again"};
+            error = {ErrorKind::Io,
+                     address + ": process " + std::to_string(user) + " uses " + m_dataPath + ", but its lock file " +
+                         m_directory + '/' + kLockName +
+                         " was removed or exchanged; end all processes that use the store, and try again"};
             return false;
         }
         // Two that open the store at once must not wait for each other: each takes its mark back for a time of its own.
@@ -519,8 +520,8 @@ bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::
             for (int standard = 0; standard < kLeastDescriptor; ++standard) {
                 // Another thread may have closed one just now.
                 struct stat other = {};
-                isMoved = isMoved || (fstat(standard, &other) == 0 &&
-                                      (IsSameFile(other, m_data) || IsSameFile(other, m_lock)));
+                isMoved = isMoved ||
+                          (fstat(standard, &other) == 0 && (IsSameFile(other, m_data) || IsSameFile(other, m_lock)));
             }
             if (!isMoved) {
                 return true;
@@ -641,8 +642,8 @@ void LmdbEnvironment::CloseFiles() noexcept
         mdb_env_close(m_env);
         m_env = nullptr;
     }
-    // A child that was forked meanwhile may have a copy of the descriptors, which would keep this process's mark. The one
-    // on the data file keeps another copy of this library from the lock file until that is closed.
+    // A child that was forked meanwhile may have a copy of the descriptors, which would keep this process's mark. The
+    // one on the data file keeps another copy of this library from the lock file until that is closed.
     if (IsOurs() && m_lockFile) {
         (void)SetLock(m_lockFile, F_UNLCK, kUserProcess + getpid());
     }
@@ -1240,7 +1241,7 @@ void LmdbEnvironment::Release(int status) noexcept
 bool LmdbEnvironment::Exchange(const std::string& address, MDB_txn* txn, const FileDescriptor& fresh, std::string& name,
                                Error& error)
 {
-    auto result = m_folder.Place(fresh, name, kDataName, true);
+    auto result = m_folder.Place(fresh, name, true);
     if (result == 0) {
         result = m_folder.Sync();
     }

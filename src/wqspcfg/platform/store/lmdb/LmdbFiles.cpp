@@ -347,7 +347,7 @@ bool CreateStore(const std::string& address, const std::string& directory, Error
     const auto file = folder.MakeFile(name);
     auto status = file ? WriteStore(file, kLeastMapSize, {}) : errno;
     if (status == 0) {
-        status = folder.Place(file, name, kDataName, false);
+        status = folder.Place(file, name, false);
         status = status == EEXIST ? 0 : status; // another process was faster
     }
     if (status == 0) {

@@ -1,5 +1,6 @@
 #include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
 
+#include "wqspcfg/platform/store/PosixTemporary.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 #include "wqspcfg/platform/text/DisplayText.h"
@@ -11,7 +12,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <grp.h>
-#include <random>
 #include <sys/fsuid.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -65,7 +65,7 @@ std::string DescribeOthers(const struct stat& status, const std::string& what)
 {
     const auto owner = std::to_string(status.st_uid);
     const bool isOwned = status.st_uid != 0;
-    const auto who = isOwned                            ? "user number " + owner
+    const auto who = isOwned                           ? "user number " + owner
                      : (status.st_mode & S_IWOTH) != 0 ? "everybody"
                                                        : "group number " + std::to_string(status.st_gid);
     return who + " may write to " + what +
@@ -264,56 +264,16 @@ bool LmdbFolder::GetModel(struct stat& model, int& status) const
 
 FileDescriptor LmdbFolder::MakeFile(std::string& name) const
 {
-    name.clear();
-#if defined(O_TMPFILE)
-    auto file = OpenAt(Get(), ".", O_TMPFILE | O_RDWR, NewFileMode());
-    if (file && access(file.Path().c_str(), F_OK) == 0) {
-        return fchmod(file.Get(), NewFileMode()) == 0 ? std::move(file) : FileDescriptor();
-    }
-#endif
-    std::random_device random;
-    do {
-        name = ".new-" + std::to_string(random()) + std::to_string(random());
-        file = OpenAt(Get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, NewFileMode());
-    } while (!file && errno == EEXIST);
-    if (!file) {
-        name.clear();
-    } else if (fchmod(file.Get(), NewFileMode()) != 0) {
+    auto file = MakeTemporary(Get(), kDataName, NewFileMode(), name);
+    if (file && fchmod(file.Get(), NewFileMode()) != 0) {
         return FileDescriptor();
     }
     return file;
 }
 
-int LmdbFolder::Place(const FileDescriptor& file, std::string& name, const char* target, bool replace) const
+int LmdbFolder::Place(const FileDescriptor& file, std::string& name, bool replace) const
 {
-    const auto link = [&](const char* as) {
-        const auto status = name.empty() ? linkat(AT_FDCWD, file.Path().c_str(), Get(), as, AT_SYMLINK_FOLLOW)
-                                         : linkat(Get(), name.c_str(), Get(), as, 0);
-        return status == 0 ? 0 : errno;
-    };
-    if (replace && name.empty()) {
-        std::random_device random;
-        const auto fresh = ".new-" + std::to_string(random()) + std::to_string(random());
-        if (const auto status = link(fresh.c_str()); status != 0) {
-            return status;
-        }
-        name = fresh;
-    }
-    if (!replace) {
-        const auto status = link(target);
-        // Some file systems have no hard links.
-        if (status == 0 || status == EEXIST || name.empty()) {
-            if (!name.empty() && unlinkat(Get(), name.c_str(), 0) == 0) {
-                name.clear();
-            }
-            return status;
-        }
-    }
-    if (renameat(Get(), name.c_str(), Get(), target) != 0) {
-        return errno;
-    }
-    name.clear();
-    return 0;
+    return PlaceTemporary(Get(), file, name, kDataName, replace);
 }
 
 int LmdbFolder::Sync() const

@@ -76,11 +76,11 @@ class LmdbFolder
     // none, else when it is not one that another file may be given the rights of.
     bool GetModel(struct stat& model, int& status) const;
 
-    // An empty file without a name, or, where there is none such, with one that is put into `name`. -1 with errno.
+    // An empty file that is to become the data file, as MakeTemporary gives it. -1 with errno.
     FileDescriptor MakeFile(std::string& name) const;
-    // Gives the file that MakeFile made the name `target`. Without `replace`, EEXIST when there is one. An errno value,
-    // or 0.
-    int Place(const FileDescriptor& file, std::string& name, const char* target, bool replace) const;
+    // Makes the file that MakeFile made the data file. Without `replace`, EEXIST when there is one. An errno value, or
+    // 0.
+    int Place(const FileDescriptor& file, std::string& name, bool replace) const;
     // An errno value, or 0.
     int Sync() const;
 
