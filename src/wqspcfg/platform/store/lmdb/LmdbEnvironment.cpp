@@ -1185,7 +1185,8 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
     return txn;
 }
 
-// Whether the data file is as this process left it, or as a mark says that nobody else can have made.
+// Whether the data file is as this process left it, or as a mark says. Those who may write the store could make a false
+// one, and trust each other.
 bool LmdbEnvironment::IsAsWritten(std::uint64_t last) const
 {
     struct stat data = {};
@@ -1197,13 +1198,7 @@ bool LmdbEnvironment::IsAsWritten(std::uint64_t last) const
         return true;
     }
     LmdbMark mark;
-    const auto isOurs = [](int file) {
-        struct stat status = {};
-        return fstat(file, &status) == 0 && (status.st_uid == 0 || status.st_uid == geteuid()) &&
-               (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
-    };
-    return isOurs(m_folder.Get()) && isOurs(m_dataFile.Get()) && isOurs(m_lockFile.Get()) &&
-           ReadMark(m_lockFile, mark) && mark.IsOf(now);
+    return ReadMark(m_lockFile, mark) && mark.IsOf(now);
 }
 
 int LmdbEnvironment::MakeDurable() noexcept
