@@ -12,6 +12,7 @@
 #include "wqspcfg/platform/store/regfile/RegFile.h"
 
 #include <atomic>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -555,6 +556,32 @@ TEST_F(LmdbHardeningTest, ANewStoreIsItsMakersAloneOrSharedByItsDirectory)
                   return store && store->Begin(Access::Write, error) ? 0 : 1;
               }),
               0);
+}
+
+TEST_F(LmdbHardeningTest, AStoreThatCannotBeMadeWholeLeavesNothing)
+{
+    const auto make = [this](rlim_t most) {
+        return InChild([&] {
+            const rlimit limit{most, most}; // of a file, as on a file system that is nearly full
+            Error error;
+            (void)signal(SIGXFSZ, SIG_IGN);
+            if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+                return 10;
+            }
+            return OpenStore(Address(), {.create = true}, error) ? 0 : error.kind == ErrorKind::NoSpace ? 1 : 2;
+        });
+    };
+    // No room for the data file; for the data file only; for both.
+    EXPECT_EQ(make(4096), 1);
+    EXPECT_TRUE(fs::is_empty(Directory()));
+    EXPECT_EQ(make(20000), 1);
+    EXPECT_TRUE(fs::is_empty(Directory()));
+    EXPECT_EQ(make(40000), 0);
+    EXPECT_EQ(std::distance(fs::directory_iterator(Directory()), {}), 2);
+    // One that was there stays.
+    fs::remove(LockFile());
+    EXPECT_EQ(make(20000), 1);
+    EXPECT_TRUE(fs::exists(DataFile()));
 }
 
 TEST_F(LmdbHardeningTest, AReaderWithoutTheLockFileSeesOneState)

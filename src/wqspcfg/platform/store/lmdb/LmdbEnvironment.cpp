@@ -262,8 +262,9 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
 {
     struct stat status = {};
     const auto dataPath = directory + "/data.mdb";
+    bool isMade = false;
     if (create && stat(dataPath.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR) &&
-        !CreateStore(address, directory, error)) {
+        !CreateStore(address, directory, isMade, error)) {
         return nullptr;
     }
     const std::unique_ptr<char, decltype(&std::free)> real(realpath(directory.c_str(), nullptr), &std::free);
@@ -294,6 +295,11 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
     };
     auto environment = std::unique_ptr<LmdbEnvironment>(new LmdbEnvironment(path, mapSize));
     if (!environment->OpenFiles(address, error)) {
+        environment.reset();
+        lock.unlock();
+        if (isMade) {
+            (void)RemoveNew(address, directory); // such as where the file system has no room for the lock file
+        }
         return nullptr;
     }
     std::shared_ptr<LmdbEnvironment> shared(environment.release(), close);
@@ -400,14 +406,16 @@ bool LmdbEnvironment::RemoveNew(const std::string& address, const std::string& d
         return false;
     }
     const auto lock = folder.OpenFile(kLockName, O_RDWR);
-    if (!lock) {
+    const bool hasLock = lock || errno != ENOENT;
+    if (hasLock && !lock) {
         return false;
     }
     pid_t holder = 0;
-    const bool isUsed = FindLock(data, kUserProcess, kMostProcesses) >= 0 ||
-                        FindLock(lock, kUserProcess, kMostProcesses) >= 0 || IsLockFileUsed(lock, holder);
+    const bool isUsed =
+        FindLock(data, kUserProcess, kMostProcesses) >= 0 ||
+        (hasLock && (FindLock(lock, kUserProcess, kMostProcesses) >= 0 || IsLockFileUsed(lock, holder)));
     return !isUsed && LastTransaction(data) == 1 && unlinkat(folder.Get(), kDataName, 0) == 0 &&
-           unlinkat(folder.Get(), kLockName, 0) == 0;
+           (!hasLock || unlinkat(folder.Get(), kLockName, 0) == 0);
 }
 
 Error LmdbEnvironment::OtherCopy(const std::string& address) const
