@@ -116,6 +116,10 @@ bool AtomicFile::State::Find(Replaces replaces, Error& error)
 // What file of a registry stands in the target's place; empty for none.
 std::string AtomicFile::State::StoreFileAt(Replaces replaces) const
 {
+    // It is not opened: closing it would drop the locks of this process, which may have the store open.
+    if (name == kLockName && faccessat(directory.Get(), kDataName, F_OK, AT_SYMLINK_NOFOLLOW) == 0) {
+        return "the lock file of an embedded store";
+    }
     const auto there = OpenAt(directory.Get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
     if (IsHiveFile(there)) {
         return "a file of the Windows registry"; // a hive or its transaction log

@@ -195,6 +195,7 @@ struct EnvironmentRegistry
     std::condition_variable closed;
     std::map<std::string, std::weak_ptr<LmdbEnvironment>> open;
     std::vector<std::shared_ptr<LmdbEnvironment>> forking; // locked while this process forks
+
     EnvironmentRegistry()
     {
         SetForkHandler({&LmdbEnvironment::BeforeFork, &LmdbEnvironment::AfterForkInParent,
