@@ -22,8 +22,7 @@ install(
     PATTERN "windows" EXCLUDE
     PATTERN "RegFileStore.h" EXCLUDE
     PATTERN "View32.h" EXCLUDE
-    PATTERN "PosixFile.h" EXCLUDE
-    PATTERN "PosixTarget.h" EXCLUDE
+    PATTERN "Posix*.h" EXCLUDE
     PATTERN "AtomicFile.h" EXCLUDE
     PATTERN "FlatKey.h" EXCLUDE
     PATTERN "FlatTransaction.h" EXCLUDE

@@ -114,7 +114,7 @@ int ShowStatus(const StoreChoice& choice, const StatusOptions& options, const Co
                 << ", holds a state " << reader.behind << " commits old\n";
         }
     } else {
-        out << "readers\tunknown without the right to the lock file\n";
+        out << "readers\tunknown without use of the lock file\n";
     }
     if (!options.verify) {
         return kDone;

@@ -173,14 +173,19 @@ class NewStore
     // After a failure, when nothing was written to it. The store is closed.
     void Remove(const Console& console) const
     {
-        if (!m_isMade || !RemoveNewStore(m_address)) {
-            return;
+        if (m_isMade && RemoveNewStore(m_address)) {
+            RemoveDirectories();
+            console.Note("removed the store " + m_address + " again");
         }
+    }
+
+    // Where no store was made.
+    void RemoveDirectories() const
+    {
         std::error_code code;
         for (const auto& directory : m_made) {
             std::filesystem::remove(directory, code); // what is not empty stays
         }
-        console.Note("removed the store " + m_address + " again");
     }
 
   private:
@@ -368,6 +373,7 @@ int Import(const StoreChoice& choice, const std::vector<std::string>& files,
     const NewStore fresh(choice);
     auto store = choice.OpenOrCreate(console, error, true);
     if (!store) {
+        fresh.RemoveDirectories();
         return console.Fail(error);
     }
     for (std::size_t i = 0; i < files.size(); ++i) {

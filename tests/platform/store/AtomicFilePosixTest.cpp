@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <functional>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -71,6 +72,86 @@ TEST_F(AtomicFileTest, AWriterThatIsKilledLeavesNothing)
     EXPECT_EQ(std::distance(fs::directory_iterator(temporary.Path()), {}), 1);
 }
 
+TEST_F(AtomicFileTest, TheNextWriterRemovesWhatKilledOnesHaveLeft)
+{
+    const auto temporaryFile = [this](std::string_view letters) {
+        return temporary.File(".file.wqspcfg-") + std::string(letters);
+    };
+    const auto left = temporaryFile("0123456789ab");
+    const auto inWork = temporaryFile("inwork000000");
+    const auto second = temporaryFile("hardlink0000");
+    const auto pipe = temporaryFile("pipe00000000");
+    const auto foreign = temporaryFile("foreign00000");
+    std::vector<std::string> kept{inWork,
+                                  second,
+                                  pipe,
+                                  temporaryFile("link00000000"),
+                                  temporaryFile("short"),
+                                  temporaryFile("UPPERCASE000"),
+                                  temporary.File(".file.20261125"),
+                                  temporary.File(".file2.wqspcfg-0123456789ab"),
+                                  temporary.File(".other.wqspcfg-0123456789ab")};
+    for (const auto& path : {left, inWork, kept[4], kept[5], kept[6], kept[7], kept[8], temporary.File("victim")}) {
+        WriteFile(path, "secret");
+    }
+    fs::create_hard_link(temporary.File("victim"), second);
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    fs::create_symlink("victim", kept[3]);
+    if (geteuid() == 0) {
+        Make(foreign, 0600, 65534, 65534);
+        kept.push_back(foreign);
+    }
+    // As another writer does while it works.
+    const FileDescriptor other(open(inWork.c_str(), O_RDWR | O_CLOEXEC));
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_len = 1;
+    ASSERT_EQ(fcntl(other.Get(), F_OFD_SETLK, &lock), 0);
+    ASSERT_TRUE(Write(Path(), "new")) << error.message;
+    EXPECT_EQ(ReadFile(Path()), "new");
+    EXPECT_FALSE(fs::exists(left));
+    for (const auto& path : kept) {
+        EXPECT_TRUE(fs::exists(fs::symlink_status(path))) << path;
+    }
+    EXPECT_EQ(ReadFile(temporary.File("victim")), "secret");
+}
+
+// Where the target is new there is no moment in which the file has another name.
+TEST_F(AtomicFileTest, AFileIsLockedWhileItHasANameOfItsOwn)
+{
+    const FileDescriptor watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+    ASSERT_GE(inotify_add_watch(watch.Get(), temporary.Path().c_str(), IN_CREATE | IN_MOVED_FROM), 0);
+    const auto names = [&watch] {
+        alignas(inotify_event) char events[4096];
+        std::string text;
+        const auto size = read(watch.Get(), events, sizeof events);
+        for (ssize_t at = 0; at < size;) {
+            const auto* event = reinterpret_cast<const inotify_event*>(events + at);
+            text += std::string(event->name).substr(0, 14) + ' ';
+            at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+        }
+        return text;
+    };
+    ASSERT_TRUE(Write(Path(), "new")) << error.message;
+    const auto created = names();
+    ASSERT_TRUE(Write(Path(), "newer")) << error.message;
+    const auto replaced = names();
+    const FileDescriptor nameless(open(temporary.Path().c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
+    if (!nameless) {
+        GTEST_SKIP() << "this file system has no nameless files";
+    }
+    EXPECT_EQ(created, "file ");
+    EXPECT_EQ(replaced, ".file.wqspcfg- .file.wqspcfg- ");
+    // The lock is there before the name.
+    AtomicFile file;
+    ASSERT_TRUE(file.Open(Path(), {}, error)) << error.message;
+    const FileDescriptor again(open(FileDescriptor(dup(file.Descriptor())).Path().c_str(), O_RDWR | O_CLOEXEC));
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_len = 1;
+    EXPECT_NE(fcntl(again.Get(), F_OFD_SETLK, &lock), 0);
+}
+
 TEST_F(AtomicFileTest, FollowsNoLinkThatSomebodyElseCanPlant)
 {
     const auto link = temporary.File("link");
@@ -120,15 +201,24 @@ TEST_F(AtomicFileTest, NoSourceAndNoStoreIsReplaced)
         EXPECT_NE(error.message.find(path), std::string::npos) << error.message;
     }
     EXPECT_EQ(ReadFile(Path()), "old");
-    EXPECT_FALSE(Open("lmdb:" + temporary.File("store"), {.create = true}) == nullptr);
+    const auto store = Open("lmdb:" + temporary.File("store"), {.create = true});
+    const auto isLocked = [this] {
+        const FileDescriptor file(open(temporary.File("store/lock.mdb").c_str(), O_RDWR | O_CLOEXEC));
+        struct flock lock = {};
+        lock.l_type = F_WRLCK;
+        lock.l_len = 1;
+        return fcntl(file.Get(), F_GETLK, &lock) == 0 && lock.l_pid == getppid() ? 0 : 1;
+    };
     for (const auto* name : {"store/data.mdb", "store/lock.mdb"}) {
-        const auto content = ReadFile(temporary.File(name));
+        // Reading the lock file here would drop the locks, too.
+        const auto content = name == std::string_view("store/lock.mdb") ? "" : ReadFile(temporary.File(name));
         for (const auto replaces : {AtomicFile::Replaces::Files, AtomicFile::Replaces::Backups}) {
             AtomicFile file;
             EXPECT_FALSE(file.Open(temporary.File(name), {}, error, replaces));
             EXPECT_NE(error.message.find(name), std::string::npos) << error.message;
         }
-        EXPECT_EQ(ReadFile(temporary.File(name)), content);
+        EXPECT_EQ(InChild(isLocked), 0) << "this process's locks on the store are gone";
+        EXPECT_TRUE(content.empty() || content == ReadFile(temporary.File(name)));
     }
     fs::copy_file(temporary.File("store/data.mdb"), temporary.File("backup"));
     AtomicFile file;

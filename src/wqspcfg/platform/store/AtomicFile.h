@@ -2,8 +2,9 @@
 //
 // The content goes into a file without a name in the target's directory, where the system has such files, and takes the
 // target's place when it is complete and durable: whoever reads the target finds the old content or the new one, and a
-// writer that fails or is killed leaves the old content and nothing else. (Killed between two system calls at the end,
-// or on a file system without nameless files, it leaves a file named `.TARGET.` and random letters.)
+// writer that fails or is killed leaves the old content and nothing else. (Killed between two system calls at the end
+// while it replaces a file, or on a file system without nameless files, it leaves a file named `.TARGET.wqspcfg-` and
+// random letters; the same user's next writer of TARGET removes it.)
 //
 // One object is used by one thread.
 #pragma once

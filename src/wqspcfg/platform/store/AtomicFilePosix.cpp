@@ -2,13 +2,13 @@
 
 #include "wqspcfg/platform/store/PosixFile.h"
 #include "wqspcfg/platform/store/PosixTarget.h"
+#include "wqspcfg/platform/store/PosixTemporary.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <optional>
-#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -40,18 +40,6 @@ bool IsHiveFile(const FileDescriptor& file)
            std::string_view(&head[0], sizeof head) == kSignature;
 }
 
-std::string RandomName(const std::string& name)
-{
-    constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz0123456789";
-    std::random_device random;
-    // Within what a file system takes for a name.
-    auto result = '.' + name.substr(0, 200) + '.';
-    for (int i = 0; i < 8; ++i) {
-        result += kLetters[random() % kLetters.size()];
-    }
-    return result;
-}
-
 } // namespace
 
 struct AtomicFile::Source
@@ -66,6 +54,8 @@ struct AtomicFile::State
     std::string path; // as messages give it
     std::string name; // of the target in its directory
     FileDescriptor directory;
+    std::vector<Source> sources;
+    std::optional<struct stat> old; // what stands there when it is begun
     FileDescriptor file;
     std::string temporary; // the file's name while it is not in its place; empty without one
     std::string buffer;
@@ -81,17 +71,15 @@ struct AtomicFile::State
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
-    bool Find(const std::vector<Source>& sources, Replaces replaces, Error& error, std::optional<struct stat>& old);
+    bool Find(Replaces replaces, Error& error);
     std::string StoreFileAt(Replaces replaces) const;
-    int Create();
-    int Restrict(const std::vector<Source>& sources, const std::optional<struct stat>& old);
+    int Restrict();
     int Flush();
     int TakePlace();
 };
 
 // Follows links to the file that is to be replaced.
-bool AtomicFile::State::Find(const std::vector<Source>& sources, Replaces replaces, Error& error,
-                             std::optional<struct stat>& old)
+bool AtomicFile::State::Find(Replaces replaces, Error& error)
 {
     PosixTarget target;
     if (!FindTarget(path, target, error)) {
@@ -128,6 +116,10 @@ bool AtomicFile::State::Find(const std::vector<Source>& sources, Replaces replac
 // What file of a registry stands in the target's place; empty for none.
 std::string AtomicFile::State::StoreFileAt(Replaces replaces) const
 {
+    // It is not opened: closing it would drop the locks of this process, which may have the store open.
+    if (name == kLockName && faccessat(directory.Get(), kDataName, F_OK, AT_SYMLINK_NOFOLLOW) == 0) {
+        return "the lock file of an embedded store";
+    }
     const auto there = OpenAt(directory.Get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
     if (IsHiveFile(there)) {
         return "a file of the Windows registry"; // a hive or its transaction log
@@ -142,33 +134,8 @@ std::string AtomicFile::State::StoreFileAt(Replaces replaces) const
                                            : "an embedded store or its backup";
 }
 
-// An errno value, or 0.
-int AtomicFile::State::Create()
-{
-    constexpr mode_t kOwnOnly = 0600;
-#if defined(O_TMPFILE)
-    file = OpenAt(directory.Get(), ".", O_TMPFILE | O_RDWR, kOwnOnly);
-    if (file && access(file.Path().c_str(), F_OK) == 0) {
-        return 0;
-    }
-    file.Close(); // without /proc it could never get a name
-#endif
-    for (int tries = 0; tries < 100; ++tries) {
-        temporary = RandomName(name);
-        file = OpenAt(directory.Get(), temporary.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, kOwnOnly);
-        if (file) {
-            return 0;
-        }
-        temporary.clear();
-        if (errno != EEXIST) {
-            return errno;
-        }
-    }
-    return EEXIST;
-}
-
-// Gives the file its owner, group and rights. An errno value, or 0.
-int AtomicFile::State::Restrict(const std::vector<Source>& sources, const std::optional<struct stat>& old)
+// Gives the file, which is this user's alone while it is written, its owner, group and rights. An errno value, or 0.
+int AtomicFile::State::Restrict()
 {
     struct stat fresh = {};
     if (fstat(file.Get(), &fresh) != 0) {
@@ -181,7 +148,7 @@ int AtomicFile::State::Restrict(const std::vector<Source>& sources, const std::o
     }
     // Whom it cannot be given to, it is not; the rights below reckon with what it became.
     const auto& model = old ? *old : sources.front().file;
-    const bool isOldOwners = old && std::all_of(sources.begin(), sources.end(), [&old](const Source& source) {
+    const bool isOldOwners = old && std::all_of(sources.begin(), sources.end(), [this](const Source& source) {
                                  return source.file.st_uid == old->st_uid;
                              });
     if (isOldOwners && old->st_uid != fresh.st_uid) {
@@ -230,25 +197,15 @@ int AtomicFile::State::Flush()
 // An errno value, or 0.
 int AtomicFile::State::TakePlace()
 {
+    if (const auto status = Restrict(); status != 0) {
+        return status;
+    }
     if (fsync(file.Get()) != 0) {
         return errno;
     }
-    for (int tries = 0; temporary.empty() && tries < 100; ++tries) {
-        // A link replaces nothing: it gets a name of its own for a moment.
-        const auto fresh = RandomName(name);
-        if (linkat(AT_FDCWD, file.Path().c_str(), directory.Get(), fresh.c_str(), AT_SYMLINK_FOLLOW) == 0) {
-            temporary = fresh;
-        } else if (errno != EEXIST) {
-            return errno;
-        }
+    if (const auto status = PlaceTemporary(directory.Get(), file, temporary, name, true); status != 0) {
+        return status;
     }
-    if (temporary.empty()) {
-        return EEXIST;
-    }
-    if (renameat(directory.Get(), temporary.c_str(), directory.Get(), name.c_str()) != 0) {
-        return errno;
-    }
-    temporary.clear();
     return fsync(directory.Get()) != 0 ? errno : 0;
 }
 
@@ -259,12 +216,11 @@ bool AtomicFile::Open(const std::string& path, const std::vector<std::string>& s
 {
     auto state = std::make_unique<State>();
     state->path = path;
-    std::vector<Source> read;
     for (const auto& source : sources) {
         if (source.empty()) {
             continue;
         }
-        auto& each = read.emplace_back();
+        auto& each = state->sources.emplace_back();
         each.path = source;
         std::error_code code;
         const auto folder = std::filesystem::canonical(source, code).parent_path();
@@ -273,16 +229,13 @@ bool AtomicFile::Open(const std::string& path, const std::vector<std::string>& s
             return false;
         }
     }
-    std::optional<struct stat> old;
-    if (!state->Find(read, replaces, error, old)) {
+    if (!state->Find(replaces, error)) {
         return false;
     }
-    auto status = state->Create();
-    if (status == 0) {
-        status = state->Restrict(read, old);
-    }
-    if (status != 0) {
-        error = SystemError("write", path, status);
+    constexpr mode_t kOwnOnly = 0600;
+    state->file = MakeTemporary(state->directory.Get(), state->name, kOwnOnly, state->temporary);
+    if (!state->file) {
+        error = SystemError("write", path, errno);
         return false;
     }
     m_state = std::move(state);

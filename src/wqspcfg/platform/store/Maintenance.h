@@ -46,7 +46,8 @@ struct StoreStatus
     std::int64_t lastCommit = 0; // when the file was last written, in seconds since 1970
     long lastWriter = 0;         // process numbers; 0 where it is not known, or nobody is
     long writer = 0;             // that is writing now
-    bool knowsUsers = true;      // false without the right to the lock file: readers and writers are not known then
+    bool knowsUsers = true;      // false where the lock file is not used, for want of rights or of trust in who may
+                                 // write the store: readers and writers are not known then
     std::vector<StoreReader> readers; // that hold a state now
     // With `verify`:
     bool isSound = false;

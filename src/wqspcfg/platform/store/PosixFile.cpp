@@ -1,6 +1,7 @@
 #include "wqspcfg/platform/store/PosixFile.h"
 
 #include <cerrno>
+#include <dirent.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -28,6 +29,18 @@ FileDescriptor OpenAt(int directory, const char* name, int flags, unsigned mode)
         return FileDescriptor(fcntl(file.Get(), F_DUPFD_CLOEXEC, kLeastDescriptor));
     }
     return file;
+}
+
+void VisitNames(FileDescriptor directory, const std::function<bool(const char* name)>& visit)
+{
+    auto* open = fdopendir(directory.Get());
+    if (open == nullptr) {
+        return;
+    }
+    (void)directory.Release(); // closed with it
+    for (const auto* entry = readdir(open); entry != nullptr && visit(&entry->d_name[0]); entry = readdir(open)) {
+    }
+    closedir(open);
 }
 
 int WriteAll(const FileDescriptor& file, std::string_view bytes)

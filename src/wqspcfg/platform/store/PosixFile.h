@@ -4,6 +4,7 @@
 #include "wqspcfg/platform/base/Error.h"
 
 #include <fcntl.h>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -35,6 +36,8 @@ class FileDescriptor
     int Get() const noexcept { return m_fd; }
     explicit operator bool() const noexcept { return m_fd >= 0; }
     void Close() noexcept;
+    // Leaves it open, for the caller to close.
+    int Release() noexcept { return std::exchange(m_fd, -1); }
     // Its name in /proc, under which the very file is opened again.
     std::string Path() const;
 
@@ -48,6 +51,9 @@ inline FileDescriptor OpenFile(const std::string& path, int flags, unsigned mode
 {
     return OpenAt(AT_FDCWD, path.c_str(), flags, mode);
 }
+
+// Calls `visit` with each name in an open directory, which it closes, until that is false.
+void VisitNames(FileDescriptor directory, const std::function<bool(const char* name)>& visit);
 
 // Writes all of it, however often that takes. An errno value, or 0.
 int WriteAll(const FileDescriptor& file, std::string_view bytes);

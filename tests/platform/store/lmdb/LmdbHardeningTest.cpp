@@ -12,6 +12,7 @@
 #include "wqspcfg/platform/store/regfile/RegFile.h"
 
 #include <atomic>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -156,6 +157,16 @@ class LmdbHardeningTest : public testing::Test
     TemporaryDirectory temporary;
 };
 
+// The superuser uses a store that others may write.
+class TrustTheStore
+{
+  public:
+    TrustTheStore() { EXPECT_EQ(setenv("WQSPCFG_TRUST_STORE", "1", 1), 0); }
+    ~TrustTheStore() { unsetenv("WQSPCFG_TRUST_STORE"); }
+    TrustTheStore(const TrustTheStore&) = delete;
+    TrustTheStore& operator=(const TrustTheStore&) = delete;
+};
+
 bool BecomeNobody(gid_t group = kNobody)
 {
     return setgid(group) == 0 && setuid(kNobody) == 0;
@@ -255,6 +266,7 @@ TEST_F(LmdbHardeningTest, PlantedFilesAreRefusedAndWhatTheyLeadToIsLeftAlone)
                 }
                 GiveAway();
             }
+            const TrustTheStore trust; // so that the superuser opens all files
             EXPECT_NE(Refusal({.create = true}), "") << at << isForeign;
             EXPECT_EQ(ReadFile(victim), "untouched");
         }
@@ -271,6 +283,7 @@ TEST_F(LmdbHardeningTest, PlantedFilesAreRefusedAndWhatTheyLeadToIsLeftAlone)
     if (geteuid() == 0) {
         Create();
         ASSERT_EQ(chown(LockFile().c_str(), 1234, 1234), 0);
+        const TrustTheStore trust;
         EXPECT_TRUE(Has(Refusal(), "1234"));
     }
 }
@@ -280,6 +293,7 @@ TEST_F(LmdbHardeningTest, TheSuperuserActsAsTheOwnerOfTheDirectory)
     if (geteuid() != 0) {
         GTEST_SKIP() << "needs the superuser";
     }
+    const TrustTheStore trust;
     fs::create_directory(Directory());
     GiveAway();
     Create();
@@ -320,12 +334,111 @@ TEST_F(LmdbHardeningTest, TheSuperuserActsAsTheOwnerOfTheDirectory)
     EXPECT_EQ(status.st_uid, 0U);
 }
 
+TEST_F(LmdbHardeningTest, TheSuperuserReadsACopyOfAStoreThatOthersMayWrite)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs the superuser";
+    }
+    const auto isUsed = [this] {
+        for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+            std::error_code code;
+            if (Has(fs::read_symlink(entry.path(), code).string(), "lock.mdb")) {
+                return true;
+            }
+        }
+        return Has(ReadFile("/proc/self/maps"), fs::canonical(Directory()).string());
+    };
+    const auto backup = temporary.File("backup");
+    BackupCounts saved;
+    CompactCounts counts;
+    StoreStatus status;
+    std::string kept;
+    Error error;
+    const auto isAdvised = [&error](std::string_view who, const std::string& path) {
+        return error.kind == ErrorKind::AccessDenied && Has(error.message, who) &&
+               Has(error.message, " may write to " + path) && Has(error.message, "runuser -u ") &&
+               Has(error.message, "WQSPCFG_TRUST_STORE=1");
+    };
+    const auto change = [](uid_t owner, mode_t mode) {
+        return [owner, mode](const std::string& path) {
+            return chown(path.c_str(), owner, owner) == 0 && chmod(path.c_str(), mode) == 0;
+        };
+    };
+    const auto giveAllTo = [this](uid_t owner) {
+        return [this, owner](const std::string&) {
+            return chown(Directory().c_str(), owner, owner) == 0 && chown(DataFile().c_str(), owner, owner) == 0 &&
+                   chown(LockFile().c_str(), owner, owner) == 0;
+        };
+    };
+    struct Case
+    {
+        std::string path;
+        std::string who;
+        std::function<bool(const std::string&)> open;
+        std::function<bool(const std::string&)> close;
+    };
+    Create();
+    for (const auto& [path, who, open, close] :
+         {Case{Directory(), "user number 65534", giveAllTo(kNobody), giveAllTo(0)},
+          Case{LockFile(), "group number 0", change(0, 0660), change(0, 0600)},
+          Case{DataFile(), "group number 0", change(0, 0660), change(0, 0600)},
+          Case{LockFile(), "everybody", change(0, 0606), change(0, 0600)}}) {
+        auto store = Open(Address()); // from the time before
+        EXPECT_EQ(WriteRefusal(*store), "");
+        EXPECT_TRUE(isUsed());
+        ASSERT_TRUE(open(path));
+        EXPECT_FALSE(store->Begin(Access::Write, error));
+        EXPECT_TRUE(isAdvised(who, path)) << error.message;
+        EXPECT_FALSE(isUsed()) << path;
+        EXPECT_EQ(Get(*store, kKey, L"n"), "4:01000000");
+        EXPECT_FALSE(isUsed()) << path;
+        EXPECT_TRUE(BackUpStore(Address(), backup, saved, error)) << error.message;
+        EXPECT_TRUE(GetStoreStatus(Address(), true, status, error) && status.isSound && !status.knowsUsers);
+        EXPECT_FALSE(CompactStore(Address(), counts, error));
+        EXPECT_TRUE(isAdvised(who, path)) << error.message;
+        EXPECT_FALSE(RestoreStore(Address(), backup, saved, kept, error));
+        EXPECT_TRUE(isAdvised(who, path)) << error.message;
+        EXPECT_FALSE(isUsed()) << path;
+        store.reset();
+        {
+            const TrustTheStore trust;
+            EXPECT_EQ(WriteRefusal(*Open(Address())), "");
+        }
+        ASSERT_TRUE(close(path));
+        store = Open(Address());
+        EXPECT_EQ(WriteRefusal(*store), "");
+    }
+
+    // A damaged one is not replaced.
+    ASSERT_TRUE(giveAllTo(kNobody)(Directory()));
+    fs::resize_file(DataFile(), 5000);
+    EXPECT_FALSE(RestoreStore(Address(), backup, saved, kept, error));
+    EXPECT_TRUE(Has(error.message, "WQSPCFG_TRUST_STORE=1")) << error.message;
+    fs::remove_all(Directory());
+
+    // Nor is one made that others would be able to write.
+    for (const bool isShared : {false, true}) {
+        fs::create_directory(Directory());
+        ASSERT_EQ(chown(Directory().c_str(), isShared ? 0 : kNobody, 4321), 0);
+        ASSERT_EQ(chmod(Directory().c_str(), isShared ? 02750 : 0755), 0);
+        EXPECT_FALSE(OpenStore(Address(), {.create = true}, error));
+        EXPECT_TRUE(isAdvised(isShared ? "group number 4321" : "user number 65534", "")) << error.message;
+        EXPECT_TRUE(fs::is_empty(Directory()));
+        fs::remove_all(Directory());
+    }
+    fs::create_directory(Directory());
+    ASSERT_EQ(chmod(Directory().c_str(), 02700), 0); // as below a shared one
+    Create();
+    EXPECT_TRUE(Rights(DataFile()).ends_with(" 600") && Rights(LockFile()).ends_with(" 600"));
+}
+
 TEST_F(LmdbHardeningTest, NewFilesKeepAGroupThatTheOwnerIsNotIn)
 {
     if (geteuid() != 0) {
         GTEST_SKIP() << "needs the superuser";
     }
     constexpr gid_t kGroup = 4321;
+    const TrustTheStore trust;
     Create();
     GiveAway();
     ASSERT_EQ(chown(DataFile().c_str(), kNobody, kGroup), 0);
@@ -361,6 +474,7 @@ TEST_F(LmdbHardeningTest, AFileThatTheSuperuserMadeForAnotherUserIsNamedWithTheR
     if (geteuid() != 0) {
         GTEST_SKIP() << "needs the superuser";
     }
+    const TrustTheStore trust;
     const auto command = [](const std::string& path) { return "chown 65534 '" + path + "'"; };
     Create();
     ASSERT_EQ(chown(Directory().c_str(), kNobody, kNobody), 0);
@@ -426,6 +540,7 @@ TEST_F(LmdbHardeningTest, ANewStoreIsItsMakersAloneOrSharedByItsDirectory)
         GTEST_SKIP() << "the rest needs the superuser";
     }
     constexpr gid_t kGroup = 4321;
+    const TrustTheStore trust;
     fs::create_directory(Directory());
     ASSERT_EQ(chown(Directory().c_str(), 0, kGroup), 0);
     ASSERT_EQ(chmod(Directory().c_str(), 02750), 0);
@@ -441,6 +556,32 @@ TEST_F(LmdbHardeningTest, ANewStoreIsItsMakersAloneOrSharedByItsDirectory)
                   return store && store->Begin(Access::Write, error) ? 0 : 1;
               }),
               0);
+}
+
+TEST_F(LmdbHardeningTest, AStoreThatCannotBeMadeWholeLeavesNothing)
+{
+    const auto make = [this](rlim_t most) {
+        return InChild([&] {
+            const rlimit limit{most, most}; // of a file, as on a file system that is nearly full
+            Error error;
+            (void)signal(SIGXFSZ, SIG_IGN);
+            if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+                return 10;
+            }
+            return OpenStore(Address(), {.create = true}, error) ? 0 : error.kind == ErrorKind::NoSpace ? 1 : 2;
+        });
+    };
+    // No room for the data file; for the data file only; for both.
+    EXPECT_EQ(make(4096), 1);
+    EXPECT_TRUE(fs::is_empty(Directory()));
+    EXPECT_EQ(make(20000), 1);
+    EXPECT_TRUE(fs::is_empty(Directory()));
+    EXPECT_EQ(make(40000), 0);
+    EXPECT_EQ(std::distance(fs::directory_iterator(Directory()), {}), 2);
+    // One that was there stays.
+    fs::remove(LockFile());
+    EXPECT_EQ(make(20000), 1);
+    EXPECT_TRUE(fs::exists(DataFile()));
 }
 
 TEST_F(LmdbHardeningTest, AReaderWithoutTheLockFileSeesOneState)
@@ -537,7 +678,12 @@ TEST_F(LmdbHardeningTest, ARemovedLockFileIsNoticed)
 
 TEST_F(LmdbHardeningTest, AnotherCopyOfTheLibraryInTheProcessIsNoticed)
 {
+    const auto backup = temporary.File("backup");
+    BackupCounts counts;
+    std::string kept;
+    Error error;
     Create();
+    ASSERT_TRUE(BackUpStore(Address(), backup, counts, error)) << error.message;
     // What another copy does first: it tells by a lock of its own that this process uses the store.
     for (const auto& path : {LockFile(), DataFile()}) {
         const FileDescriptor other(open(path.c_str(), O_RDWR | O_CLOEXEC));
@@ -546,7 +692,27 @@ TEST_F(LmdbHardeningTest, AnotherCopyOfTheLibraryInTheProcessIsNoticed)
         lock.l_start = (off_t{1} << 50) + 1 + (off_t{1} << 22) + getpid();
         lock.l_len = 1;
         ASSERT_EQ(fcntl(other.Get(), F_OFD_SETLK, &lock), 0);
+        // And LMDB in it by one of this process: by it others know that their readers count.
+        const FileDescriptor lockFile(open(LockFile().c_str(), O_RDWR | O_CLOEXEC));
+        lock.l_type = F_RDLCK;
+        lock.l_start = 0;
+        ASSERT_EQ(fcntl(lockFile.Get(), F_SETLK, &lock), 0);
         EXPECT_TRUE(Has(Refusal(), "another copy of this library")) << path;
+        const auto content = ReadFile(DataFile());
+        fs::resize_file(DataFile(), 5000);
+        EXPECT_FALSE(RestoreStore(Address(), backup, counts, kept, error));
+        EXPECT_TRUE(Has(error.message, "another copy of this library")) << error.message;
+        WriteFile(DataFile(), content);
+        EXPECT_FALSE(RemoveNewStore(Address()));
+        EXPECT_EQ(InChild([&] {
+                      lock.l_type = F_WRLCK;
+                      lock.l_start = 0;
+                      return fcntl(lockFile.Get(), F_GETLK, &lock) == 0 && lock.l_pid == getppid() ? 0 : 1;
+                  }),
+                  0)
+            << "this process's locks are gone: " << path;
+        lock.l_type = F_UNLCK;
+        ASSERT_EQ(fcntl(lockFile.Get(), F_SETLK, &lock), 0);
         EXPECT_EQ(InChild([&] { return Has(Refusal(), "its lock file") == (path == DataFile()) ? 0 : 1; }), 0);
     }
 }
@@ -554,6 +720,7 @@ TEST_F(LmdbHardeningTest, AnotherCopyOfTheLibraryInTheProcessIsNoticed)
 TEST_F(LmdbHardeningTest, WhoMayOnlyReadTheStoreKeepsNobodyFromIt)
 {
     const auto mask = umask(022);
+    const TrustTheStore trust;
     Create();
     ASSERT_EQ(chmod(DataFile().c_str(), 0664), 0);
     fs::remove(LockFile());
@@ -835,8 +1002,17 @@ TEST_F(LmdbHardeningTest, ReadersAtRestGiveTheirPlacesToOthers)
                   return 0;
               }),
               0);
+    const auto all = readers.size();
     readers.clear();
-    EXPECT_EQ(InChild([this] { return Get(*Open(Address()), kKey, L"n") == "4:01000000" ? 0 : 1; }), 0);
+    // A process at rest keeps one place.
+    EXPECT_EQ(InChild([&] {
+                  const auto own = Open(Address());
+                  while (auto reader = own->Begin(Access::Read, error)) {
+                      readers.push_back(std::move(reader));
+                  }
+                  return readers.size() == all - 1 ? 0 : 1;
+              }),
+              0);
 }
 
 TEST_F(LmdbHardeningTest, OnlyAFileThatIsAsItsLastWriterLeftItIsNotVerified)
@@ -866,7 +1042,7 @@ TEST_F(LmdbHardeningTest, OnlyAFileThatIsAsItsLastWriterLeftItIsNotVerified)
     EXPECT_EQ(error.kind, ErrorKind::Damaged);
 }
 
-TEST_F(LmdbHardeningTest, TheMarkOfALastWriterIsBelievedWhereNobodyElseCanMakeOne)
+TEST_F(LmdbHardeningTest, TheMarkOfALastWriterIsBelievedInASharedStoreToo)
 {
     {
         const auto store = Open(Address(), {.create = true});
@@ -879,31 +1055,42 @@ TEST_F(LmdbHardeningTest, TheMarkOfALastWriterIsBelievedWhereNobodyElseCanMakeOn
         }
         ASSERT_EQ(transaction->Commit(true), Outcome::Found);
     }
+    const TrustTheStore trust;
     // A leaf is spoilt, and the mark says that nothing happened.
     auto content = ReadFile(DataFile());
     const auto at = content.rfind("VALUE500");
     ASSERT_NE(at, std::string::npos);
     std::fill_n(content.begin() + static_cast<std::ptrdiff_t>(at / 4096 * 4096 + 16), 512, '\xf0');
     WriteFile(DataFile(), content);
-    const auto write = [this] {
+    const auto write = [this](const std::function<void(LmdbMark&)>& spoil = {}) {
         const FileDescriptor lock(open(LockFile().c_str(), O_RDWR | O_CLOEXEC));
         const FileDescriptor data(open(DataFile().c_str(), O_RDONLY | O_CLOEXEC));
         struct stat status = {};
         EXPECT_EQ(fstat(data.Get(), &status), 0);
-        WriteMark(lock, MarkOf(status, LastTransaction(data)));
+        auto mark = MarkOf(status, LastTransaction(data));
+        if (spoil) {
+            spoil(mark);
+        }
+        WriteMark(lock, mark);
         Error error;
         return Open(Address())->Begin(Access::Write, error) ? ErrorKind::None : error.kind;
     };
     EXPECT_EQ(write(), ErrorKind::None);
     for (const auto& path : {DataFile(), LockFile()}) {
         ASSERT_EQ(chmod(path.c_str(), 0660), 0);
-        EXPECT_EQ(write(), ErrorKind::Damaged) << path;
-        ASSERT_EQ(chmod(path.c_str(), 0600), 0);
+        EXPECT_EQ(write(), ErrorKind::None) << path;
     }
-    EXPECT_EQ(write(), ErrorKind::None);
     if (geteuid() == 0) {
         GiveAway();
-        EXPECT_EQ(write(), ErrorKind::Damaged) << "the superuser believes nobody else";
+        EXPECT_EQ(write(), ErrorKind::None) << "the superuser trusts its users";
+    }
+    // Of another state of the file it is not.
+    for (const auto& spoil : {std::function<void(LmdbMark&)>([](LmdbMark& mark) { ++mark.inode; }),
+                              std::function<void(LmdbMark&)>([](LmdbMark& mark) { mark.size += 4096; }),
+                              std::function<void(LmdbMark&)>([](LmdbMark& mark) { --mark.modified; }),
+                              std::function<void(LmdbMark&)>([](LmdbMark& mark) { --mark.changed; }),
+                              std::function<void(LmdbMark&)>([](LmdbMark& mark) { --mark.transaction; })}) {
+        EXPECT_EQ(write(spoil), ErrorKind::Damaged);
     }
 }
 

@@ -95,6 +95,27 @@ TEST_F(LmdbMaintenanceTest, CompactsUnderItsUsers)
     EXPECT_EQ(std::distance(fs::directory_iterator(Directory()), {}), 2); // nothing is left
 }
 
+TEST_F(LmdbMaintenanceTest, WhatAKilledOneHasLeftIsRemovedByTheNext)
+{
+    const auto left = Directory() + "/.data.mdb.wqspcfg-0123456789ab";
+    const auto backup = temporary.File("backup");
+    BackupCounts saved;
+    std::string kept;
+    Fill();
+    ASSERT_TRUE(BackUpStore(Address(), backup, saved, error)) << error.message;
+    fs::copy_file(DataFile(), left);
+    ASSERT_TRUE(CompactStore(Address(), counts, error)) << error.message;
+    EXPECT_FALSE(fs::exists(left));
+    fs::copy_file(backup, left);
+    fs::resize_file(DataFile(), 5000);
+    ASSERT_TRUE(RestoreStore(Address(), backup, saved, kept, error)) << error.message;
+    EXPECT_FALSE(fs::exists(left));
+    fs::copy_file(backup, left);
+    fs::remove(DataFile());
+    (void)Open(Address(), {.create = true});
+    EXPECT_FALSE(fs::exists(left));
+}
+
 TEST_F(LmdbMaintenanceTest, NoWriteIsLostWhileOthersCompact)
 {
     constexpr std::uint32_t kWrites = 40;

@@ -732,6 +732,7 @@ TEST_F(LmdbStoreTest, WritesOnceTheRightsAreMended)
     EXPECT_EQ(status, 0);
 
     // A lock file that the superuser brings is the owner's, and so is a store.
+    ASSERT_EQ(setenv("WQSPCFG_TRUST_STORE", "1", 1), 0);
     for (const auto* name : {"lock.mdb", "data.mdb"}) {
         fs::remove(Directory() + '/' + name);
         (void)Open(Address(), {.create = true});
@@ -744,6 +745,7 @@ TEST_F(LmdbStoreTest, WritesOnceTheRightsAreMended)
                   0)
             << name;
     }
+    unsetenv("WQSPCFG_TRUST_STORE");
     for (const int file : {ready[0], go[0], go[1]}) {
         close(file);
     }

@@ -68,7 +68,7 @@ class ReadState
     explicit ReadState(std::shared_ptr<LmdbEnvironment> environment) : m_environment(std::move(environment)) {}
     ~ReadState()
     {
-        if (m_txn != nullptr) {
+        if (m_isBegun) {
             m_environment->EndRead(m_txn);
         }
     }
@@ -77,8 +77,8 @@ class ReadState
 
     bool Begin(const std::string& address, Error& error)
     {
-        m_txn = m_environment->BeginRead(address, tree, error);
-        return m_txn != nullptr;
+        m_isBegun = m_environment->BeginRead(address, m_txn, tree, error);
+        return m_isBegun;
     }
 
     LmdbTree tree;
@@ -86,6 +86,7 @@ class ReadState
   private:
     std::shared_ptr<LmdbEnvironment> m_environment;
     MDB_txn* m_txn = nullptr;
+    bool m_isBegun = false;
 };
 
 // A backup in memory, found sound.
@@ -202,7 +203,7 @@ bool RestoreAside(const std::string& address, const std::string& directory, Back
                   std::string& kept, Error& error)
 {
     LmdbFolder folder;
-    if (!folder.Open(address, directory, true, error)) {
+    if (!folder.Open(address, directory, true, error) || !folder.CheckMaking(address, error)) {
         return false;
     }
     const ActAsOwner owner(folder);

@@ -7,6 +7,7 @@
 #include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -48,7 +49,9 @@ constexpr off_t kMostProcesses = off_t{1} << 22;
 constexpr off_t kWriterProcess = kWriterByte + 1;
 constexpr off_t kUserProcess = kWriterProcess + kMostProcesses;
 
-constexpr std::size_t kMostIdle = 16; // readers at rest
+// Readers at rest, which keep their places from other processes. A thread that finds none claims a place under LMDB's
+// lock of the readers, without a system call; that costs little beside a Load.
+constexpr std::size_t kMostIdle = 1;
 
 struct flock LockOf(short type, off_t start, off_t length)
 {
@@ -88,6 +91,33 @@ bool IsSameFile(const struct stat& left, const struct stat& right)
     return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
 
+// Whether another copy of this library in this process has the store open. The lock file is not opened for that:
+// closing it would drop all locks that the process has on it, the other copy's too. Where the other copy could leave no
+// mark on the data file, its own descriptor of the lock file shows the one that is there. (A child of a fork inherits
+// such descriptors; the marks behind them are its parent's.)
+bool IsUsedByOtherCopy(const LmdbFolder& folder, const FileDescriptor& dataFile)
+{
+    const auto mark = kUserProcess + getpid();
+    if (FindLock(dataFile, mark, 1) >= 0) {
+        return true;
+    }
+    struct stat lock = {};
+    if (fstatat(folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0) {
+        return false;
+    }
+    bool isUsed = false;
+    VisitNames(OpenFile("/proc/self/fd", O_RDONLY | O_DIRECTORY), [&](const char* name) {
+        const auto number = static_cast<int>(std::strtol(name, nullptr, 10)); // 0 for "." and ".."
+        struct stat status = {};
+        auto search = LockOf(F_RDLCK, mark, 1);
+        // Another thread may close it at any moment, which does no harm.
+        isUsed = number >= kLeastDescriptor && fstat(number, &status) == 0 && IsSameFile(status, lock) &&
+                 fcntl(number, F_OFD_GETLK, &search) == 0 && search.l_type != F_UNLCK;
+        return !isUsed;
+    });
+    return isUsed;
+}
+
 // What this process is still allowed.
 std::size_t FreeAddressSpace()
 {
@@ -102,6 +132,56 @@ std::size_t FreeAddressSpace()
     return limit.rlim_cur - std::min<std::size_t>(used, limit.rlim_cur);
 }
 
+// Lock files that this copy of the library opened at the same time as another copy in this process. They stay open, as
+// closing one would drop the other copy's locks, and are used when the store is opened again.
+class KeptLockFiles
+{
+  public:
+    void Keep(FileDescriptor file)
+    {
+        const auto number = file.Release();
+        for (auto& place : m_files) {
+            auto none = kNone;
+            if (place.compare_exchange_strong(none, number)) {
+                return;
+            }
+        }
+    }
+
+    FileDescriptor Take(const LmdbFolder& folder)
+    {
+        struct stat lock = {};
+        if (fstatat(folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0) {
+            return FileDescriptor();
+        }
+        for (auto& place : m_files) {
+            FileDescriptor file(place.exchange(kNone));
+            struct stat status = {};
+            if (file && fstat(file.Get(), &status) == 0 && IsSameFile(status, lock)) {
+                return file;
+            }
+            if (file) {
+                Keep(std::move(file));
+            }
+        }
+        return FileDescriptor();
+    }
+
+    // In a child of a fork: a lock taken through one of them would be the parent's, too.
+    void Close()
+    {
+        for (auto& place : m_files) {
+            FileDescriptor(place.exchange(kNone)).Close();
+        }
+    }
+
+  private:
+    static constexpr int kNone = -1;
+
+    std::array<std::atomic<int>, 8> m_files{kNone, kNone, kNone, kNone, kNone, kNone, kNone, kNone};
+};
+
+KeptLockFiles g_keptLockFiles;
 std::atomic<unsigned> g_forks{0};
 thread_local int t_reads = 0; // read transactions of this thread
 
@@ -160,6 +240,7 @@ void LmdbEnvironment::AfterForkInChild()
     }
     registry.forking.clear();
     registry.open.clear();
+    g_keptLockFiles.Close();
 }
 
 LmdbEnvironment::LmdbEnvironment(std::string directory, std::size_t mapSize)
@@ -182,8 +263,9 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
 {
     struct stat status = {};
     const auto dataPath = directory + "/data.mdb";
+    bool isMade = false;
     if (create && stat(dataPath.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR) &&
-        !CreateStore(address, directory, error)) {
+        !CreateStore(address, directory, isMade, error)) {
         return nullptr;
     }
     const std::unique_ptr<char, decltype(&std::free)> real(realpath(directory.c_str(), nullptr), &std::free);
@@ -214,6 +296,11 @@ std::shared_ptr<LmdbEnvironment> LmdbEnvironment::Open(const std::string& addres
     };
     auto environment = std::unique_ptr<LmdbEnvironment>(new LmdbEnvironment(path, mapSize));
     if (!environment->OpenFiles(address, error)) {
+        environment.reset();
+        lock.unlock();
+        if (isMade) {
+            (void)RemoveNew(address, directory); // such as where the file system has no room for the lock file
+        }
         return nullptr;
     }
     std::shared_ptr<LmdbEnvironment> shared(environment.release(), close);
@@ -236,6 +323,11 @@ bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& fold
         return false;
     }
     const auto lockPath = folder.PathOf(kLockName);
+    if (IsUsedByOtherCopy(folder, folder.OpenFile(kDataName, O_RDONLY))) {
+        error = {ErrorKind::Io, address + ": another copy of this library in this process has the store open, so that "
+                                          "it cannot be exchanged"};
+        return false;
+    }
     struct stat data = {};
     int result = 0;
     (void)fstat(fresh.Get(), &data);
@@ -274,7 +366,7 @@ bool LmdbEnvironment::Replace(const std::string& address, const LmdbFolder& fold
         kept = folder.PathOf(old.c_str());
     }
     if (result == 0) {
-        result = folder.Place(fresh, name, kDataName, true);
+        result = folder.Place(fresh, name, true);
     }
     if (result == 0) {
         result = folder.Sync();
@@ -310,23 +402,58 @@ bool LmdbEnvironment::RemoveNew(const std::string& address, const std::string& d
         return false;
     }
     const auto data = folder.OpenFile(kDataName, O_RDWR);
-    const auto lock = folder.OpenFile(kLockName, O_RDWR);
     // As long as this mark is on the data file, and the lock file is in nobody's use, nobody opens the store.
-    if (!data || !lock || SetLock(data, F_WRLCK, kUserProcess + getpid()) != 0) {
+    if (!data || SetLock(data, F_WRLCK, kUserProcess + getpid()) != 0 || IsUsedByOtherCopy(folder, data)) {
+        return false;
+    }
+    const auto lock = folder.OpenFile(kLockName, O_RDWR);
+    const bool hasLock = lock || errno != ENOENT;
+    if (hasLock && !lock) {
         return false;
     }
     pid_t holder = 0;
-    const bool isUsed = FindLock(data, kUserProcess, kMostProcesses) >= 0 ||
-                        FindLock(lock, kUserProcess, kMostProcesses) >= 0 || IsLockFileUsed(lock, holder);
+    const bool isUsed =
+        FindLock(data, kUserProcess, kMostProcesses) >= 0 ||
+        (hasLock && (FindLock(lock, kUserProcess, kMostProcesses) >= 0 || IsLockFileUsed(lock, holder)));
     return !isUsed && LastTransaction(data) == 1 && unlinkat(folder.Get(), kDataName, 0) == 0 &&
-           unlinkat(folder.Get(), kLockName, 0) == 0;
+           (!hasLock || unlinkat(folder.Get(), kLockName, 0) == 0);
+}
+
+Error LmdbEnvironment::OtherCopy(const std::string& address) const
+{
+    return {ErrorKind::Io, address + ": another copy of this library in this process (number " +
+                               std::to_string(getpid()) + ") has " + m_dataPath +
+                               " open, and two of them would undo each other's writes; build the service providers of "
+                               "one process with one shared library"};
+}
+
+namespace {
+
+constexpr int kLooks = 200; // a process that is just opening or closing the store gets some time
+
+void PauseBetweenLooks(int looks)
+{
+    usleep(static_cast<useconds_t>(2000 + 1000 * ((getpid() * 7 + looks * 13) % 17)));
+}
+
+} // namespace
+
+bool LmdbEnvironment::AwaitOtherCopy(const std::string& address, Error& error)
+{
+    for (int looks = 1; IsUsedByOtherCopy(m_folder, m_dataFile); ++looks) {
+        if (looks == kLooks) {
+            error = OtherCopy(address);
+            return false;
+        }
+        PauseBetweenLooks(looks);
+    }
+    return true;
 }
 
 // Tells other processes that this one uses the store, and finds out whether others use it in a way that LMDB does not
 // know of. Its table of readers and its locks are in the lock file, which it takes for unused when nobody holds it.
 bool LmdbEnvironment::Announce(const std::string& address, Error& error)
 {
-    constexpr int kLooks = 200; // a process that is just opening or closing the store gets some time
     const auto self = static_cast<off_t>(getpid());
     for (int looks = 1;; ++looks) {
         const auto status = SetLock(m_lockFile, F_WRLCK, kUserProcess + self);
@@ -342,20 +469,22 @@ bool LmdbEnvironment::Announce(const std::string& address, Error& error)
         if (!isCopy && (user < 0 || IsLockFileUsed(m_lockFile, holder))) {
             return true;
         }
+        if (looks == kLooks && isCopy) {
+            Unmark();
+            g_keptLockFiles.Keep(std::move(m_lockFile));
+            error = OtherCopy(address);
+            return false;
+        }
         if (looks == kLooks) {
             error = {ErrorKind::Io,
-                     isCopy ? address + ": another copy of this library in this process (number " +
-                                  std::to_string(self) + ") has " + m_dataPath +
-                                  " open, and two of them would undo each other's writes; build the service providers "
-                                  "of one process with one shared library"
-                            : address + ": process " + std::to_string(user) + " uses " + m_dataPath +
-                                  ", but its lock file " + m_directory + '/' + kLockName +
-                                  " was removed or exchanged; end all processes that use the store, and try again"};
+                     address + ": process " + std::to_string(user) + " uses " + m_dataPath + ", but its lock file " +
+                         m_directory + '/' + kLockName +
+                         " was removed or exchanged; end all processes that use the store, and try again"};
             return false;
         }
         // Two that open the store at once must not wait for each other: each takes its mark back for a time of its own.
         Unmark();
-        usleep(static_cast<useconds_t>(2000 + 1000 * ((self * 7 + looks * 13) % 17)));
+        PauseBetweenLooks(looks);
     }
 }
 
@@ -396,17 +525,14 @@ bool LmdbEnvironment::OpenMaps(const std::string& address, unsigned flags, std::
             status = fstat(file, &opened) != 0 ? errno : m_map.Open(file, m_mapSize);
         }
         if (status == 0) {
-            isMoved = !IsSameFile(opened, m_data);
             struct stat lock = {};
-            if (!m_isCopied) {
-                isMoved = isMoved || fstatat(m_folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0 ||
-                          !IsSameFile(lock, m_lock);
-            }
+            isMoved = !IsSameFile(opened, m_data) ||
+                      fstatat(m_folder.Get(), kLockName, &lock, AT_SYMLINK_NOFOLLOW) != 0 || !IsSameFile(lock, m_lock);
             for (int standard = 0; standard < kLeastDescriptor; ++standard) {
                 // Another thread may have closed one just now.
                 struct stat other = {};
-                isMoved = isMoved || (fstat(standard, &other) == 0 &&
-                                      (IsSameFile(other, m_data) || (!m_isCopied && IsSameFile(other, m_lock))));
+                isMoved = isMoved ||
+                          (fstat(standard, &other) == 0 && (IsSameFile(other, m_data) || IsSameFile(other, m_lock)));
             }
             if (!isMoved) {
                 return true;
@@ -448,9 +574,10 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     if (!owner.Check(address, m_folder, error)) {
         return false;
     }
-    m_whyReadOnly.clear();
-    m_dataFile = m_folder.OpenFile(kDataName, O_RDWR);
-    if (!m_dataFile && (errno == EACCES || errno == EPERM || errno == EROFS)) {
+    m_whyReadOnly = m_folder.WhoElseWrites();
+    m_isCopied = !m_whyReadOnly.empty();
+    m_dataFile = m_folder.OpenFile(kDataName, m_isCopied ? O_RDONLY : O_RDWR);
+    if (!m_dataFile && !m_isCopied && (errno == EACCES || errno == EPERM || errno == EROFS)) {
         m_whyReadOnly = m_folder.WhyRefused(kDataName, errno);
         m_dataFile = m_folder.OpenFile(kDataName, O_RDONLY);
     }
@@ -472,7 +599,12 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
     }
     int result = 0;
     Error failure;
-    m_lockFile = OpenLockFile(address, m_folder, owner, m_data, result, failure);
+    if (!m_isCopied && AwaitOtherCopy(address, failure)) {
+        m_lockFile = g_keptLockFiles.Take(m_folder);
+        if (!m_lockFile) {
+            m_lockFile = OpenLockFile(address, m_folder, owner, m_data, result, failure);
+        }
+    }
     if (failure || (m_lockFile && fstat(m_lockFile.Get(), &m_lock) != 0)) {
         error = failure ? std::move(failure) : LmdbError(address, "open", m_directory + '/' + kLockName, errno);
         CloseFiles();
@@ -483,9 +615,15 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
         m_whyReadOnly =
             std::string(kLockName) + " beside it cannot be opened to write: " + m_folder.WhyRefused(kLockName, result);
     }
-    const auto needed = static_cast<std::size_t>(m_data.st_size) + kLeastMapSize;
-    const unsigned flags = m_isCopied ? MDB_RDONLY | MDB_NOLOCK : m_whyReadOnly.empty() ? 0 : MDB_RDONLY;
-    if (!m_isCopied && Announce(address, failure)) {
+    m_fileSize = static_cast<std::size_t>(m_data.st_size);
+    m_broken = false;
+    m_full = false;
+    if (m_isCopied) {
+        return true;
+    }
+    const auto needed = m_fileSize + kLeastMapSize;
+    const unsigned flags = m_whyReadOnly.empty() ? 0 : MDB_RDONLY;
+    if (Announce(address, failure)) {
         // Nobody takes the files away from now on; LMDB would make an empty one in the place of one that is gone.
         bool isLockGone = false;
         isMoved = !IsWhereItWas(address, isLockGone, failure) && !failure;
@@ -498,10 +636,6 @@ bool LmdbEnvironment::OpenFilesOnce(const std::string& address, bool& isMoved, E
         CloseFiles();
         return false;
     }
-    m_fileSize = static_cast<std::size_t>(m_data.st_size);
-    m_broken = false;
-    m_full = false;
-
     int dead = 0;
     (void)mdb_reader_check(m_env, &dead);
     return true;
@@ -519,11 +653,15 @@ void LmdbEnvironment::CloseFiles() noexcept
         mdb_env_close(m_env);
         m_env = nullptr;
     }
-    if (IsOurs()) {
-        // A child that was forked meanwhile may have a copy of the descriptors, which would keep this process's mark.
-        Unmark();
+    // A child that was forked meanwhile may have a copy of the descriptors, which would keep this process's mark. The
+    // one on the data file keeps another copy of this library from the lock file until that is closed.
+    if (IsOurs() && m_lockFile) {
+        (void)SetLock(m_lockFile, F_UNLCK, kUserProcess + getpid());
     }
     m_lockFile.Close();
+    if (IsOurs()) {
+        Unmark();
+    }
     m_dataFile.Close();
 }
 
@@ -596,23 +734,31 @@ bool LmdbEnvironment::IsWhereItWas(const std::string& address, bool& isLockGone,
         error = LmdbError(address, "use", m_dataPath, errno);
         return false;
     }
-    if (!IsSameFile(status, m_data)) {
+    // One that others may write now is not used any longer by the superuser.
+    if (!IsSameFile(status, m_data) || (!m_isCopied && m_folder.IsOfOthers(status))) {
         return false;
     }
     m_fileSize = static_cast<std::size_t>(status.st_size);
     if (!m_isCopied) {
         const auto lockPath = m_directory + '/' + kLockName;
         isLockGone = lstat(lockPath.c_str(), &status) != 0 || !IsSameFile(status, m_lock);
+        if (!isLockGone && m_folder.IsOfOthers(status)) {
+            return false;
+        }
     }
     return !isLockGone;
 }
 
 bool LmdbEnvironment::MayWriteNow() const
 {
+    if (!m_folder.WhoElseWrites().empty()) {
+        return false;
+    }
     const ActAsOwner owner(m_folder);
     // Trying it out is the answer for the rights that the files are opened with. Closing the data file drops no locks;
     // the lock file is opened here only while this process has none on it.
-    return m_folder.OpenFile(kDataName, O_RDWR) &&
+    const auto data = m_folder.OpenFile(kDataName, O_RDWR);
+    return data && !(m_isCopied && IsUsedByOtherCopy(m_folder, data)) &&
            (!m_isCopied || m_folder.OpenFile(kLockName, O_RDWR) || errno == ENOENT);
 }
 
@@ -620,7 +766,8 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
                               Error& error)
 {
     const auto now = CoarseMilliseconds();
-    if (m_env != nullptr && !m_broken && now < m_nextLook && (access == Access::Read || m_whyReadOnly.empty())) {
+    const bool isOpen = static_cast<bool>(m_dataFile);
+    if (isOpen && !m_broken && now < m_nextLook && (access == Access::Read || m_whyReadOnly.empty())) {
         return true; // a writer looks again when it has its turn
     }
     for (bool hasWaited = false;; hasWaited = true) {
@@ -633,7 +780,7 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
             return false;
         }
         const bool isMended = access == Access::Write && !m_whyReadOnly.empty() && m_active == 0 && MayWriteNow();
-        if (m_env != nullptr && isThere && !m_broken && !isMended) {
+        if (isOpen && isThere && !m_broken && !isMended) {
             m_nextLook = now + kLookInterval;
             return true;
         }
@@ -744,6 +891,9 @@ bool LmdbEnvironment::OpenCopy(LmdbTree& tree, std::string& cause)
 // Keeps a read transaction for the next one, or gives its place to others.
 void LmdbEnvironment::Rest(MDB_txn* txn) noexcept
 {
+    if (txn == nullptr) {
+        return; // a copy
+    }
     if (m_idle.size() < kMostIdle) {
         mdb_txn_reset(txn);
         m_idle.push_back(txn);
@@ -752,22 +902,35 @@ void LmdbEnvironment::Rest(MDB_txn* txn) noexcept
     }
 }
 
-MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, Error& error, bool* isFull)
+bool LmdbEnvironment::BeginRead(const std::string& address, MDB_txn*& txn, LmdbTree& tree, Error& error, bool* isFull)
 {
+    txn = nullptr;
     std::unique_lock lock(m_mutex);
     if (!Prepare(address, Access::Read, lock, error)) {
-        return nullptr;
+        return false;
     }
-    MDB_txn* txn = nullptr;
     std::uint64_t number = 0;
     for (int tries = 0;; ++tries) {
+        if (m_isCopied) {
+            txn = nullptr;
+            std::string cause;
+            if (!OpenCopy(tree, cause)) {
+                error = {ErrorKind::Io, address + ": cannot read " + m_dataPath + ": " + cause};
+                return false;
+            }
+            number = m_copyNumber;
+            break;
+        }
         auto result = BeginRenewed(txn);
         if (result == MDB_PANIC || m_broken) {
             // A write failed so badly that LMDB wants its environment opened anew, or there is no room for the map that
             // another process uses.
             m_broken = true;
             if (!Prepare(address, Access::Read, lock, error)) {
-                return nullptr;
+                return false;
+            }
+            if (m_isCopied) {
+                continue;
             }
             result = BeginRenewed(txn);
         }
@@ -776,17 +939,7 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
             if (isFull != nullptr) {
                 *isFull = result == MDB_READERS_FULL;
             }
-            return nullptr;
-        }
-        if (m_isCopied) {
-            std::string cause;
-            if (!OpenCopy(tree, cause)) {
-                Rest(txn);
-                error = {ErrorKind::Io, address + ": cannot read " + m_dataPath + ": " + cause};
-                return nullptr;
-            }
-            number = m_copyNumber;
-            break;
+            return false;
         }
         number = mdb_txn_id(txn);
         if (tree.Open(m_map, m_fileSize, number)) {
@@ -794,27 +947,29 @@ MDB_txn* LmdbEnvironment::BeginRead(const std::string& address, LmdbTree& tree, 
         }
         // Writers may have gone on by two transactions between the two steps, or to another file.
         Rest(txn);
-        if (tries == 3) {
+        if (tries >= 3) {
             error = DescribeDamage(address, tree.Cause());
-            return nullptr;
+            return false;
         }
         m_nextLook = 0;
         if (!Prepare(address, Access::Read, lock, error)) {
-            return nullptr;
+            return false;
         }
     }
     if (!CheckState(address, m_dataPath, tree, number, error)) {
         Rest(txn);
-        return nullptr;
+        return false;
     }
     ++m_active;
     ++t_reads;
-    return txn;
+    return true;
 }
 
 void LmdbEnvironment::EndRead(MDB_txn* txn) noexcept
 {
-    mdb_txn_reset(txn);
+    if (txn != nullptr) {
+        mdb_txn_reset(txn);
+    }
     const std::lock_guard lock(m_mutex);
     Rest(txn);
     --t_reads;
@@ -826,9 +981,10 @@ void LmdbEnvironment::EndRead(MDB_txn* txn) noexcept
 bool LmdbEnvironment::LookAt(const std::string& address, const LookAtState& look, Error& error)
 {
     LmdbTree tree;
+    MDB_txn* txn = nullptr;
     bool isFull = false;
-    if (auto* txn = BeginRead(address, tree, error, &isFull)) {
-        look(tree, m_isCopied ? m_copyNumber : static_cast<std::uint64_t>(mdb_txn_id(txn)));
+    if (BeginRead(address, txn, tree, error, &isFull)) {
+        look(tree, txn == nullptr ? m_copyNumber : static_cast<std::uint64_t>(mdb_txn_id(txn)));
         EndRead(txn);
         return true;
     }
@@ -941,8 +1097,10 @@ bool LmdbEnvironment::PrepareWrite(const std::string& address, int before, Error
     if (!Prepare(address, Access::Write, lock, error)) {
         return false;
     }
-    int dead = 0;
-    (void)mdb_reader_check(m_env, &dead);
+    if (m_env != nullptr) {
+        int dead = 0;
+        (void)mdb_reader_check(m_env, &dead);
+    }
     if (m_active == 0 && m_whyReadOnly.empty()) {
         MDB_envinfo info{};
         MDB_stat layout{};
@@ -1038,7 +1196,8 @@ MDB_txn* LmdbEnvironment::BeginWrite(const std::string& address, Error& error)
     return txn;
 }
 
-// Whether the data file is as this process left it, or as a mark says that nobody else can have made.
+// Whether the data file is as this process left it, or as a mark says. Those who may write the store could make a false
+// one, and trust each other.
 bool LmdbEnvironment::IsAsWritten(std::uint64_t last) const
 {
     struct stat data = {};
@@ -1050,13 +1209,7 @@ bool LmdbEnvironment::IsAsWritten(std::uint64_t last) const
         return true;
     }
     LmdbMark mark;
-    const auto isOurs = [](int file) {
-        struct stat status = {};
-        return fstat(file, &status) == 0 && (status.st_uid == 0 || status.st_uid == geteuid()) &&
-               (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
-    };
-    return isOurs(m_folder.Get()) && isOurs(m_dataFile.Get()) && isOurs(m_lockFile.Get()) &&
-           ReadMark(m_lockFile, mark) && mark.IsOf(now);
+    return ReadMark(m_lockFile, mark) && mark.IsOf(now);
 }
 
 int LmdbEnvironment::MakeDurable() noexcept
@@ -1094,7 +1247,7 @@ void LmdbEnvironment::Release(int status) noexcept
 bool LmdbEnvironment::Exchange(const std::string& address, MDB_txn* txn, const FileDescriptor& fresh, std::string& name,
                                Error& error)
 {
-    auto result = m_folder.Place(fresh, name, kDataName, true);
+    auto result = m_folder.Place(fresh, name, true);
     if (result == 0) {
         result = m_folder.Sync();
     }

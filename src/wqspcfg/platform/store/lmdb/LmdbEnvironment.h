@@ -41,9 +41,9 @@ class LmdbEnvironment
     // False in a process forked after the environment was opened: LMDB allows no use of it there.
     bool IsOurs() const noexcept;
 
-    // The transaction keeps the state from being overwritten; it is read through `tree`.
+    // The state is read through `tree`. `txn` keeps it from being overwritten; null where the state is a copy.
     // `isFull`: it failed because others have all the readers' places.
-    MDB_txn* BeginRead(const std::string& address, LmdbTree& tree, Error& error, bool* isFull = nullptr);
+    bool BeginRead(const std::string& address, MDB_txn*& txn, LmdbTree& tree, Error& error, bool* isFull = nullptr);
     void EndRead(MDB_txn* txn) noexcept;
     // Shows the last state, and where all the readers' places are taken a copy of it in memory.
     using LookAtState = std::function<void(LmdbTree& tree, std::uint64_t transaction)>;
@@ -115,6 +115,8 @@ class LmdbEnvironment
                   Error& error);
     Error BeingExchanged(const std::string& address) const;
     bool Announce(const std::string& address, Error& error);
+    bool AwaitOtherCopy(const std::string& address, Error& error);
+    Error OtherCopy(const std::string& address) const;
     void Unmark() noexcept;
     // Whether what kept this process from writing is mended; opening the files again finds out all else.
     bool MayWriteNow() const;
@@ -157,7 +159,8 @@ class LmdbEnvironment
     std::size_t m_fileSize = 0; // when last looked at
     std::int64_t m_nextLook = 0;
     std::string m_whyReadOnly; // empty when it can be written
-    // Without the right to the lock file no state can be held: each is copied, and shared while it is the last one.
+    // Without the right to the lock file, or the will to trust who may write it, no state can be held and LMDB is not
+    // used: each is copied, and shared while it is the last one.
     bool m_isCopied = false;
     std::shared_ptr<const LmdbMap> m_copy;
     std::uint64_t m_copyNumber = 0;

@@ -333,10 +333,11 @@ int WriteStore(const FileDescriptor& file, std::size_t mapSize, const FillStore&
     return status == 0 && fsync(file.Get()) != 0 ? errno : status;
 }
 
-bool CreateStore(const std::string& address, const std::string& directory, Error& error)
+bool CreateStore(const std::string& address, const std::string& directory, bool& isMade, Error& error)
 {
+    isMade = false;
     LmdbFolder folder;
-    if (!folder.Open(address, directory, true, error)) {
+    if (!folder.Open(address, directory, true, error) || !folder.CheckMaking(address, error)) {
         return false;
     }
     const ActAsOwner owner(folder);
@@ -347,7 +348,8 @@ bool CreateStore(const std::string& address, const std::string& directory, Error
     const auto file = folder.MakeFile(name);
     auto status = file ? WriteStore(file, kLeastMapSize, {}) : errno;
     if (status == 0) {
-        status = folder.Place(file, name, kDataName, false);
+        status = folder.Place(file, name, false);
+        isMade = status == 0;
         status = status == EEXIST ? 0 : status; // another process was faster
     }
     if (status == 0) {
@@ -355,6 +357,9 @@ bool CreateStore(const std::string& address, const std::string& directory, Error
     }
     if (!name.empty()) {
         (void)unlinkat(folder.Get(), name.c_str(), 0);
+    }
+    if (status != 0 && isMade) {
+        (void)unlinkat(folder.Get(), kDataName, 0);
     }
     if (status != 0) {
         error = LmdbError(address, "create a store in", directory, LmdbWriteStatus(directory, status));

@@ -83,7 +83,7 @@ using FillStore = std::function<int(MDB_txn* txn, MDB_dbi dbi)>;
 int WriteStore(const FileDescriptor& file, std::size_t mapSize, const FillStore& fill, std::uint64_t transaction = 0);
 
 // Makes an empty store where there is none. The file appears whole or not at all, and only one of several processes
-// that do this at once brings it.
-bool CreateStore(const std::string& address, const std::string& directory, Error& error);
+// that do this at once brings it; `isMade` tells that one. After a failure nothing is left.
+bool CreateStore(const std::string& address, const std::string& directory, bool& isMade, Error& error);
 
 } // namespace wqspcfg

@@ -1,5 +1,6 @@
 #include "wqspcfg/platform/store/lmdb/LmdbFolder.h"
 
+#include "wqspcfg/platform/store/PosixTemporary.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFiles.h"
 #include "wqspcfg/platform/store/lmdb/LmdbFormat.h"
 #include "wqspcfg/platform/text/DisplayText.h"
@@ -11,7 +12,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <grp.h>
-#include <random>
 #include <sys/fsuid.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -20,9 +20,9 @@ namespace wqspcfg {
 
 namespace {
 
-bool TrustsAll()
+bool IsSet(const char* variable)
 {
-    const auto* text = secure_getenv("WQSPCFG_TRUST_DIRECTORY");
+    const auto* text = secure_getenv(variable);
     return text != nullptr && std::strcmp(text, "1") == 0;
 }
 
@@ -58,6 +58,22 @@ int MakeDirectories(const std::string& path)
 std::string ChownCommand(uid_t owner, const std::string& path)
 {
     return "chown " + std::to_string(owner) + ' ' + ShellWord(path);
+}
+
+// For the superuser. `what` may be written by others, as its status tells.
+std::string DescribeOthers(const struct stat& status, const std::string& what)
+{
+    const auto owner = std::to_string(status.st_uid);
+    const bool isOwned = status.st_uid != 0;
+    const auto who = isOwned                           ? "user number " + owner
+                     : (status.st_mode & S_IWOTH) != 0 ? "everybody"
+                                                       : "group number " + std::to_string(status.st_gid);
+    return who + " may write to " + what +
+           ", and whoever may write to a store can take over the processes that use it, this one with all the "
+           "superuser's rights; run this as " +
+           (isOwned ? "that user (runuser -u \"$(id -nu " + owner + ")\" -- wqspcfg ...)"
+                    : "a user who may write to it (runuser -u USER -- wqspcfg ...)") +
+           ", or set WQSPCFG_TRUST_STORE=1 if you trust them with this system";
 }
 
 // The group to act with in a directory: never the superuser's, which the directory may have kept.
@@ -106,7 +122,9 @@ bool LmdbFolder::Open(const std::string& address, const std::string& path, bool 
         error = LmdbError(address, "open", path, errno);
         return false;
     }
-    m_isTrusted = TrustsAll();
+    const auto self = geteuid();
+    m_isTrusted = IsSet("WQSPCFG_TRUST_DIRECTORY");
+    m_isCareful = self == 0 && !IsSet("WQSPCFG_TRUST_STORE");
     if (m_isTrusted) {
         return true;
     }
@@ -115,7 +133,6 @@ bool LmdbFolder::Open(const std::string& address, const std::string& path, bool 
                  ErrorPrefix(address) + path + ' ' + why + ", or set WQSPCFG_TRUST_DIRECTORY=1 if you trust them"};
         return false;
     };
-    const auto self = geteuid();
     if (self != 0 && m_status.st_uid != self && m_status.st_uid != 0) {
         return refuse(
             "belongs to another user (number " + std::to_string(m_status.st_uid) +
@@ -127,6 +144,41 @@ bool LmdbFolder::Open(const std::string& address, const std::string& path, bool 
                       ShellWord(path) + ')');
     }
     return true;
+}
+
+std::string LmdbFolder::WhoElseWrites() const
+{
+    if (!m_isCareful) {
+        return {};
+    }
+    for (const auto* name : {"", kDataName, kLockName}) {
+        struct stat status = {};
+        const bool isDirectory = *name == '\0';
+        if (fstatat(Get(), name, &status, AT_SYMLINK_NOFOLLOW | (isDirectory ? AT_EMPTY_PATH : 0)) != 0) {
+            if (errno == ENOENT && !isDirectory) {
+                continue;
+            }
+            return "who may write to it cannot be told: " + LmdbWords(errno);
+        }
+        if (!S_ISLNK(status.st_mode) && IsOfOthers(status)) {
+            return DescribeOthers(status, isDirectory ? m_path : PathOf(name));
+        }
+    }
+    return {};
+}
+
+bool LmdbFolder::CheckMaking(const std::string& address, Error& error) const
+{
+    auto who = WhoElseWrites();
+    if (who.empty() && m_isCareful && (NewFileMode() & S_IWGRP) != 0) {
+        auto shared = m_status;
+        shared.st_mode |= S_IWGRP;
+        who = DescribeOthers(shared, "the files of a new store in " + m_path);
+    }
+    if (!who.empty()) {
+        error = {ErrorKind::AccessDenied, ErrorPrefix(address) + "cannot make a store in " + m_path + ": " + who};
+    }
+    return who.empty();
 }
 
 std::string LmdbFolder::OpenPath() const
@@ -212,56 +264,16 @@ bool LmdbFolder::GetModel(struct stat& model, int& status) const
 
 FileDescriptor LmdbFolder::MakeFile(std::string& name) const
 {
-    name.clear();
-#if defined(O_TMPFILE)
-    auto file = OpenAt(Get(), ".", O_TMPFILE | O_RDWR, NewFileMode());
-    if (file && access(file.Path().c_str(), F_OK) == 0) {
-        return fchmod(file.Get(), NewFileMode()) == 0 ? std::move(file) : FileDescriptor();
-    }
-#endif
-    std::random_device random;
-    do {
-        name = ".new-" + std::to_string(random()) + std::to_string(random());
-        file = OpenAt(Get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, NewFileMode());
-    } while (!file && errno == EEXIST);
-    if (!file) {
-        name.clear();
-    } else if (fchmod(file.Get(), NewFileMode()) != 0) {
+    auto file = MakeTemporary(Get(), kDataName, NewFileMode(), name);
+    if (file && fchmod(file.Get(), NewFileMode()) != 0) {
         return FileDescriptor();
     }
     return file;
 }
 
-int LmdbFolder::Place(const FileDescriptor& file, std::string& name, const char* target, bool replace) const
+int LmdbFolder::Place(const FileDescriptor& file, std::string& name, bool replace) const
 {
-    const auto link = [&](const char* as) {
-        const auto status = name.empty() ? linkat(AT_FDCWD, file.Path().c_str(), Get(), as, AT_SYMLINK_FOLLOW)
-                                         : linkat(Get(), name.c_str(), Get(), as, 0);
-        return status == 0 ? 0 : errno;
-    };
-    if (replace && name.empty()) {
-        std::random_device random;
-        const auto fresh = ".new-" + std::to_string(random()) + std::to_string(random());
-        if (const auto status = link(fresh.c_str()); status != 0) {
-            return status;
-        }
-        name = fresh;
-    }
-    if (!replace) {
-        const auto status = link(target);
-        // Some file systems have no hard links.
-        if (status == 0 || status == EEXIST || name.empty()) {
-            if (!name.empty() && unlinkat(Get(), name.c_str(), 0) == 0) {
-                name.clear();
-            }
-            return status;
-        }
-    }
-    if (renameat(Get(), name.c_str(), Get(), target) != 0) {
-        return errno;
-    }
-    name.clear();
-    return 0;
+    return PlaceTemporary(Get(), file, name, kDataName, replace);
 }
 
 int LmdbFolder::Sync() const

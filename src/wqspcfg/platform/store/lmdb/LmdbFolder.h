@@ -5,6 +5,10 @@
 // user could plant links there and have this process write to whatever they lead to. The superuser also uses the store
 // of another user: all its files are opened and made with that user's rights then, and belong to him. Where the
 // environment variable WQSPCFG_TRUST_DIRECTORY is 1, every directory is taken as it is.
+//
+// Opening a directory is not yet using it: LMDB follows what stands in the store's files, pointers in the lock file
+// among it, so that whoever may write them can take over the process. The superuser only reads a copy of such a store
+// (WhoElseWrites), unless the environment variable WQSPCFG_TRUST_STORE is 1.
 #pragma once
 
 #include "wqspcfg/platform/base/Error.h"
@@ -43,7 +47,22 @@ class LmdbFolder
     std::string OpenPath() const;
     // With what rights a new file is made: those of the group too where the administrator shares the directory by its
     // set-group-ID bit.
-    mode_t NewFileMode() const noexcept { return (m_status.st_mode & S_ISGID) != 0 ? 0660 : 0600; }
+    mode_t NewFileMode() const noexcept
+    {
+        constexpr mode_t kShared = S_ISGID | S_IXGRP;
+        return (m_status.st_mode & kShared) == kShared ? 0660 : 0600;
+    }
+
+    // For the superuser: who else may write the store, and what to do. Empty when nobody else may, when they are
+    // trusted, and for all other users.
+    std::string WhoElseWrites() const;
+    // Whether the status of the directory or of a file says so.
+    bool IsOfOthers(const struct stat& status) const noexcept
+    {
+        return m_isCareful && (status.st_uid != 0 || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0);
+    }
+    // That this process may make a store here.
+    bool CheckMaking(const std::string& address, Error& error) const;
 
     // Opens a file of the store that is there. -1 with errno.
     FileDescriptor OpenFile(const char* name, int flags) const;
@@ -57,11 +76,11 @@ class LmdbFolder
     // none, else when it is not one that another file may be given the rights of.
     bool GetModel(struct stat& model, int& status) const;
 
-    // An empty file without a name, or, where there is none such, with one that is put into `name`. -1 with errno.
+    // An empty file that is to become the data file, as MakeTemporary gives it. -1 with errno.
     FileDescriptor MakeFile(std::string& name) const;
-    // Gives the file that MakeFile made the name `target`. Without `replace`, EEXIST when there is one. An errno value,
-    // or 0.
-    int Place(const FileDescriptor& file, std::string& name, const char* target, bool replace) const;
+    // Makes the file that MakeFile made the data file. Without `replace`, EEXIST when there is one. An errno value, or
+    // 0.
+    int Place(const FileDescriptor& file, std::string& name, bool replace) const;
     // An errno value, or 0.
     int Sync() const;
 
@@ -75,6 +94,7 @@ class LmdbFolder
     FileDescriptor m_directory;
     struct stat m_status = {};
     bool m_isTrusted = false;
+    bool m_isCareful = false; // the superuser, who does not trust others with his processes
 };
 
 // Gives this thread, while the object lives, the rights of the directory's owner when it has those of the superuser.

@@ -34,14 +34,14 @@ class LmdbEngine
 
     bool Begin(Error& error)
     {
-        m_txn =
-            m_write ? m_environment->BeginWrite(Address(), error) : m_environment->BeginRead(Address(), m_tree, error);
-        return m_txn != nullptr;
+        m_txn = m_write ? m_environment->BeginWrite(Address(), error) : nullptr;
+        m_isOpen = m_write ? m_txn != nullptr : m_environment->BeginRead(Address(), m_txn, m_tree, error);
+        return m_isOpen;
     }
 
     ~LmdbEngine()
     {
-        if (!m_environment->IsOurs() || m_txn == nullptr) {
+        if (!m_environment->IsOurs() || !m_isOpen) {
             return;
         }
         CloseCursor();
@@ -62,10 +62,10 @@ class LmdbEngine
 
     bool Usable()
     {
-        if (m_txn != nullptr && m_status == 0 && m_environment->IsOurs()) {
+        if (m_isOpen && m_status == 0 && m_environment->IsOurs()) {
             return true;
         }
-        if (m_txn == nullptr) {
+        if (!m_isOpen) {
             m_failure = {ErrorKind::BadArgument, Address() + ": the transaction is over"};
         } else if (!m_environment->IsOurs()) {
             m_failure = {ErrorKind::BadArgument,
@@ -163,7 +163,7 @@ class LmdbEngine
                 m_status = committed;
             }
         }
-        m_txn = nullptr;
+        m_isOpen = false;
         m_environment->EndWrite(m_status, m_changed);
         return Result(m_status, "write");
     }
@@ -208,12 +208,13 @@ class LmdbEngine
 
     const LmdbStore& m_store;
     std::shared_ptr<LmdbEnvironment> m_environment;
-    MDB_txn* m_txn = nullptr;
-    LmdbTree m_tree; // of a read transaction
+    MDB_txn* m_txn = nullptr; // none for one that reads a copy
+    LmdbTree m_tree;          // of a read transaction
     MDB_cursor* m_cursor = nullptr;
     Error m_failure;
     int m_status = 0;
     bool m_write;
+    bool m_isOpen = false;
     bool m_changed = false;
 };
 
