@@ -106,7 +106,7 @@ bool IsUsedByOtherCopy(const LmdbFolder& folder, const FileDescriptor& dataFile)
         return false;
     }
     bool isUsed = false;
-    VisitNames(OpenFile("/proc/self/fd", O_RDONLY | O_DIRECTORY), [&](const char* name) {
+    (void)VisitNames(OpenFile("/proc/self/fd", O_RDONLY | O_DIRECTORY), [&](const char* name) {
         const auto number = static_cast<int>(std::strtol(name, nullptr, 10)); // 0 for "." and ".."
         struct stat status = {};
         auto search = LockOf(F_RDLCK, mark, 1);
@@ -766,8 +766,7 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
                               Error& error)
 {
     const auto now = CoarseMilliseconds();
-    const bool isOpen = static_cast<bool>(m_dataFile);
-    if (isOpen && !m_broken && now < m_nextLook && (access == Access::Read || m_whyReadOnly.empty())) {
+    if (m_dataFile && !m_broken && now < m_nextLook && (access == Access::Read || m_whyReadOnly.empty())) {
         return true; // a writer looks again when it has its turn
     }
     for (bool hasWaited = false;; hasWaited = true) {
@@ -780,7 +779,8 @@ bool LmdbEnvironment::Prepare(const std::string& address, Access access, std::un
             return false;
         }
         const bool isMended = access == Access::Write && !m_whyReadOnly.empty() && m_active == 0 && MayWriteNow();
-        if (isOpen && isThere && !m_broken && !isMended) {
+        // While this thread waited, another one may have closed the files and failed to open them again.
+        if (m_dataFile && isThere && !m_broken && !isMended) {
             m_nextLook = now + kLookInterval;
             return true;
         }
