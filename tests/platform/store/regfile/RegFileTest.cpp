@@ -256,7 +256,7 @@ TEST(RegFileTest, GuessesNoCodePage)
         EXPECT_NE(message.find("--codepage"), std::string::npos) << message;
     }
     // What is wrong before that is told first.
-    EXPECT_EQ(ImportedAnsi("\"x\"=dword:g\r\n\"y\"=\"\xe9\"\r\n").find("f.reg:4: a dword"), 0U);
+    EXPECT_EQ(ImportedAnsi("\"x\"=dword:g\r\n\"y\"=\"\xe9\"\r\n").find("f.reg:4: column 11: a dword"), 0U);
 }
 
 TEST(RegFileTest, ReadsNoMoreOfAFileThatIsNoExport)
@@ -363,26 +363,27 @@ TEST(RegFileTest, AnImportTakesTheKeysOf32BitPrograms)
 TEST(RegFileTest, SaysWhatIsWrongAndWhere)
 {
     const std::pair<std::string, std::string> lines[] = {
-        {"\"x\"=dword:", "3: a dword has 1 to 8"},
-        {"\"x\"=dword:123456789", "3: a dword has 1 to 8"},
-        {"\"x\"=dword:12g", "3: text after the value's data"},
-        {"\"x\"=hex:1g", "3: ',' is missing"},
-        {"\"x\"=hex:g", "3: not a hexadecimal byte"},
+        {"\"x\"=dword:", "3: column 11: a dword has 1 to 8"},
+        {"\"x\"=dword:123456789", "3: column 11: a dword has 1 to 8"},
+        {"\"x\"=dword:12g", "3: column 13: text after the value's data"},
+        {"\"x\"=hex:1g", "3: column 10: ',' is missing"},
+        {"\"x\"=hex:g", "3: column 9: not a hexadecimal byte"},
         {"\"x\"=hex:01,02,", "3: the hexadecimal bytes end with a ','"},
-        {"\"x\"=hex:01,\\\n  02,\\\n  zz\n", "5: not a hexadecimal byte, at column 3"},
+        {"\"x\"=hex:01,\\\n  02,\\\n  zz\n", "5: column 3: not a hexadecimal byte"},
         {"\"x\"=hex:01,\\\n\n\"y\"=dword:1", "3: the hexadecimal bytes end"},
-        {"\"x\"=hex(:01", "3: the type is not written"},
-        {"\"x\"=hex(123456789):01", "3: the type is not written"},
-        {"\"x\"=qword:1", "3: unknown kind of data; expected a quoted text, dword:, hex: or hex(NUMBER):, at column 5"},
+        {"\"x\"=hex(:01", "3: column 5: the type is not written"},
+        {"\"x\"=hex(123456789):01", "3: column 5: the type is not written"},
+        {"\"x\"=qword:1", "3: column 5: unknown kind of data; expected a quoted text, dword:, hex: or hex(NUMBER):"},
         {"\"x\"=", "3: the value's data is missing"},
         {"\"x\"", "3: '=' is missing"},
         {"\"x=dword:1", "3: a quoted text that begins here is not closed"},
         {"\n\n\"x\"=\"abc\n\"y\"=dword:1", "5: "},
         {"\"x\"=\"C:\\temp\"", "3: unknown escape \"\\t\""},
-        {"\"x\"=\"a\" b", "3: text after the value's data, at column 9"},
-        {"\"x\"=\"a\"\"b\"", "3: text after"},
-        {"\"x\"=-1", "3: text after"},
-        {"x=dword:1", "3: expected a key in brackets"},
+        {"\"x\"=\"a\" b", "3: column 9: text after the value's data"},
+        {"\"x\"=\"a\"\"b\"", "3: column 8: text after"},
+        {"\"x\"=-1", "3: column 6: text after"},
+        {"x=dword:1", "3: expected a key in brackets, a value or a comment, not \"x\""},
+        {"\"ProtectKey\"=hex:01,02\n  aa,bb\n", "4: column 3: expected a key in brackets, a value or a comment"},
         {"[HKLM\\a", "3: the bracket of the key is not closed"},
         {"[HKXX\\a]", "3: the key does not begin with a known hive"},
         {"[]", "3: the key does not begin with a known hive"},
@@ -391,7 +392,7 @@ TEST(RegFileTest, SaysWhatIsWrongAndWhere)
         {std::string("\"a\0b\"=dword:1", 13), "3: the value's name holds a NUL"},
         {std::string("\"a\"=\"\0\"", 7), "3: the value's text holds a NUL"},
         {"\"\xFF\"=dword:1", "3: the text is not well-formed UTF-8"},
-        {"\"x\"=dword\n\"\xFF\"=dword:1", "3: unknown kind of data"}, // the first one counts
+        {"\"x\"=dword\n\"\xFF\"=dword:1", "3: column 5: unknown kind of data"}, // the first one counts
         {"[HKLM\\" + std::string(300, 'k') + "]", "3: the key name \"kkk"},
     };
     for (const auto& [line, message] : lines) {

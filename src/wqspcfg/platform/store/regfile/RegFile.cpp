@@ -188,7 +188,7 @@ class RegFileParser::Impl
     {
         const auto passed = std::u16string_view(m_text).substr(m_start, at);
         const auto begin = passed.rfind(u'\n') + 1; // 0 where there is none
-        return FailAt(at, cause + ", at column " + std::to_string(passed.size() - begin + 1));
+        return FailAt(at, "column " + std::to_string(passed.size() - begin + 1) + ": " + cause);
     }
 
     bool Fail(ErrorKind kind, std::string_view cause)
@@ -481,7 +481,11 @@ class RegFileParser::Impl
         case u'@':
             return ParseValue(line, at);
         default:
-            return FailAt(at, "expected a key in brackets, a value or a comment, not " + ShownName(line.substr(at)));
+            // A line without a name may go on with the data of the one before.
+            return line.find(u'=', at) == std::u16string_view::npos
+                       ? FailAtData(at, "expected a key in brackets, a value or a comment")
+                       : FailAt(at,
+                                "expected a key in brackets, a value or a comment, not " + ShownName(line.substr(at)));
         }
     }
 
