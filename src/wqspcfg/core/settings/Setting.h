@@ -349,11 +349,6 @@ struct Setting
         condition = [](CRegKeyEx& object) -> bool { return F{}(OwnerOf<F>(object)); };
     }
     template <class F>
-    constexpr void Apply(HookOption<Hook::HeldAs, F>)
-    {
-        heldAs = [](CRegKeyEx& object, const NumberRead& read) -> DWORD { return F{}(OwnerOf<F>(object), read); };
-    }
-    template <class F>
     constexpr void Apply(HookOption<Hook::LogAs, F>)
     {
         logAs = [](CRegKeyEx& object, DWORD value) -> DWORD { return F{}(OwnerOf<F>(object), value); };

@@ -562,7 +562,7 @@ bool Loading::QueryIteration(const Setting& row, const Iteration& iteration, T& 
     if (m_observer != nullptr) {
         if constexpr (std::is_same_v<T, DWORD>) {
             loaded.read = loaded.corrected = value;
-            loaded.held = row.Has(Flags::AsWord) ? value & 0xFFFF : value;
+            loaded.held = row.Has(Flags::AsWord) ? LOWORD(value) : value;
         } else {
             loaded.textRead = loaded.textHeld = &value;
         }
