@@ -31,16 +31,27 @@ FileDescriptor OpenAt(int directory, const char* name, int flags, unsigned mode)
     return file;
 }
 
-void VisitNames(FileDescriptor directory, const std::function<bool(const char* name)>& visit)
+int VisitNames(FileDescriptor directory, const std::function<bool(const char* name)>& visit)
 {
     auto* open = fdopendir(directory.Get());
     if (open == nullptr) {
-        return;
+        return errno;
     }
     (void)directory.Release(); // closed with it
-    for (const auto* entry = readdir(open); entry != nullptr && visit(&entry->d_name[0]); entry = readdir(open)) {
+    int status = 0;
+    for (;;) {
+        errno = 0;
+        const auto* entry = readdir(open);
+        if (entry == nullptr) {
+            status = errno;
+            break;
+        }
+        if (!visit(&entry->d_name[0])) {
+            break;
+        }
     }
     closedir(open);
+    return status;
 }
 
 int WriteAll(const FileDescriptor& file, std::string_view bytes)

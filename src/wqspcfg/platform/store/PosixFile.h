@@ -52,8 +52,8 @@ inline FileDescriptor OpenFile(const std::string& path, int flags, unsigned mode
     return OpenAt(AT_FDCWD, path.c_str(), flags, mode);
 }
 
-// Calls `visit` with each name in an open directory, which it closes, until that is false.
-void VisitNames(FileDescriptor directory, const std::function<bool(const char* name)>& visit);
+// Calls `visit` with each name in an open directory, which it closes, until that is false. An errno value, or 0.
+int VisitNames(FileDescriptor directory, const std::function<bool(const char* name)>& visit);
 
 // Writes all of it, however often that takes. An errno value, or 0.
 int WriteAll(const FileDescriptor& file, std::string_view bytes);

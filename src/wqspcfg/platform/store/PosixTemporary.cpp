@@ -75,7 +75,7 @@ bool MarkInWork(const FileDescriptor& file, bool hasName)
 void RemoveLeftovers(int directory, const std::string& target)
 {
     const auto prefix = TemporaryPrefix(target);
-    VisitNames(OpenAt(directory, ".", O_RDONLY | O_DIRECTORY), [&](const char* each) {
+    (void)VisitNames(OpenAt(directory, ".", O_RDONLY | O_DIRECTORY), [&](const char* each) {
         const std::string_view name(each);
         const bool isOurs = name.size() == prefix.size() + kRandomLetters && name.starts_with(prefix) &&
                             name.find_first_not_of(kLetters, prefix.size()) == std::string_view::npos;

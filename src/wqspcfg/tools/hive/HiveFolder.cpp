@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <dirent.h>
 #include <initializer_list>
 #include <optional>
 #include <sys/stat.h>
@@ -35,26 +34,12 @@ struct Place
 // of another system's disk may hold two.
 bool FindName(const Place& directory, std::wstring_view name, std::optional<std::string>& found, Error& error)
 {
-    // A descriptor of its own, from the beginning of the directory.
-    auto copy = OpenAt(directory.file.Get(), ".", O_RDONLY | O_DIRECTORY);
-    const int fd = copy ? fcntl(copy.Get(), F_DUPFD_CLOEXEC, kLeastDescriptor) : -1;
-    auto* listing = fd >= 0 ? fdopendir(fd) : nullptr;
-    if (listing == nullptr) {
-        error = SystemError("read", directory.path, errno);
-        FileDescriptor{fd}.Close();
-        return false;
-    }
     std::string other;
     const auto exact = Utf8ForMessage(name);
-    int status = 0;
-    while (!found) {
-        errno = 0;
-        const auto* entry = readdir(listing);
-        if (entry == nullptr) {
-            status = errno;
-            break;
-        }
-        const std::string each = entry->d_name;
+    // A descriptor of its own, from the beginning of the directory.
+    auto copy = OpenAt(directory.file.Get(), ".", O_RDONLY | O_DIRECTORY);
+    const auto status = !copy ? errno : VisitNames(std::move(copy), [&](const char* text) {
+        const std::string each = text;
         std::wstring wide;
         if (each == exact) {
             found = each;
@@ -65,11 +50,12 @@ bool FindName(const Place& directory, std::wstring_view name, std::optional<std:
             }
             other = each;
         }
-    }
+        return !found;
+    });
     if (status != 0) {
         error = SystemError("read", directory.path, status);
+        return false;
     }
-    closedir(listing);
     if (found) {
         error = {};
     } else if (!other.empty()) {
